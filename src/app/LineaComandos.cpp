@@ -1,0 +1,75 @@
+#include "app/LineaComandos.h"
+
+#include "shell/Inicio.h"
+#include "shell/Sesion.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <cstdio>
+
+namespace {
+
+const char* Uso() {
+    return "Uso: fontaria [VERBO ...]\n"
+           "  (sin verbo)                               el programa de escritorio\n"
+           "  iniciar                                   prepara las carpetas y muestra DirectorioDatos\n"
+           "  proyecto exportar X.plm                   el proyecto como JSON\n"
+           "  proyecto importar datos.json X.plm        crea X.plm desde un JSON\n"
+           "  analizar X.plm [--json|--grids]           análisis de la red de un edificio\n"
+           "  tanque [X.plm] --metodo N [...] [--json]  tanque hidroneumático\n"
+           "  computos X.plm [--json]                   cómputos de materiales\n"
+           "  acueducto X.acu [--caso 1|2|3] [--json]   análisis de una red de acueducto\n"
+           "  acueducto exportar X.acu | importar datos.json X.acu\n";
+}
+
+}  // namespace
+
+void Imprimir(const QString& texto) {
+    const QByteArray b = texto.toUtf8();
+    fwrite(b.constData(), 1, size_t(b.size()), stdout);
+    if (!texto.endsWith(QLatin1Char('\n'))) fputc('\n', stdout);
+    fflush(stdout);
+}
+
+void ImprimirJson(const QJsonObject& o) { Imprimir(QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Indented))); }
+
+int Fallar(const QString& mensaje, int estado) {
+    fprintf(stderr, "%s\n", mensaje.toUtf8().constData());
+    return estado;
+}
+
+int DialogosConsola::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int,
+                                    int defecto, int, const QImage&) {
+    ultimoTexto = texto;
+    if (!silencioso)
+        fprintf(stderr, "%s\n%s\n%s\n", titulo.toUtf8().constData(), encabezado.toUtf8().constData(),
+                texto.toUtf8().constData());
+    return defecto;
+}
+
+void PrepararSesion(Sesion& s) {
+    s.RutaPrograma = QCoreApplication::applicationDirPath();
+    const Separadores sep = SeparadoresDelSistema();
+    SeparadoresActuales() = sep;
+    s.SeparadorDecimal = sep.decimal;
+    s.SeparadorMiles = sep.miles;
+    s.NombreUsuario = NombreUsuarioSistema();
+    s.DirectorioDatos = DirectorioDatosPorDefecto();
+    s.DirectorioTemporal = s.RutaDatos(QStringLiteral("Temporales"));
+}
+
+int EjecutarLineaComandos(const QStringList& args) {
+    if (args.size() < 2) return Fallar(QString::fromUtf8(Uso()));
+    const QString verbo = args[1];
+    if (verbo == QLatin1String("iniciar")) return VerboIniciar(args);
+    if (verbo == QLatin1String("proyecto")) return VerboProyecto(args);
+    if (verbo == QLatin1String("analizar")) return VerboAnalizar(args);
+    if (verbo == QLatin1String("tanque")) return VerboTanque(args);
+    if (verbo == QLatin1String("computos")) return VerboComputos(args);
+    if (verbo == QLatin1String("acueducto")) return VerboAcueducto(args);
+    if (verbo == QLatin1String("--help") || verbo == QLatin1String("ayuda")) {
+        Imprimir(QString::fromUtf8(Uso()));
+        return Salida::Bien;
+    }
+    return Fallar(QStringLiteral("Verbo desconocido: ") + verbo + QLatin1Char('\n') + QString::fromUtf8(Uso()));
+}

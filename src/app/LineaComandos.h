@@ -1,0 +1,56 @@
+#pragma once
+// The command line: `fontaria VERB ...`.  Each verb is a function of its own
+// file; errors go to stderr in Spanish with a non-zero status.
+
+#include "base/Dialogos.h"
+
+#include <QJsonObject>
+#include <QStringList>
+
+struct Sesion;
+
+// Exit statuses shared by the verbs.
+namespace Salida {
+constexpr int Bien = 0;
+constexpr int Falla = 1;         // bad arguments, unreadable or foreign file
+constexpr int DatosInvalidos = 2;  // the project's data are refused (numbering, no tank)
+constexpr int ErrorCalculo = 3;  // a run-time fault of a calculation
+}  // namespace Salida
+
+// Runs the verb in args[1] (args[0] is the program); returns the status.
+int EjecutarLineaComandos(const QStringList& args);
+
+// A session for a verb: program folder, separators and user name, without
+// touching the user's folders.
+void PrepararSesion(Sesion& s);
+
+// Output helpers.
+void Imprimir(const QString& texto);
+void ImprimirJson(const QJsonObject& o);
+int Fallar(const QString& mensaje, int estado = Salida::Falla);
+
+// The questions of the logic answered on a console: messages go to stderr
+// and every question takes its default button.
+class DialogosConsola : public Dialogos {
+public:
+    int MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
+                       int defecto, int icono, const QImage& imagen) override;
+    std::optional<QString> AbrirArchivo(const QString&, const QString&, const QString&) override { return {}; }
+    std::optional<QString> GuardarArchivo(const QString&, const QString&, const QString&) override { return {}; }
+    std::optional<QString> PedirTexto(const QString&, const QString&, const QString&) override { return {}; }
+    std::optional<int> ElegirColor(int) override { return {}; }
+    bool AbrirConSistema(const QString&) override { return false; }
+    void CursorOcupado(bool) override {}
+
+    // The last message shown, for verbs that report it.
+    QString ultimoTexto;
+    bool silencioso = false;
+};
+
+// The verbs.
+int VerboIniciar(const QStringList& args);
+int VerboProyecto(const QStringList& args);
+int VerboAnalizar(const QStringList& args);
+int VerboTanque(const QStringList& args);
+int VerboComputos(const QStringList& args);
+int VerboAcueducto(const QStringList& args);

@@ -1,0 +1,24 @@
+#pragma once
+// The building project file (.plm): LeerProyecto fills the model from the
+// open project connection, SalvarProyecto writes the whole model back.
+
+#include <QString>
+
+struct ProyectoEdificio;
+struct Sesion;
+
+// Reads the file on Sesion::ConexionProyecto into the model.  Every step is
+// trapped: a field that cannot be read keeps the value it had, and a closed
+// connection leaves the model as it was.
+void LeerProyecto(ProyectoEdificio& p, Sesion& s);
+
+// Opens the project connection on ArchivoProyecto and replaces every row of
+// the file with the model, in one transaction.  A project with no branch is
+// refused and nothing is written.  False with a Spanish message in `error`
+// when the save did not happen; the file then is as it was.  A run-time fault
+// of the model (more than 30 rows on a branch, a counter overflow) is raised
+// as ErrorEjecucion after the transaction has been undone.
+bool SalvarProyecto(ProyectoEdificio& p, Sesion& s, QString& error);
+
+// The refusal of a project without branches.
+QString MensajeProyectoSinRamales();

@@ -1,0 +1,315 @@
+#include "model/ProyectoJson.h"
+
+#include "base/Nivo.h"
+#include "model/ArchivoEdificio.h"
+#include "model/ProyectoEdificio.h"
+#include "shell/Sesion.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace {
+
+// Reads typed fields of one JSON object, keeping the first fault found.
+class Lector {
+public:
+    Lector(const QJsonObject& o, QString donde, QString& error) : o_(o), donde_(std::move(donde)), error_(error) {}
+
+    void Texto(const char* clave, QString& destino) {
+        const QJsonValue v = o_.value(QString::fromUtf8(clave));
+        if (v.isUndefined() || v.isNull()) return;
+        if (!v.isString()) return Falla(clave, QStringLiteral("no es un texto"));
+        destino = v.toString();
+    }
+    void Doble(const char* clave, double& destino) {
+        const QJsonValue v = o_.value(QString::fromUtf8(clave));
+        if (v.isUndefined() || v.isNull()) return;
+        if (!v.isDouble()) return Falla(clave, QStringLiteral("no es un número"));
+        destino = v.toDouble();
+    }
+    template <typename T>
+    void Entero(const char* clave, T& destino, long long minimo, long long maximo) {
+        const QJsonValue v = o_.value(QString::fromUtf8(clave));
+        if (v.isUndefined() || v.isNull()) return;
+        if (!v.isDouble() || v.toDouble() != std::floor(v.toDouble()))
+            return Falla(clave, QStringLiteral("no es un número entero"));
+        const double d = v.toDouble();
+        if (d < double(minimo) || d > double(maximo))
+            return Falla(clave, QStringLiteral("está fuera del intervalo %1 a %2").arg(minimo).arg(maximo));
+        destino = static_cast<T>(d);
+    }
+    void Logico(const char* clave, bool& destino) {
+        const QJsonValue v = o_.value(QString::fromUtf8(clave));
+        if (v.isUndefined() || v.isNull()) return;
+        if (v.isBool()) destino = v.toBool();
+        else if (v.isDouble()) destino = v.toDouble() != 0.0;
+        else Falla(clave, QStringLiteral("no es un valor lógico"));
+    }
+    void Fecha(const char* clave, QDate& destino) {
+        QString t;
+        Texto(clave, t);
+        if (t.isEmpty()) return;
+        const QDate d = LeerFecha(t);
+        if (!d.isValid()) return Falla(clave, QStringLiteral("no es una fecha dd/MM/yyyy"));
+        destino = d;
+    }
+    QJsonArray Lista(const char* clave) {
+        const QJsonValue v = o_.value(QString::fromUtf8(clave));
+        if (v.isUndefined() || v.isNull()) return {};
+        if (!v.isArray()) Falla(clave, QStringLiteral("no es una lista"));
+        return v.toArray();
+    }
+    bool Bien() const { return error_.isEmpty(); }
+
+private:
+    void Falla(const char* clave, const QString& que) {
+        if (!error_.isEmpty()) return;
+        error_ = QStringLiteral("El valor de \"%1\" %2 %3.").arg(QString::fromUtf8(clave), donde_, que);
+    }
+    const QJsonObject& o_;
+    QString donde_;
+    QString& error_;
+};
+
+QJsonObject Generales(const ProyectoEdificio& p) {
+    QJsonObject g;
+    g[QStringLiteral("Proyecto")] = p.Proyecto;
+    g[QStringLiteral("Ubicacion")] = p.Ubicacion;
+    g[QStringLiteral("Calculista")] = p.Calculista;
+    g[QStringLiteral("Cliente")] = p.Cliente;
+    g[QStringLiteral("Fecha")] = FechaTexto(p.Fecha);
+    g[QStringLiteral("Comentario")] = p.Comentario;
+    g[QStringLiteral("OpcionUsoPiezas")] = p.OpcionUsoPiezas;
+    g[QStringLiteral("OpcionPresionInicial")] = p.OpcionPresionInicial;
+    g[QStringLiteral("Valor1")] = p.Valor1;
+    g[QStringLiteral("Valor2")] = p.Valor2;
+    g[QStringLiteral("Valor3")] = p.Valor3;
+    g[QStringLiteral("Velocidad")] = p.Velocidad;
+    g[QStringLiteral("OpcionDiametro")] = p.OpcionDiametro;
+    g[QStringLiteral("DiametroMinimo")] = p.DiametroMinimo;
+    g[QStringLiteral("OpcionPerdidas")] = p.OpcionPerdidas;
+    g[QStringLiteral("CoeficienteC")] = p.CoeficienteC;
+    g[QStringLiteral("OpcionPresionM")] = p.OpcionPresionM;
+    g[QStringLiteral("PresionM")] = p.PresionM;
+    return g;
+}
+
+QJsonObject Ramal(const ProyectoEdificio& p, int i) {
+    QJsonObject r;
+    r[QStringLiteral("Numero")] = i;
+    r[QStringLiteral("NodoI")] = p.NodoI[i];
+    r[QStringLiteral("Nodoj")] = p.Nodoj[i];
+    r[QStringLiteral("longitudReal")] = p.longitudReal[i];
+    r[QStringLiteral("OpcionDiseño")] = p.OpcionDiseño[i];
+    r[QStringLiteral("ValvulaR")] = p.ValvulaR[i];
+    r[QStringLiteral("Comentario")] = p.RamalComentario[i];
+    r[QStringLiteral("Predimensionado")] = p.Predimensionado[i];
+    r[QStringLiteral("Reduccion")] = p.Reduccion[i];
+    r[QStringLiteral("NPiezas")] = p.NPiezas[i];
+    r[QStringLiteral("NConexiones")] = p.NConexiones[i];
+    QJsonArray piezas, conexiones;
+    for (int k = 1; k <= std::min(p.NPiezas[i], FilasPorRamal); ++k) {
+        QJsonObject f;
+        f[QStringLiteral("Clave")] = p.PiezaClave(i, k);
+        f[QStringLiteral("Pieza")] = p.PiezaNombre(i, k);
+        f[QStringLiteral("UnidadesGasto")] = p.PiezaUnidades(i, k);
+        f[QStringLiteral("Cantidad")] = p.PiezaCantidad(i, k);
+        piezas.append(f);
+    }
+    for (int k = 1; k <= std::min(p.NConexiones[i], FilasPorRamal); ++k) {
+        QJsonObject f;
+        f[QStringLiteral("Clave")] = p.ConexionClave(i, k);
+        f[QStringLiteral("Conexion")] = p.ConexionNombre(i, k);
+        f[QStringLiteral("LongitudEquivalente")] = p.ConexionLongitud(i, k);
+        f[QStringLiteral("Cantidad")] = p.ConexionCantidad(i, k);
+        f[QStringLiteral("OpcionAutomatico")] = p.ConexionAutomatica(i, k);
+        conexiones.append(f);
+    }
+    r[QStringLiteral("Piezas")] = piezas;
+    r[QStringLiteral("Conexiones")] = conexiones;
+    return r;
+}
+
+bool LeerRamal(const QJsonObject& o, int i, ProyectoEdificio& p, QString& error) {
+    const QString donde = QStringLiteral("en el ramal %1").arg(i);
+    Lector l(o, donde, error);
+    l.Texto("NodoI", p.NodoI[i]);
+    l.Texto("Nodoj", p.Nodoj[i]);
+    l.Doble("longitudReal", p.longitudReal[i]);
+    l.Entero("OpcionDiseño", p.OpcionDiseño[i], 0, 255);
+    l.Doble("ValvulaR", p.ValvulaR[i]);
+    l.Texto("Comentario", p.RamalComentario[i]);
+    l.Texto("Predimensionado", p.Predimensionado[i]);
+    l.Texto("Reduccion", p.Reduccion[i]);
+    const QJsonArray piezas = l.Lista("Piezas");
+    const QJsonArray conexiones = l.Lista("Conexiones");
+    if (!l.Bien()) return false;
+    if (piezas.size() > FilasPorRamal || conexiones.size() > FilasPorRamal) {
+        error = QStringLiteral("El ramal %1 tiene más de %2 filas de piezas o de conexiones.").arg(i).arg(FilasPorRamal);
+        return false;
+    }
+    p.NPiezas[i] = int(piezas.size());
+    p.NConexiones[i] = int(conexiones.size());
+    l.Entero("NPiezas", p.NPiezas[i], 0, FilasPorRamal);
+    l.Entero("NConexiones", p.NConexiones[i], 0, FilasPorRamal);
+    for (int k = 1; k <= piezas.size(); ++k) {
+        const QJsonObject f = piezas[k - 1].toObject();
+        Lector lf(f, donde + QStringLiteral(", pieza %1,").arg(k), error);
+        lf.Entero("Clave", p.PiezaClave(i, k), -32768, 32767);
+        lf.Texto("Pieza", p.PiezaNombre(i, k));
+        lf.Doble("UnidadesGasto", p.PiezaUnidades(i, k));
+        lf.Entero("Cantidad", p.PiezaCantidad(i, k), -32768, 32767);
+    }
+    for (int k = 1; k <= conexiones.size(); ++k) {
+        const QJsonObject f = conexiones[k - 1].toObject();
+        Lector lf(f, donde + QStringLiteral(", conexión %1,").arg(k), error);
+        lf.Entero("Clave", p.ConexionClave(i, k), -32768, 32767);
+        lf.Texto("Conexion", p.ConexionNombre(i, k));
+        lf.Doble("LongitudEquivalente", p.ConexionLongitud(i, k));
+        lf.Entero("Cantidad", p.ConexionCantidad(i, k), -32768, 32767);
+        lf.Logico("OpcionAutomatico", p.ConexionAutomatica(i, k));
+    }
+    return error.isEmpty();
+}
+
+}  // namespace
+
+QJsonObject ProyectoComoJson(const ProyectoEdificio& p) {
+    QJsonObject o;
+    o[QStringLiteral("DatosGenerales")] = Generales(p);
+    QJsonArray ramales, nodos;
+    for (int i = 1; i <= p.NumeroRamales; ++i) ramales.append(Ramal(p, i));
+    for (int i = 1; i <= p.NumeroNodos; ++i) {
+        QJsonObject n;
+        n[QStringLiteral("Numero")] = i;
+        n[QStringLiteral("Nodo")] = p.NodoNombre.Leer(i);
+        n[QStringLiteral("CotaPiso")] = p.CotaPiso.Leer(i);
+        n[QStringLiteral("CotaRelativa")] = p.CotaRelativa.Leer(i);
+        nodos.append(n);
+    }
+    o[QStringLiteral("NumeroRamales")] = int(p.NumeroRamales);
+    o[QStringLiteral("NumeroNodos")] = int(p.NumeroNodos);
+    o[QStringLiteral("Ramales")] = ramales;
+    o[QStringLiteral("Nodos")] = nodos;
+    return o;
+}
+
+bool ProyectoDesdeJson(const QJsonObject& o, ProyectoEdificio& p, QString& error) {
+    error.clear();
+    const QJsonObject g = o.value(QStringLiteral("DatosGenerales")).toObject();
+    Lector l(g, QStringLiteral("en los datos generales"), error);
+    l.Texto("Proyecto", p.Proyecto);
+    l.Texto("Ubicacion", p.Ubicacion);
+    l.Texto("Calculista", p.Calculista);
+    l.Texto("Cliente", p.Cliente);
+    l.Fecha("Fecha", p.Fecha);
+    l.Texto("Comentario", p.Comentario);
+    l.Entero("OpcionUsoPiezas", p.OpcionUsoPiezas, 0, 3);
+    l.Entero("OpcionPresionInicial", p.OpcionPresionInicial, 0, 2);
+    l.Doble("Valor1", p.Valor1);
+    l.Doble("Valor2", p.Valor2);
+    l.Doble("Valor3", p.Valor3);
+    l.Doble("Velocidad", p.Velocidad);
+    l.Entero("OpcionDiametro", p.OpcionDiametro, 0, 2);
+    l.Logico("DiametroMinimo", p.DiametroMinimo);
+    l.Entero("OpcionPerdidas", p.OpcionPerdidas, 0, 2);
+    l.Doble("CoeficienteC", p.CoeficienteC);
+    l.Logico("OpcionPresionM", p.OpcionPresionM);
+    l.Doble("PresionM", p.PresionM);
+    if (!l.Bien()) return false;
+
+    const QJsonArray ramales = o.value(QStringLiteral("Ramales")).toArray();
+    if (ramales.size() > 32766) {
+        error = QStringLiteral("El proyecto tiene %1 ramales; el máximo es 32766.").arg(ramales.size());
+        return false;
+    }
+    p.NumeroRamales = int(ramales.size());
+    p.DimensionarRamales(p.NumeroRamales);
+    for (int i = 1; i <= p.NumeroRamales; ++i) {
+        if (!ramales[i - 1].isObject()) {
+            error = QStringLiteral("El ramal %1 no es un objeto.").arg(i);
+            return false;
+        }
+        if (!LeerRamal(ramales[i - 1].toObject(), i, p, error)) return false;
+    }
+
+    // Levels by position; the names are rebuilt from the branches at the save.
+    const QJsonArray nodos = o.value(QStringLiteral("Nodos")).toArray();
+    const int n = std::max<int>(int(nodos.size()), p.NumeroRamales + 1);
+    p.NumeroNodos = n;
+    p.DimensionarNodos(n);
+    for (int i = 1; i <= nodos.size(); ++i) {
+        Lector ln(nodos[i - 1].toObject(), QStringLiteral("en el nodo %1").arg(i), error);
+        ln.Texto("Nodo", p.NodoNombre[i]);
+        ln.Doble("CotaPiso", p.CotaPiso[i]);
+        if (!ln.Bien()) return false;
+    }
+    return true;
+}
+
+bool EsArchivoProyecto(Conexion& c) {
+    for (const char* t : {"DatosGenerales", "DatosRamales", "DatosNodos", "DatosPiezas", "DatosConexiones"})
+        if (!c.ExisteTabla(QString::fromLatin1(t))) return false;
+    return true;
+}
+
+bool ExportarProyecto(const QString& archivo, Sesion& s, QJsonObject& salida, QString& error) {
+    ProyectoEdificio p;
+    ValoresIniciales(p, s);
+    s.ArchivoProyecto = archivo;
+    if (AbrirConexionProyecto(s) != 0) {
+        error = s.ConexionProyecto.UltimoError();
+        return false;
+    }
+    if (!EsArchivoProyecto(s.ConexionProyecto)) {
+        error = QStringLiteral("El archivo no es un proyecto de Fontaria: ") + archivo;
+        s.ConexionProyecto.Cerrar();
+        return false;
+    }
+    LeerProyecto(p, s);
+    s.ConexionProyecto.Cerrar();
+    salida = ProyectoComoJson(p);
+    return true;
+}
+
+bool ImportarProyecto(const QString& json, const QString& destino, Sesion& s, QString& error) {
+    QFile f(json);
+    if (!f.open(QIODevice::ReadOnly)) {
+        error = QStringLiteral("No se puede leer el archivo: ") + json;
+        return false;
+    }
+    QJsonParseError pe;
+    const QJsonDocument doc = QJsonDocument::fromJson(f.readAll(), &pe);
+    if (doc.isNull() || !doc.isObject()) {
+        error = QStringLiteral("El archivo no es un proyecto en JSON válido: %1 (%2)").arg(json, pe.errorString());
+        return false;
+    }
+    ProyectoEdificio p;
+    ValoresIniciales(p, s);
+    if (!ProyectoDesdeJson(doc.object(), p, error)) return false;
+    if (p.NumeroRamales < 1) {
+        error = MensajeProyectoSinRamales();
+        return false;
+    }
+
+    const QString temporal = QFileInfo(destino).absolutePath() + QStringLiteral("/.") +
+                             QFileInfo(destino).fileName() + QStringLiteral(".tmp");
+    if (!CopiarArchivo(s.RutaImagen(QStringLiteral("Proyecto.nivo")), temporal, &error)) return false;
+    s.ArchivoProyecto = temporal;
+    bool ok = false;
+    try {
+        ok = SalvarProyecto(p, s, error);
+    } catch (const ErrorEjecucion& e) {
+        error = QString::fromUtf8(e.what());
+    }
+    s.ConexionProyecto.Cerrar();
+    if (ok) {
+        ok = ReemplazarArchivo(temporal, destino);
+        if (!ok) error = QStringLiteral("No se puede escribir el archivo: ") + destino;
+    }
+    if (!ok) QFile::remove(temporal);
+    s.ArchivoProyecto = destino;
+    return ok;
+}

@@ -1,0 +1,105 @@
+#include "Apoyo.h"
+
+#include "base/Nivo.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+QString RutaProgramaPruebas() { return QStringLiteral(FONTARIA_RUTA_PROGRAMA); }
+QString EjecutablePruebas() { return QStringLiteral(FONTARIA_EJECUTABLE); }
+
+int DialogosFalsos::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo,
+                                   int botones, int defecto, int icono, const QImage&) {
+    mensajes.push_back({texto, encabezado, titulo, botones, defecto, icono});
+    if (respuestas.empty()) {
+        if (botones == Botones::Aceptar) return Respuesta::Aceptar;
+        if (botones == Botones::SiNo) return defecto == 0 ? Respuesta::No : Respuesta::Si;
+        return defecto == 0 ? Respuesta::Cancelar : defecto == 1 ? Respuesta::No : Respuesta::Si;
+    }
+    const int r = respuestas.front();
+    respuestas.pop_front();
+    return r;
+}
+
+std::optional<QString> DialogosFalsos::AbrirArchivo(const QString& titulo, const QString& filtro,
+                                                    const QString& carpeta) {
+    dialogosArchivo << titulo + QLatin1Char('|') + filtro + QLatin1Char('|') + carpeta;
+    if (archivos.empty()) return std::nullopt;
+    auto r = archivos.front();
+    archivos.pop_front();
+    return r;
+}
+
+std::optional<QString> DialogosFalsos::GuardarArchivo(const QString& titulo, const QString& filtro,
+                                                      const QString& carpeta) {
+    return AbrirArchivo(titulo, filtro, carpeta);
+}
+
+std::optional<QString> DialogosFalsos::PedirTexto(const QString& texto, const QString& titulo,
+                                                  const QString& inicial) {
+    preguntas << texto + QLatin1Char('|') + titulo + QLatin1Char('|') + inicial;
+    if (textos.empty()) return std::nullopt;
+    auto r = textos.front();
+    textos.pop_front();
+    return r;
+}
+
+std::optional<int> DialogosFalsos::ElegirColor(int) {
+    if (colores.empty()) return std::nullopt;
+    auto r = colores.front();
+    colores.pop_front();
+    return r;
+}
+
+bool DialogosFalsos::AbrirConSistema(const QString& ruta) {
+    abiertos << ruta;
+    return abrirConSistemaResulta;
+}
+
+SesionPrueba::SesionPrueba() {
+    s.RutaPrograma = RutaProgramaPruebas();
+    s.DirectorioDatos = dir_.path();
+    s.DirectorioTemporal = dir_.path() + QStringLiteral("/Temporales");
+    QDir().mkpath(s.DirectorioTemporal);
+    SeparadoresActuales() = Separadores();
+    s.SeparadorDecimal = QLatin1Char('.');
+    s.SeparadorMiles = QLatin1Char(',');
+}
+
+QString SesionPrueba::ProyectoEnBlanco(const QString& nombre) {
+    const QString ruta = Datos(nombre);
+    QFile::remove(ruta);
+    QFile::copy(s.RutaImagen(QStringLiteral("Proyecto.nivo")), ruta);
+    QFile(ruta).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    return ruta;
+}
+
+QString SesionPrueba::AcueductoEnBlanco(const QString& nombre) {
+    const QString ruta = Datos(nombre);
+    QFile::remove(ruta);
+    QFile::copy(s.RutaImagen(QStringLiteral("Malla.nivo")), ruta);
+    QFile(ruta).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    return ruta;
+}
+
+QString SesionPrueba::CopiaDeEjemplo(const QString& nivo, const QString& destino) {
+    const QString ruta = Datos(destino);
+    QFile::remove(ruta);
+    QFile::copy(s.RutaImagen(nivo), ruta);
+    QFile(ruta).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    return ruta;
+}
+
+int EjecutarPrograma(const QStringList& args, QString* salida, QString* errores, const QStringList& entorno) {
+    QProcess p;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    for (const QString& e : entorno) env.insert(e.section(QLatin1Char('='), 0, 0), e.section(QLatin1Char('='), 1));
+    p.setProcessEnvironment(env);
+    p.start(EjecutablePruebas(), args);
+    p.waitForFinished(120000);
+    if (salida) *salida = QString::fromUtf8(p.readAllStandardOutput());
+    if (errores) *errores = QString::fromUtf8(p.readAllStandardError());
+    return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+}

@@ -1,0 +1,71 @@
+#pragma once
+// Shared test support: a scripted Dialogos, a session in a temporary data
+// folder, and blank project files from the installed templates.
+
+#include "base/Dialogos.h"
+#include "shell/Sesion.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+#include <deque>
+#include <vector>
+
+// The program folder of the build, holding the generated Imagen/.
+QString RutaProgramaPruebas();
+// The built executable, for command-line tests.
+QString EjecutablePruebas();
+
+// Records every question and answers from a script, in turn; with the
+// script empty it answers the question's default.
+class DialogosFalsos : public Dialogos {
+public:
+    struct Mensaje {
+        QString texto, encabezado, titulo;
+        int botones = 0, defecto = 0, icono = 0;
+    };
+    std::vector<Mensaje> mensajes;
+    std::deque<int> respuestas;                       // for MostrarMensaje
+    std::deque<std::optional<QString>> archivos;      // for AbrirArchivo / GuardarArchivo
+    std::deque<std::optional<QString>> textos;        // for PedirTexto
+    std::deque<std::optional<int>> colores;
+    QStringList dialogosArchivo;  // "titulo|filtro|carpeta" of each file dialog
+    QStringList preguntas;        // "texto|titulo|inicial" of each input box
+    QStringList abiertos;         // paths opened with the system
+    bool abrirConSistemaResulta = true;
+    int ocupado = 0;
+
+    int MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
+                       int defecto, int icono, const QImage& imagen) override;
+    std::optional<QString> AbrirArchivo(const QString& titulo, const QString& filtro, const QString& carpeta) override;
+    std::optional<QString> GuardarArchivo(const QString& titulo, const QString& filtro,
+                                          const QString& carpeta) override;
+    std::optional<QString> PedirTexto(const QString& texto, const QString& titulo, const QString& inicial) override;
+    std::optional<int> ElegirColor(int inicial) override;
+    bool AbrirConSistema(const QString& ruta) override;
+    void CursorOcupado(bool o) override { ocupado += o ? 1 : -1; }
+
+    const Mensaje& Ultimo() const { return mensajes.back(); }
+};
+
+// A session whose data folder is a fresh temporary folder and whose program
+// folder is the build's; separators fixed to '.' and ','.
+class SesionPrueba {
+public:
+    SesionPrueba();
+    Sesion s;
+    QString Datos(const QString& relativa) const { return s.RutaDatos(relativa); }
+    // A blank building project (a copy of Proyecto.nivo) at DirectorioDatos/nombre.
+    QString ProyectoEnBlanco(const QString& nombre = QStringLiteral("prueba.plm"));
+    // A blank aqueduct project (a copy of Malla.nivo).
+    QString AcueductoEnBlanco(const QString& nombre = QStringLiteral("prueba.acu"));
+    // Copies an installed sample (Imagen/NAME.nivo) to DirectorioDatos/destino.
+    QString CopiaDeEjemplo(const QString& nivo, const QString& destino);
+
+private:
+    QTemporaryDir dir_;
+};
+
+// Runs the built executable with arguments; returns the exit status and
+// fills the outputs.
+int EjecutarPrograma(const QStringList& args, QString* salida = nullptr, QString* errores = nullptr,
+                     const QStringList& entorno = {});
