@@ -68,7 +68,7 @@ private:
         if (!error_.isEmpty()) return;
         error_ = QStringLiteral("El valor de \"%1\" %2 %3.").arg(QString::fromUtf8(clave), donde_, que);
     }
-    const QJsonObject& o_;
+    const QJsonObject o_;
     QString donde_;
     QString& error_;
 };

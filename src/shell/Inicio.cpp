@@ -51,7 +51,6 @@ QString DirectorioDatosPorDefecto() {
     if (!env.isEmpty()) return QDir::cleanPath(env);
     QString docs = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (docs.isEmpty()) docs = QDir::homePath();
-    CrearCarpeta(docs + QStringLiteral("/Nivo Software"));
     return docs + QStringLiteral("/Nivo Software/Nivo-Fontaria 2024");
 }
 

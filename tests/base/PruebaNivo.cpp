@@ -1,3 +1,152 @@
+#include "base/Arreglo.h"
+#include "base/Entero16.h"
+#include "base/ErrorEjecucion.h"
+#include "base/Grid.h"
 #include "base/Nivo.h"
+
 #include <gtest/gtest.h>
-TEST(Nivo, Compila) { EXPECT_EQ(RoundNivo(0.294068, 2), 0.29); }
+
+namespace {
+
+int NumeroDeError(const std::function<void()>& f) {
+    try {
+        f();
+    } catch (const ErrorEjecucion& e) {
+        return e.numero();
+    }
+    return 0;
+}
+
+}  // namespace
+
+TEST(RoundNivo, MitadSeAlejaDeCero) {
+    EXPECT_DOUBLE_EQ(RoundNivo(0.125, 2), 0.13);
+    EXPECT_DOUBLE_EQ(RoundNivo(-0.125, 2), -0.13);
+    EXPECT_DOUBLE_EQ(RoundNivo(2.5, 0), 3.0);
+    EXPECT_DOUBLE_EQ(RoundNivo(-2.5, 0), -3.0);
+    // 2.675 and 1.005 are stored a hair below the half: typed values still round up.
+    EXPECT_DOUBLE_EQ(RoundNivo(2.675, 2), 2.68);
+    EXPECT_DOUBLE_EQ(RoundNivo(1.005, 2), 1.01);
+    // The flow of an empty branch under the raised tank curve: 0.294068 -> 0.29.
+    EXPECT_DOUBLE_EQ(RoundNivo(0.294068, 2), 0.29);
+    EXPECT_DOUBLE_EQ(RoundNivo(0.12344999, 4), 0.1234);
+    EXPECT_DOUBLE_EQ(RoundNivo(1e-9, 8), 0.0);
+    EXPECT_DOUBLE_EQ(RoundNivo(5e-9, 8), 1e-8);
+}
+
+TEST(Texto, TrimQuitaSoloBlancosYUCaseEsUnicode) {
+    EXPECT_EQ(Trim(QStringLiteral("  A B  ")), QStringLiteral("A B"));
+    EXPECT_EQ(Trim(QStringLiteral("\tA\n")), QStringLiteral("\tA\n"));
+    EXPECT_EQ(LTrim(QStringLiteral("  A ")), QStringLiteral("A "));
+    EXPECT_EQ(RTrim(QStringLiteral("  A ")), QStringLiteral("  A"));
+    EXPECT_EQ(UCase(QStringLiteral("válvula reducción ñandú")), QStringLiteral("VÁLVULA REDUCCIÓN ÑANDÚ"));
+}
+
+TEST(Formato, MascarasConSeparadoresDeLaSesion) {
+    const Separadores punto;  // '.' decimal, ',' thousands
+    EXPECT_EQ(Formato(1234.56, QStringLiteral("#,##0.00"), punto), QStringLiteral("1,234.56"));
+    EXPECT_EQ(Formato(1234567.891, QStringLiteral("#,##0.00"), punto), QStringLiteral("1,234,567.89"));
+    EXPECT_EQ(Formato(0.0, QStringLiteral("#,##0.00"), punto), QStringLiteral("0.00"));
+    EXPECT_EQ(Formato(-0.004, QStringLiteral("0.00"), punto), QStringLiteral("0.00"));
+    EXPECT_EQ(Formato(-12.345, QStringLiteral("0.00"), punto), QStringLiteral("-12.35"));
+    EXPECT_EQ(Formato(999.999, QStringLiteral("#,##0.00"), punto), QStringLiteral("1,000.00"));
+    EXPECT_EQ(Formato(2.5, QStringLiteral("0.00  "), punto), QStringLiteral("2.50  "));
+    EXPECT_EQ(Formato(42.0, QStringLiteral("0"), punto), QStringLiteral("42"));
+    Separadores coma;
+    coma.decimal = QLatin1Char(',');
+    coma.miles = QLatin1Char('.');
+    EXPECT_EQ(Formato(1234.56, QStringLiteral("#,##0.00"), coma), QStringLiteral("1.234,56"));
+    EXPECT_EQ(Formato(3.5, QStringLiteral("0.00"), coma), QStringLiteral("3,50"));
+}
+
+TEST(Formato, LeerNumeroAceptaLaFormaDeLaSesion) {
+    SeparadoresActuales() = Separadores();
+    double v = 0;
+    EXPECT_TRUE(LeerNumero(QStringLiteral(" 1,234.5 "), v));
+    EXPECT_DOUBLE_EQ(v, 1234.5);
+    EXPECT_FALSE(LeerNumero(QStringLiteral("abc"), v));
+    EXPECT_FALSE(LeerNumero(QStringLiteral("   "), v));
+    EXPECT_DOUBLE_EQ(Val(QStringLiteral("12.5 m")), 12.5);
+    EXPECT_DOUBLE_EQ(Val(QStringLiteral("m 12")), 0.0);
+}
+
+TEST(Fechas, TextoDdMmAaaaIdaYVuelta) {
+    const QDate d(2024, 3, 7);
+    EXPECT_EQ(FechaTexto(d), QStringLiteral("07/03/2024"));
+    EXPECT_EQ(LeerFecha(QStringLiteral("07/03/2024")), d);
+    EXPECT_EQ(LeerFecha(QStringLiteral("2024-03-07")), d);
+    EXPECT_FALSE(LeerFecha(QStringLiteral("31/02/2024")).isValid());
+    EXPECT_EQ(Hoy(), QDate::currentDate());
+}
+
+TEST(Entero16, DesbordaEnElBordeDe32767) {
+    Entero16 n = 32766;
+    EXPECT_EQ(int(n + 1), 32767);
+    n = 32767;
+    EXPECT_EQ(NumeroDeError([&] { Entero16 m = n + 1; (void)m; }), Error::Desbordamiento);
+    EXPECT_EQ(NumeroDeError([&] { ++n; }), Error::Desbordamiento);
+    EXPECT_EQ(int(n), 32767);  // a failed step leaves the counter as it was
+    EXPECT_EQ(NumeroDeError([] { Entero16 m = -32769; (void)m; }), Error::Desbordamiento);
+    EXPECT_EQ(NumeroDeError([] { Entero16 m = 200; m = m * 200; }), Error::Desbordamiento);
+}
+
+TEST(Arreglo, RanuraCeroYSubindiceFuera) {
+    Arreglo<double> a(3);
+    EXPECT_EQ(a.Ubound(), 3);
+    EXPECT_DOUBLE_EQ(a[0], 0.0);
+    a[3] = 2.5;
+    EXPECT_EQ(NumeroDeError([&] { a[4] = 1; }), Error::SubindiceFuera);
+    EXPECT_EQ(NumeroDeError([&] { a[-1] = 1; }), Error::SubindiceFuera);
+    a.RedimPreserve(5);
+    EXPECT_DOUBLE_EQ(a[3], 2.5);
+    a.Redim(5);
+    EXPECT_DOUBLE_EQ(a[3], 0.0);
+    EXPECT_DOUBLE_EQ(a.Leer(99), 0.0);
+    a.Erase();
+    EXPECT_EQ(a.Ubound(), -1);
+
+    Arreglo2<bool> b;
+    b.Redim(2, 30);
+    b(2, 30) = true;
+    EXPECT_TRUE(b(2, 30));
+    EXPECT_EQ(NumeroDeError([&] { b(2, 31) = true; }), Error::SubindiceFuera);
+    b.RedimPreserve(4, 30);
+    EXPECT_TRUE(b(2, 30));
+    EXPECT_FALSE(b(4, 30));
+}
+
+TEST(ErrorEjecucion, DivisionYPotenciaComoElTiempoDeEjecucion) {
+    EXPECT_EQ(NumeroDeError([] { Dividir(1.0, 0.0); }), Error::DivisionPorCero);
+    EXPECT_EQ(NumeroDeError([] { Dividir(0.0, 0.0); }), Error::Desbordamiento);
+    EXPECT_EQ(NumeroDeError([] { Potencia(-8.0, 0.5); }), Error::LlamadaNoValida);
+    EXPECT_EQ(NumeroDeError([] { Potencia(0.0, -1.0); }), Error::DivisionPorCero);
+    EXPECT_EQ(NumeroDeError([] { Potencia(1e300, 10.0); }), Error::Desbordamiento);
+    EXPECT_DOUBLE_EQ(Potencia(-2.0, 3.0), -8.0);
+    EXPECT_EQ(ErrorEjecucion(9).descripcion(), QStringLiteral("Subíndice fuera del intervalo"));
+    EXPECT_EQ(ErrorEjecucion(6).descripcion(), QStringLiteral("Desbordamiento"));
+}
+
+TEST(Grid, CeldasUnionesYOrden) {
+    Grid g(3);
+    g.PonerFilas(3);
+    g.PonerTexto(1, 1, QStringLiteral("b"));
+    g.PonerTexto(2, 1, QStringLiteral("a"));
+    g.PonerTexto(3, 1, QStringLiteral("C"));
+    g.PonerNumero(1, 2, 3.14159, 2);
+    EXPECT_EQ(g.Texto(1, 2), QStringLiteral("3.14"));
+    EXPECT_DOUBLE_EQ(g.Valor(1, 2), 3.14159);
+    g.Unir(1, 3, 2, 1);
+    g.InsertarFila(1);  // spans below move with their rows
+    ASSERT_NE(g.UnionEn(2, 3), nullptr);
+    EXPECT_EQ(g.UnionEn(2, 3)->filas, 2);
+    g.EliminarFila(1);
+    // Sorted as text by character codes: capitals first.
+    g.OrdenarPorTexto(1);
+    EXPECT_EQ(g.Texto(1, 1), QStringLiteral("C"));
+    EXPECT_EQ(g.Texto(2, 1), QStringLiteral("a"));
+    EXPECT_EQ(g.Texto(3, 1), QStringLiteral("b"));
+    EXPECT_EQ(g.Texto(3, 2), QStringLiteral("3.14"));  // the row moves whole
+    g.PonerFilas(1);
+    EXPECT_EQ(g.Filas(), 1);
+    EXPECT_THROW(g.Texto(2, 1), ErrorEjecucion);
+}

@@ -1,0 +1,119 @@
+#include "Apoyo.h"
+#include "model/ProyectoJson.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <gtest/gtest.h>
+
+namespace {
+
+const char* kJson = R"({
+  "DatosGenerales": {"Proyecto": "Vivienda Ruiz", "Ubicacion": "Cumaná", "Calculista": "M. Salas",
+    "Cliente": "Familia Ruiz", "Fecha": "02/01/2025", "Comentario": "prueba", "OpcionUsoPiezas": 1,
+    "OpcionPresionInicial": 2, "Valor1": 8, "Valor2": 12.5, "Valor3": 4, "Velocidad": 1.1,
+    "OpcionDiametro": 2, "DiametroMinimo": true, "OpcionPerdidas": 1, "CoeficienteC": 130,
+    "OpcionPresionM": false, "PresionM": 35},
+  "Ramales": [
+    {"NodoI": "T", "Nodoj": "1", "longitudReal": 6, "OpcionDiseño": 0, "ValvulaR": 0, "Comentario": "montante",
+     "Predimensionado": "1 1/2", "Reduccion": "", "Piezas": [],
+     "Conexiones": [{"Clave": 5, "Conexion": "CODO DE 90 GRADOS", "LongitudEquivalente": 0, "Cantidad": 3,
+                     "OpcionAutomatico": true}]},
+    {"NodoI": "1", "Nodoj": "2", "longitudReal": 3.75, "OpcionDiseño": 1, "ValvulaR": 2.5, "Comentario": "",
+     "Predimensionado": "", "Reduccion": "REDUCCIÓN DE  1 1/2\"  a  1\"",
+     "Piezas": [{"Clave": 4, "Pieza": "DUCHA", "UnidadesGasto": 1.5, "Cantidad": 2},
+                {"Clave": 21, "Pieza": "APTO 2", "UnidadesGasto": 12.25, "Cantidad": 1}],
+     "Conexiones": []}
+  ],
+  "Nodos": [{"Nodo": "T", "CotaPiso": 0}, {"Nodo": "1", "CotaPiso": 6}, {"Nodo": "2", "CotaPiso": 3}]
+})";
+
+QString Escribir(SesionPrueba& sp, const QString& nombre, const QByteArray& texto) {
+    const QString ruta = sp.Datos(nombre);
+    QFile f(ruta);
+    f.open(QIODevice::WriteOnly);
+    f.write(texto);
+    return ruta;
+}
+
+}  // namespace
+
+TEST(ProyectoJson, JsonPlmJsonConservaLoQueElArchivoGuarda) {
+    SesionPrueba sp;
+    const QString json = Escribir(sp, QStringLiteral("p.json"), kJson);
+    const QString plm = sp.Datos(QStringLiteral("p.plm"));
+    QString error;
+    ASSERT_TRUE(ImportarProyecto(json, plm, sp.s, error)) << error.toStdString();
+    QJsonObject o;
+    ASSERT_TRUE(ExportarProyecto(plm, sp.s, o, error)) << error.toStdString();
+
+    const QJsonObject entrada = QJsonDocument::fromJson(kJson).object();
+    const QJsonObject g = o[QStringLiteral("DatosGenerales")].toObject();
+    const QJsonObject ge = entrada[QStringLiteral("DatosGenerales")].toObject();
+    for (const QString& k : ge.keys()) {
+        if (k == QLatin1String("Ubicacion") || k == QLatin1String("Cliente")) continue;
+        EXPECT_EQ(g[k], ge[k]) << k.toStdString();
+    }
+    EXPECT_EQ(g[QStringLiteral("Ubicacion")].toString(), QString());  // not written
+    EXPECT_EQ(g[QStringLiteral("Cliente")].toString(), QString());    // not read
+
+    const QJsonArray r = o[QStringLiteral("Ramales")].toArray();
+    const QJsonArray re = entrada[QStringLiteral("Ramales")].toArray();
+    ASSERT_EQ(r.size(), 2);
+    for (int i = 0; i < 2; ++i)
+        for (const QString& k : re[i].toObject().keys())
+            EXPECT_EQ(r[i].toObject()[k], re[i].toObject()[k]) << i << " " << k.toStdString();
+    EXPECT_EQ(r[1].toObject()[QStringLiteral("NPiezas")].toInt(), 2);
+
+    const QJsonArray n = o[QStringLiteral("Nodos")].toArray();
+    ASSERT_EQ(n.size(), 3);
+    EXPECT_EQ(n[2].toObject()[QStringLiteral("Nodo")].toString(), QStringLiteral("2"));
+    // Elevated tank: node 2 is the reference, node 1 keeps its level.
+    EXPECT_DOUBLE_EQ(n[2].toObject()[QStringLiteral("CotaRelativa")].toDouble(), -3.0);
+    EXPECT_DOUBLE_EQ(n[0].toObject()[QStringLiteral("CotaRelativa")].toDouble(), 0.0);
+}
+
+TEST(ProyectoJson, DatosMalosDanUnMensajeYNoDejanArchivo) {
+    SesionPrueba sp;
+    const QString plm = sp.Datos(QStringLiteral("malo.plm"));
+    QString error;
+    const QString noNumero = Escribir(sp, QStringLiteral("a.json"),
+                                      R"({"Ramales":[{"NodoI":"A","Nodoj":"B","longitudReal":"diez"}]})");
+    EXPECT_FALSE(ImportarProyecto(noNumero, plm, sp.s, error));
+    EXPECT_EQ(error, QStringLiteral("El valor de \"longitudReal\" en el ramal 1 no es un número."));
+    EXPECT_FALSE(QFile::exists(plm));
+
+    const QString opcion = Escribir(sp, QStringLiteral("b.json"),
+                                    R"({"DatosGenerales":{"OpcionPerdidas":3},"Ramales":[{"NodoI":"A","Nodoj":"B"}]})");
+    EXPECT_FALSE(ImportarProyecto(opcion, plm, sp.s, error));
+    EXPECT_TRUE(error.contains(QStringLiteral("OpcionPerdidas")));
+
+    const QString roto = Escribir(sp, QStringLiteral("c.json"), "{\"Ramales\": [");
+    EXPECT_FALSE(ImportarProyecto(roto, plm, sp.s, error));
+    EXPECT_TRUE(error.startsWith(QStringLiteral("El archivo no es un proyecto en JSON válido")));
+
+    const QString sinRamales = Escribir(sp, QStringLiteral("d.json"), R"({"DatosGenerales":{}})");
+    EXPECT_FALSE(ImportarProyecto(sinRamales, plm, sp.s, error));
+    EXPECT_FALSE(QFile::exists(plm));
+
+    // An existing project is left untouched by a failed import.
+    const QString bueno = Escribir(sp, QStringLiteral("e.json"), kJson);
+    ASSERT_TRUE(ImportarProyecto(bueno, plm, sp.s, error));
+    const QByteArray antes = [&] { QFile f(plm); f.open(QIODevice::ReadOnly); return f.readAll(); }();
+    EXPECT_FALSE(ImportarProyecto(noNumero, plm, sp.s, error));
+    QFile f(plm);
+    f.open(QIODevice::ReadOnly);
+    EXPECT_EQ(f.readAll(), antes);
+}
+
+TEST(ProyectoJson, ExportarUnArchivoAjenoEsUnError) {
+    SesionPrueba sp;
+    QString error;
+    QJsonObject o;
+    // A database without the project's tables.
+    EXPECT_FALSE(ExportarProyecto(sp.s.RutaImagen(QStringLiteral("Malla.nivo")), sp.s, o, error));
+    EXPECT_TRUE(error.startsWith(QStringLiteral("El archivo no es un proyecto de Fontaria")));
+    const QString texto = Escribir(sp, QStringLiteral("x.plm"), "hola");
+    EXPECT_FALSE(ExportarProyecto(texto, sp.s, o, error));
+    EXPECT_FALSE(error.isEmpty());
+}

@@ -1,0 +1,119 @@
+#include "Apoyo.h"
+#include "store/Conexion.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace {
+
+QString BaseConTabla(SesionPrueba& sp) {
+    const QString ruta = sp.Datos(QStringLiteral("t.db"));
+    Conexion c;
+    c.Crear(ruta);
+    c.EjecutarGuion(QStringLiteral("CREATE TABLE Piezas (ClavePieza INTEGER, NombrePieza TEXT, Foto BLOB);"
+                                   "INSERT INTO Piezas VALUES (1,'BAÑERA',NULL);"
+                                   "INSERT INTO Piezas VALUES (5,'EXCUSADO DE TANQUE',NULL);"
+                                   "INSERT INTO Piezas VALUES (9,'LAVAPLATOS',NULL);"));
+    return ruta;
+}
+
+}  // namespace
+
+TEST(AbrirConexion, ArchivoAjenoOAusenteDejaConexionFallida) {
+    SesionPrueba sp;
+    Conexion c;
+    EXPECT_EQ(AbrirConexion(c, sp.Datos(QStringLiteral("no-existe.plm"))), -1);
+    EXPECT_EQ(c.State(), 0);
+    EXPECT_FALSE(QFile::exists(sp.Datos(QStringLiteral("no-existe.plm"))));  // never created
+
+    const QString ajeno = sp.Datos(QStringLiteral("ajeno.plm"));
+    QFile f(ajeno);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(QByteArray(4096, 'x'));
+    f.close();
+    EXPECT_EQ(AbrirConexion(c, ajeno), -1);
+    EXPECT_TRUE(c.UltimoError().contains(QStringLiteral("no es una base de datos")));
+
+    // An open connection is closed and reopened on the new path.
+    const QString buena = BaseConTabla(sp);
+    EXPECT_EQ(AbrirConexion(c, buena), 0);
+    EXPECT_EQ(AbrirConexion(c, buena), 0);
+    EXPECT_EQ(c.State(), 1);
+}
+
+TEST(Registros, AbrirTablaBuscarClaveAdelanteYAtras) {
+    SesionPrueba sp;
+    Conexion c;
+    ASSERT_EQ(AbrirConexion(c, BaseConTabla(sp)), 0);
+    Registros rs;
+    ASSERT_EQ(AbrirTabla(c, rs, QStringLiteral("SELECT * FROM Piezas ORDER BY ClavePieza")), 0);
+    EXPECT_EQ(rs.RecordCount(), 3);
+    EXPECT_EQ(ComoTexto(rs.Campo(QStringLiteral("NombrePieza"))), QStringLiteral("BAÑERA"));
+    // Forward from the current row, then backward from the end.
+    EXPECT_EQ(BuscarClave(rs, QStringLiteral("ClavePieza=9")), 1);
+    EXPECT_EQ(ComoEntero(rs.Campo(QStringLiteral("ClavePieza"))), 9);
+    EXPECT_EQ(BuscarClave(rs, QStringLiteral("ClavePieza=5")), 1);
+    EXPECT_EQ(ComoTexto(rs.Campo(QStringLiteral("NombrePieza"))), QStringLiteral("EXCUSADO DE TANQUE"));
+    EXPECT_EQ(BuscarClave(rs, QStringLiteral("ClavePieza=7")), 0);
+    EXPECT_TRUE(rs.BOF());
+
+    // An empty source leaves the set at its end, with no error.
+    Registros vacio;
+    EXPECT_EQ(AbrirTabla(c, vacio, QStringLiteral("SELECT * FROM Piezas WHERE ClavePieza > 100")), 0);
+    EXPECT_TRUE(vacio.EOF_());
+    EXPECT_NE(AbrirTabla(c, vacio, QStringLiteral("NoExiste")), 0);
+}
+
+TEST(Registros, AddNewYUpdateEscribenEnLaTabla) {
+    SesionPrueba sp;
+    Conexion c;
+    ASSERT_EQ(AbrirConexion(c, BaseConTabla(sp)), 0);
+    Registros rs;
+    ASSERT_EQ(AbrirTabla(c, rs, QStringLiteral("Piezas")), 0);
+    rs.AddNew();
+    rs.Poner(QStringLiteral("ClavePieza"), 30);
+    rs.Poner(QStringLiteral("NombrePieza"), QStringLiteral("PILETA"));
+    ASSERT_TRUE(rs.Update());
+    ASSERT_EQ(BuscarClave(rs, QStringLiteral("ClavePieza=1")), 1);
+    rs.Poner(QStringLiteral("NombrePieza"), QStringLiteral("BAÑERA GRANDE"));
+    ASSERT_TRUE(rs.Update());
+    rs.Close();
+    EXPECT_EQ(ComoTexto(c.Escalar(QStringLiteral("SELECT NombrePieza FROM Piezas WHERE ClavePieza=?"), {1})),
+              QStringLiteral("BAÑERA GRANDE"));
+    EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM Piezas"))), 4);
+    // A null text reads as the empty text, a null number as 0.
+    EXPECT_EQ(ComoTexto(c.Escalar(QStringLiteral("SELECT NULL"))), QString(QLatin1String("")));
+    EXPECT_DOUBLE_EQ(ComoDoble(c.Escalar(QStringLiteral("SELECT NULL"))), 0.0);
+}
+
+TEST(Transaccion, SinConfirmarNoQuedaNada) {
+    SesionPrueba sp;
+    Conexion c;
+    ASSERT_EQ(AbrirConexion(c, BaseConTabla(sp)), 0);
+    {
+        Transaccion t(c);
+        c.Ejecutar(QStringLiteral("DELETE FROM Piezas"));
+        // Going out of scope without Confirmar rolls back.
+    }
+    EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM Piezas"))), 3);
+    {
+        Transaccion t(c);
+        c.Ejecutar(QStringLiteral("DELETE FROM Piezas WHERE ClavePieza=?"), {5});
+        EXPECT_TRUE(t.Confirmar());
+    }
+    EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM Piezas"))), 2);
+}
+
+TEST(CopiarArchivo, OrigenAusenteNoTocaElDestino) {
+    SesionPrueba sp;
+    const QString destino = sp.Datos(QStringLiteral("destino.txt"));
+    QFile f(destino);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("original");
+    f.close();
+    QString error;
+    EXPECT_FALSE(CopiarArchivo(sp.Datos(QStringLiteral("falta.txt")), destino, &error));
+    EXPECT_FALSE(error.isEmpty());
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    EXPECT_EQ(f.readAll(), QByteArray("original"));
+}
