@@ -119,17 +119,24 @@ void Tubo(QPainter& p, QPointF a, QPointF b) {
 }
 
 void Codo(QPainter& p, QPointF c, double angulo) {
-    // A bend of `angulo` degrees: an arc of pipe with its two sockets.
-    const double r = 38;
-    QPainterPath exterior, interior;
+    // A bend of `angulo` degrees: an arc of pipe between two straight stubs,
+    // with the sockets marked where they meet.
+    const double r = 40, largo = 30;
     const QRectF ext(c.x() - r - 7, c.y() - r - 7, 2 * (r + 7), 2 * (r + 7));
     const QRectF in(c.x() - r + 7, c.y() - r + 7, 2 * (r - 7), 2 * (r - 7));
+    QPainterPath exterior, interior;
     exterior.arcMoveTo(ext, 180);
     exterior.arcTo(ext, 180, -angulo);
     interior.arcMoveTo(in, 180);
     interior.arcTo(in, 180, -angulo);
     p.drawPath(exterior);
     p.drawPath(interior);
+    const double fin = (180.0 - angulo) * M_PI / 180.0;
+    const QPointF inicio = c + QPointF(-r, 0);
+    const QPointF final = c + QPointF(r * std::cos(fin), -r * std::sin(fin));
+    const QPointF sentido(std::sin(fin), std::cos(fin));
+    Tubo(p, inicio + QPointF(0, largo), inicio);
+    Tubo(p, final, final + sentido * largo);
     for (double a : {180.0, 180.0 - angulo}) {
         const double rad = a * M_PI / 180.0;
         const QPointF u(std::cos(rad), -std::sin(rad));
@@ -272,15 +279,15 @@ void DibujarConexion(QPainter& p, int clave) {
     case 1: Valvula(p, c, 1); break;  // globe valve
     case 2: Valvula(p, c, 2); break;  // angle valve
     case 3: Valvula(p, c, 3); break;  // gate valve
-    case 4: Codo(p, QPointF(130, 80), 45); break;
-    case 5: Codo(p, QPointF(130, 100), 90); break;
+    case 4: Codo(p, QPointF(120, 84), 45); break;
+    case 5: Codo(p, QPointF(100, 84), 90); break;
     case 6:
-        Codo(p, QPointF(130, 100), 90);
-        p.drawText(QPointF(150, 40), QStringLiteral("M"));
+        Codo(p, QPointF(100, 84), 90);
+        p.drawText(QPointF(124, 112), QStringLiteral("R/D 1.5"));
         break;
     case 7:
-        Codo(p, QPointF(130, 100), 90);
-        p.drawText(QPointF(150, 40), QStringLiteral("L"));
+        Codo(p, QPointF(100, 84), 90);
+        p.drawText(QPointF(124, 112), QStringLiteral("R/D 3"));
         break;
     case 8: {  // square bend
         Tubo(p, QPointF(30, 60), QPointF(100, 60));
@@ -289,7 +296,7 @@ void DibujarConexion(QPainter& p, int clave) {
         p.drawLine(QPointF(107, 53), QPointF(107, 60));
         break;
     }
-    case 9: Codo(p, QPointF(100, 70), 180); break;
+    case 9: Codo(p, QPointF(100, 72), 180); break;
     case 10:
     case 11: {  // tee, flow through or into the branch
         Tubo(p, QPointF(20, 56), QPointF(180, 56));
