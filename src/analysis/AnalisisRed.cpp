@@ -196,8 +196,8 @@ void AnalisisRed::ColoqueUnidadesGasto() {
         const int cuantas = std::max(piezas(i), 1);
         Spread1.PonerTexto(primera, 1, p_.Nodoj[i]);
         Spread1.PonerTexto(primera, 2, p_.NodoI[i]);
-        Spread1.Unir(primera, 1, cuantas, 1);
-        Spread1.Unir(primera, 2, cuantas, 1);
+        Spread1.AgregarUnion(primera, 1, cuantas, 1);
+        Spread1.AgregarUnion(primera, 2, cuantas, 1);
         for (int pos = 1; pos <= p_.NPiezas[i]; ++pos) {
             if (p_.PiezaClave(i, pos) <= 0) continue;
             const int cantidad = p_.PiezaCantidad(i, pos);
@@ -245,7 +245,7 @@ bool AnalisisRed::ColoqueLongitudEquivalente() {
         Spread2.PonerTexto(primera, 1, p_.NodoI[i]);
         Spread2.PonerTexto(primera, 2, p_.Nodoj[i]);
         Spread2.PonerTexto(primera, 4, ConPulgada(p_.Predimensionado[i]));
-        for (int c : {1, 2, 4}) Spread2.Unir(primera, c, FilasRamal[i], 1);
+        for (int c : {1, 2, 4}) Spread2.AgregarUnion(primera, c, FilasRamal[i], 1);
         double total = 0.0;
         for (int pos = 1; pos <= p_.NConexiones[i]; ++pos) {
             if (p_.ConexionClave(i, pos) <= 0) continue;
@@ -367,8 +367,8 @@ void AnalisisRed::PonerCaption(bool desdeEstaPantalla) {
 
 void AnalisisRed::Cargar() {
     PonerCaption(false);
+    VaciarGrids();  // first, so the configuration has no old rows to carry
     ConfigurarSpread();
-    VaciarGrids();
     Frame3Visible = false;
     if (p_.NumeroRamales > 0) EjecutarCadena();
     SSPanel1 = QString::number(int(p_.NumeroRamales));
