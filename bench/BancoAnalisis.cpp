@@ -116,28 +116,40 @@ Archivos& LosArchivos() {
     return a;
 }
 
-// The command's road: load, verify, the screen's load with the whole chain.
-void Analizar(ProyectoEdificio& p, Sesion& s, Dialogos& d, AnalisisRed& a) {
-    ValoresIniciales(p, s);
-    AbrirConexionProyecto(s);
-    LeerProyecto(p, s);
-    VerificarNumeracion(p, d);
-    if (p.ErrorNumeracion != 0) qFatal("numeración");
-    a.Cargar();
-}
-
-void BM_PrimerAnalisis(benchmark::State& state) {
-    const int n = int(state.range(0));
+// The command's road: load and verify, then the screen's load with the whole chain.
+struct Banco {
     Sesion s;
     DialogosMudos d;
     ProyectoEdificio p;
-    AnalisisRed a(p, s, d);
+    AnalisisRed a{p, s, d};
+
+    void Cargar() {
+        ValoresIniciales(p, s);
+        AbrirConexionProyecto(s);
+        LeerProyecto(p, s);
+        VerificarNumeracion(p, d);
+        if (p.ErrorNumeracion != 0) qFatal("numeración");
+    }
+    void Analizar() {
+        Cargar();
+        a.Cargar();
+    }
+    // A copy of the generated file, analysed once.
+    void Preparar(int n, const char* nombre) {
+        s.ArchivoProyecto = LosArchivos().Copia(n, QString::fromLatin1(nombre));
+        Analizar();
+    }
+};
+
+void BM_PrimerAnalisis(benchmark::State& state) {
+    const int n = int(state.range(0));
+    Banco b;
     for (auto _ : state) {
         state.PauseTiming();
-        s.ConexionProyecto.Cerrar();
-        s.ArchivoProyecto = LosArchivos().Copia(n, QStringLiteral("primero.plm"));
+        b.s.ConexionProyecto.Cerrar();
+        b.s.ArchivoProyecto = LosArchivos().Copia(n, QStringLiteral("primero.plm"));
         state.ResumeTiming();
-        Analizar(p, s, d, a);
+        b.Analizar();
     }
     state.counters["ramales"] = n;
 }
@@ -146,21 +158,14 @@ void BM_PrimerAnalisis(benchmark::State& state) {
 // verification) from the chain and its four grids.
 void BM_Reanalisis(benchmark::State& state) {
     const int n = int(state.range(0));
-    Sesion s;
-    DialogosMudos d;
-    ProyectoEdificio p;
-    AnalisisRed a(p, s, d);
-    s.ArchivoProyecto = LosArchivos().Copia(n, QStringLiteral("segundo.plm"));
-    Analizar(p, s, d, a);
+    Banco b;
+    b.Preparar(n, "segundo.plm");
     double carga = 0.0, cadena = 0.0;
     for (auto _ : state) {
         const auto t0 = std::chrono::steady_clock::now();
-        ValoresIniciales(p, s);
-        AbrirConexionProyecto(s);
-        LeerProyecto(p, s);
-        VerificarNumeracion(p, d);
+        b.Cargar();
         const auto t1 = std::chrono::steady_clock::now();
-        a.Cargar();
+        b.a.Cargar();
         const auto t2 = std::chrono::steady_clock::now();
         carga += std::chrono::duration<double, std::milli>(t1 - t0).count();
         cadena += std::chrono::duration<double, std::milli>(t2 - t1).count();
@@ -172,22 +177,29 @@ void BM_Reanalisis(benchmark::State& state) {
 
 void BM_EdicionDiametro(benchmark::State& state) {
     const int n = int(state.range(0));
-    Sesion s;
-    DialogosMudos d;
-    ProyectoEdificio p;
-    AnalisisRed a(p, s, d);
-    s.ArchivoProyecto = LosArchivos().Copia(n, QStringLiteral("edicion.plm"));
-    Analizar(p, s, d, a);
+    Banco b;
+    b.Preparar(n, "edicion.plm");
     // A riser segment half-way up, alternately one size up and back, so that
     // every edit writes the file and changes the reductions around it.
     const int fila = ((n / 2) / 3) * 3 + 1;
-    const QString original = a.Spread4.Texto(fila, 7);
+    const QString original = b.a.Spread4.Texto(fila, 7);
     const QString otro = original == QStringLiteral("12\"") ? QStringLiteral("10\"") : QStringLiteral("12\"");
     bool alterno = false;
     for (auto _ : state) {
-        a.EditarDiametroAsumido(fila, alterno ? original : otro);
+        b.a.EditarDiametroAsumido(fila, alterno ? original : otro);
         alterno = !alterno;
     }
+    state.counters["ramales"] = n;
+}
+
+// The reducing valve of the same branch: pressures and their grid only.
+void BM_EdicionValvula(benchmark::State& state) {
+    const int n = int(state.range(0));
+    Banco b;
+    b.Preparar(n, "valvula.plm");
+    const int fila = ((n / 2) / 3) * 3 + 1;
+    double valor = 0.0;
+    for (auto _ : state) b.a.EditarValvulaReductora(fila, valor = valor == 0.0 ? 2.0 : 0.0);
     state.counters["ramales"] = n;
 }
 
@@ -215,4 +227,5 @@ void BM_Desborde32767(benchmark::State& state) {
 BENCHMARK(BM_PrimerAnalisis)->Arg(100)->Arg(1000)->Arg(5000)->Arg(32766)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Reanalisis)->Arg(100)->Arg(1000)->Arg(5000)->Arg(32766)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_EdicionDiametro)->Arg(100)->Arg(1000)->Arg(5000)->Arg(32766)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_EdicionValvula)->Arg(100)->Arg(1000)->Arg(5000)->Arg(32766)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Desborde32767)->Iterations(1)->Unit(benchmark::kMillisecond);

@@ -1,11 +1,8 @@
 #include "app/SalidaEdificio.h"
 
 #include "analysis/CargaProyecto.h"
-#include "app/LineaComandos.h"
 #include "base/ErrorEjecucion.h"
 #include "base/Grid.h"
-#include "model/ProyectoEdificio.h"
-#include "shell/Sesion.h"
 
 QString ArgumentosVerbo::Valor(const QString& nombre) const {
     for (const auto& [n, v] : valores)
@@ -42,7 +39,16 @@ ArgumentosVerbo LeerArgumentos(const QStringList& args, const QStringList& conVa
     return a;
 }
 
-bool CargarParaVerbo(ProyectoEdificio& p, Sesion& s, const QString& archivo) {
+int FallaDeUso(const ArgumentosVerbo& a, const char* uso) {
+    return Fallar(a.error.isEmpty() ? QString::fromUtf8(uso) : a.error + QLatin1Char('\n') + QString::fromUtf8(uso));
+}
+
+ContextoVerbo::ContextoVerbo(bool json) {
+    PrepararSesion(s);
+    d.silencioso = json;
+}
+
+bool ContextoVerbo::Cargar(const QString& archivo) {
     QString error;
     if (CargarProyectoEdificio(p, s, archivo, error)) return true;
     Fallar(error);

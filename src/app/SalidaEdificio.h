@@ -3,14 +3,16 @@
 // options of a verb, the load of the project and the report of a run-time
 // fault of a calculation.
 
+#include "app/LineaComandos.h"
+#include "model/ProyectoEdificio.h"
+#include "shell/Sesion.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QStringList>
 
 class ErrorEjecucion;
 class Grid;
-struct ProyectoEdificio;
-struct Sesion;
 
 // The arguments after the verb: one optional file and "--name value" pairs or
 // lone flags ("--json").
@@ -26,9 +28,20 @@ struct ArgumentosVerbo {
 // `conValor` names the options that take a value.
 ArgumentosVerbo LeerArgumentos(const QStringList& args, const QStringList& conValor, const QStringList& banderas);
 
-// Loads the project as the commands do; on failure prints the message and
-// returns false.
-bool CargarParaVerbo(ProyectoEdificio& p, Sesion& s, const QString& archivo);
+// The usage or the argument fault on stderr; returns Salida::Falla.
+int FallaDeUso(const ArgumentosVerbo& a, const char* uso);
+
+// What a building verb works on: the session, the console's dialogs (quiet
+// under --json, whose object carries the message) and the project model.
+struct ContextoVerbo {
+    explicit ContextoVerbo(bool json);
+    // Loads the project as the commands do; on failure prints the message
+    // and returns false.
+    bool Cargar(const QString& archivo);
+    Sesion s;
+    DialogosConsola d;
+    ProyectoEdificio p;
+};
 
 // A run-time fault: {"error": {"numero": N, "descripcion": "..."}} with
 // --json, else "Error N: descripción" on stderr; returns Salida::ErrorCalculo.

@@ -106,16 +106,12 @@ void ImprimirGrids(const AnalisisRed& a) {
 // fontaria analizar X.plm [--json|--grids]
 int VerboAnalizar(const QStringList& args) {
     const ArgumentosVerbo a = LeerArgumentos(args, {}, {QStringLiteral("json"), QStringLiteral("grids")});
-    if (!a.error.isEmpty() || a.archivo.isEmpty())
-        return Fallar(a.error.isEmpty() ? QStringLiteral("Uso: fontaria analizar X.plm [--json|--grids]") : a.error);
+    if (!a.error.isEmpty() || a.archivo.isEmpty()) return FallaDeUso(a, "Uso: fontaria analizar X.plm [--json|--grids]");
     const bool json = a.Tiene(QStringLiteral("json"));
-
-    Sesion s;
-    PrepararSesion(s);
-    DialogosConsola d;
-    d.silencioso = json;
-    ProyectoEdificio p;
-    if (!CargarParaVerbo(p, s, a.archivo)) return Salida::Falla;
+    ContextoVerbo c(json);
+    if (!c.Cargar(a.archivo)) return Salida::Falla;
+    ProyectoEdificio& p = c.p;
+    DialogosConsola& d = c.d;
 
     try {
         if (p.NumeroRamales >= 1) {
@@ -126,7 +122,7 @@ int VerboAnalizar(const QStringList& args) {
                 return Salida::DatosInvalidos;
             }
         }
-        AnalisisRed analisis(p, s, d);
+        AnalisisRed analisis(p, c.s, d);
         analisis.Cargar();
         if (p.ErrorNumeracion != 0) {
             if (json) ImprimirJson(ResultadosComoJson(p, d.ultimoTexto, false));

@@ -2,28 +2,20 @@
 #include "app/LineaComandos.h"
 #include "app/SalidaEdificio.h"
 #include "base/ErrorEjecucion.h"
-#include "model/ProyectoEdificio.h"
-#include "shell/Sesion.h"
 #include "takeoff/Computos.h"
 
 // fontaria computos X.plm [--json]
 int VerboComputos(const QStringList& args) {
     const ArgumentosVerbo a = LeerArgumentos(args, {}, {QStringLiteral("json")});
-    if (!a.error.isEmpty() || a.archivo.isEmpty())
-        return Fallar(a.error.isEmpty() ? QStringLiteral("Uso: fontaria computos X.plm [--json]") : a.error);
+    if (!a.error.isEmpty() || a.archivo.isEmpty()) return FallaDeUso(a, "Uso: fontaria computos X.plm [--json]");
     const bool json = a.Tiene(QStringLiteral("json"));
+    ContextoVerbo c(json);
+    if (!c.Cargar(a.archivo)) return Salida::Falla;
 
-    Sesion s;
-    PrepararSesion(s);
-    DialogosConsola d;
-    d.silencioso = json;
-    ProyectoEdificio p;
-    if (!CargarParaVerbo(p, s, a.archivo)) return Salida::Falla;
-
-    PantallaComputos pantalla(p, s, d);
+    PantallaComputos pantalla(c.p, c.s, c.d);
     try {
         // The verification runs as the command runs it; its flag is not looked at.
-        VerificarNumeracion(p, d);
+        VerificarNumeracion(c.p, c.d);
         pantalla.Cargar();
     } catch (const ErrorEjecucion& e) {
         return FallaDeCalculo(e, json);

@@ -2,8 +2,6 @@
 #include "app/SalidaEdificio.h"
 #include "base/ErrorEjecucion.h"
 #include "base/Nivo.h"
-#include "model/ProyectoEdificio.h"
-#include "shell/Sesion.h"
 #include "tank/Hidroneumatico.h"
 
 #include <cmath>
@@ -104,23 +102,18 @@ int VerboTanque(const QStringList& args) {
                         QStringLiteral("pmin"), QStringLiteral("pmax"), QStringLiteral("arranques"),
                         QStringLiteral("succion"), QStringLiteral("k")},
                        {QStringLiteral("json")});
-    if (!a.error.isEmpty()) return Fallar(a.error + QLatin1Char('\n') + QString::fromLatin1(Uso()));
-    if (a.Valor(QStringLiteral("metodo")).isNull()) return Fallar(QString::fromLatin1(Uso()));
+    if (!a.error.isEmpty() || a.Valor(QStringLiteral("metodo")).isNull()) return FallaDeUso(a, Uso());
     const bool json = a.Tiene(QStringLiteral("json"));
-
-    Sesion s;
-    PrepararSesion(s);
-    DialogosConsola d;
-    d.silencioso = json;
-    ProyectoEdificio p;
+    ContextoVerbo c(json);
+    ProyectoEdificio& p = c.p;
     DatosTanque t;
     try {
         if (!a.archivo.isEmpty()) {
-            if (!CargarParaVerbo(p, s, a.archivo)) return Salida::Falla;
-            if (p.OpcionPresionInicial == 0 && p.NumeroRamales >= 1 && !PrellenarDesdeProyecto(t, p, s, d)) {
+            if (!c.Cargar(a.archivo)) return Salida::Falla;
+            if (p.OpcionPresionInicial == 0 && p.NumeroRamales >= 1 && !PrellenarDesdeProyecto(t, p, c.s, c.d)) {
                 if (json) {
                     QJsonObject o;
-                    o[QStringLiteral("mensaje")] = d.ultimoTexto;
+                    o[QStringLiteral("mensaje")] = c.d.ultimoTexto;
                     ImprimirJson(o);
                 }
                 return Salida::DatosInvalidos;
