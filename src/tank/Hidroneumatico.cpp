@@ -26,16 +26,16 @@ bool PrellenarDesdeProyecto(DatosTanque& t, ProyectoEdificio& p, Sesion& s, Dial
     VerificarNumeracion(p, d);
     if (p.ErrorNumeracion != 0) return false;
     ColoqueGastos(p);
+    t.Caudal = p.Gasto[1];
     Entero16 piezas;
     for (int i = 1; i <= p.NumeroRamales; ++i)
         for (int k = 1; k <= p.NPiezas[i]; ++k)
             if (p.PiezaClave(i, k) > 0) piezas += p.PiezaCantidad(i, k);
+    t.NumeroPiezas = piezas.valor();
     CalcularPredimensionado(p);
     Predimensionado_Asumido(p, s);
     if (!CalcularLongitudes(p, s, d)) return false;
     CalcularPresiones(p);
-    t.Caudal = p.Gasto[1];
-    t.NumeroPiezas = piezas.valor();
     t.PresionMinima = p.PresionNodo[p.NodoNumI[1]];
     t.PresionMaxima = t.PresionMinima + 14.0;
     return true;
@@ -124,8 +124,8 @@ PantallaResultadosHidro::PantallaResultadosHidro(const DatosTanque& datos) : Res
     for (double v : {r.QB, r.VolumenTotal, r.VolumenMinimo, r.VolumenUtil, r.VolumenMaximo, r.PotenciaBomba,
                      r.PotenciaMotor})
         Valores << Formato(v, QStringLiteral("#,##0.00"));
-    auto porcentaje = [&](double parte) {
-        const double v = r.VolumenTotal > 0.0 ? parte * 100.0 / r.VolumenTotal : 0.0;
+    auto porcentaje = [&](double volumen) {
+        const double v = r.VolumenTotal > 0.0 ? volumen * 100.0 / r.VolumenTotal : 0.0;
         return Formato(v, QStringLiteral("0.00")) + QLatin1Char('%');
     };
     PorcentajeUtil = porcentaje(r.VolumenUtil);
