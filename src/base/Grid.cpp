@@ -140,8 +140,14 @@ void Grid::PonerTexto(int fila, int columna, const QString& texto) {
 
 void Grid::PonerNumero(int fila, int columna, double valor, int decimales) {
     Celda& c = Cel(fila, columna);
-    QString mascara = QStringLiteral("0");
-    if (decimales > 0) mascara += QLatin1Char('.') + QString(decimales, QLatin1Char('0'));
+    // The pictures "0", "0.0", ... "0.000000", made once.
+    static const QStringList mascaras = [] {
+        QStringList l{QStringLiteral("0")};
+        for (int d = 1; d <= 6; ++d) l << QStringLiteral("0.") + QString(d, QLatin1Char('0'));
+        return l;
+    }();
+    const QString mascara = decimales <= 6 ? mascaras[std::max(decimales, 0)]
+                                           : QStringLiteral("0.") + QString(decimales, QLatin1Char('0'));
     c.texto = Formato(valor, mascara);
     c.valor = valor;
     c.esNumero = true;
@@ -175,6 +181,11 @@ void Grid::Unir(int fila, int columna, int filas, int columnas) {
     uniones_.erase(std::remove_if(uniones_.begin(), uniones_.end(),
                                   [&](const Union& u) { return u.fila == fila && u.columna == columna; }),
                    uniones_.end());
+    if (filas > 1 || columnas > 1) uniones_.push_back({fila, columna, filas, columnas});
+    ++version_;
+}
+
+void Grid::AgregarUnion(int fila, int columna, int filas, int columnas) {
     if (filas > 1 || columnas > 1) uniones_.push_back({fila, columna, filas, columnas});
     ++version_;
 }

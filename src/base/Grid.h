@@ -93,6 +93,9 @@ public:
 
     // Joined body cells: the top-left cell shows for all.
     void Unir(int fila, int columna, int filas, int columnas);
+    // The same for a grid being filled after Vaciar(), whose cell holds no
+    // span yet: appended without the search, so a large fill stays linear.
+    void AgregarUnion(int fila, int columna, int filas, int columnas);
     const std::vector<Union>& Uniones() const { return uniones_; }
     // The span that starts at (fila, columna), or nullptr.
     const Union* UnionEn(int fila, int columna) const;

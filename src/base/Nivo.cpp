@@ -62,7 +62,30 @@ QString Formato(double valor, const QString& mascara) {
     return Formato(valor, mascara, SeparadoresActuales());
 }
 
+namespace {
+// "0", "0.0", "0.00"...: the pictures of the grids, formatted without the
+// general parse (a grid of thousands of rows formats millions of cells).
+int DecimalesDePicturaSimple(const QString& mascara) {
+    if (mascara.isEmpty() || mascara[0] != QLatin1Char('0')) return -1;
+    if (mascara.size() == 1) return 0;
+    if (mascara.size() < 3 || mascara[1] != QLatin1Char('.')) return -1;
+    for (int i = 2; i < mascara.size(); ++i)
+        if (mascara[i] != QLatin1Char('0')) return -1;
+    return int(mascara.size()) - 2;
+}
+}  // namespace
+
 QString Formato(double valor, const QString& mascara, const Separadores& sep) {
+    if (const int d = DecimalesDePicturaSimple(mascara); d >= 0) {
+        const double r = RoundNivo(valor, d);
+        QString res = QString::number(std::fabs(r), 'f', d);
+        if (d > 0) res[res.size() - d - 1] = sep.decimal;
+        bool esCero = true;
+        for (QChar c : res)
+            if (c.isDigit() && c != QLatin1Char('0')) esCero = false;
+        if (r < 0 && !esCero) res.prepend(QLatin1Char('-'));
+        return res;
+    }
     const int punto = mascara.indexOf(QLatin1Char('.'));
     int decimales = 0;
     if (punto >= 0) {

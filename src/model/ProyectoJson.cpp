@@ -241,7 +241,8 @@ bool ProyectoDesdeJson(const QJsonObject& o, ProyectoEdificio& p, QString& error
     p.NumeroNodos = n;
     p.DimensionarNodos(n);
     for (int i = 1; i <= nodos.size(); ++i) {
-        Lector ln(nodos[i - 1].toObject(), QStringLiteral("en el nodo %1").arg(i), error);
+        const QJsonObject nodo = nodos[i - 1].toObject();  // the reader keeps a reference
+        Lector ln(nodo, QStringLiteral("en el nodo %1").arg(i), error);
         ln.Texto("Nodo", p.NodoNombre[i]);
         ln.Doble("CotaPiso", p.CotaPiso[i]);
         if (!ln.Bien()) return false;

@@ -1,0 +1,152 @@
+#pragma once
+// The analysis screen of a building network, without its widgets.
+//
+// AnalisisRed runs the analysis chain and keeps what the screen shows: four
+// grids (one per tab), the tank-height box, the panel, the caption and which
+// buttons are available.  A Qt screen only lays these out, draws the grids
+// and forwards each user event to the function named after it below; the
+// reports and the workbook read the same grids, cell by cell.
+//
+//   Tab 1  Spread4  pre-sizing                  ColoquePredimensionado
+//   Tab 2  Spread1  fixture units and flow      ColoqueUnidadesGasto
+//   Tab 3  Spread2  equivalent lengths          ColoqueLongitudEquivalente
+//   Tab 4  Spread3  head losses and pressures   ColoquePerdidasPresiones
+//
+// Every grid has two header rows; column 0 is the row header.  Spread4 and
+// Spread3 have one row per branch (row i is branch i, cell 0 its number);
+// Spread1 and Spread2 give each branch several rows, joined in the node
+// columns.  Numbers are kept as doubles in the cells (Celda::valor) and shown
+// with the column's decimals; a blank cell is an empty text.
+//
+// The chain writes straight into the open project file (Sesion::
+// ConexionProyecto): the assumed diameters (Predimensionado) on the first
+// analysis and on every edit of them, the reduction texts (Reduccion), and
+// the reducing valves (ValvulaR).  Each of those writes is one transaction.
+//
+// A run-time fault of the chain (a zero velocity, a size outside the table
+// in a hand-edited file, a project at the 16-bit limit) leaves the function
+// as ErrorEjecucion; the caller shows it and keeps the project.
+
+#include "base/Arreglo.h"
+#include "base/Grid.h"
+
+#include <QString>
+#include <vector>
+
+struct ProyectoEdificio;
+struct Sesion;
+class Dialogos;
+
+// Colours of the grids (0x00BBGGRR).
+namespace ColoresAnalisis {
+constexpr int DiametroCambiado = 14803451;   // Spread4 col 7: assumed differs from theoretical
+constexpr int DiferenciaCota = 14085092;     // Spread3 col 13
+constexpr int Valvula = 15915489;            // Spread3 col 14
+constexpr int PresionMaxima = 13492732;      // Spread3 col 15 above PresionM
+constexpr int NodoDesfavorable = 14211322;   // Spread3 col 15 of the unfavourable node
+}  // namespace ColoresAnalisis
+
+// A tool-tip of the screen: control, title (may be empty) and text.
+struct AyudaControl {
+    QString control, titulo, texto;
+};
+
+class AnalisisRed {
+public:
+    AnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos& d);
+
+    // ---- What the screen shows -------------------------------------------
+    Grid Spread4;  // tab 1
+    Grid Spread1;  // tab 2
+    Grid Spread2;  // tab 3
+    Grid Spread3;  // tab 4
+
+    // The row edited in Spread3, 0 when none; the fill of Spread3 makes it the
+    // active row (the view scrolls to it) and clears it.
+    int RamalEditado = 0;
+    // Rows of each branch in Spread2, 1..NumeroRamales.
+    Arreglo<int> FilasRamal;
+    // First row of each branch in Spread1 and Spread2 (for the views that jump
+    // to a branch), 1..NumeroRamales.
+    Arreglo<int> PrimeraFilaUnidades, PrimeraFilaLongitudes;
+
+    double Double1 = 0.0;        // the tank-height box
+    bool Frame3Visible = false;  // the box's frame, only with OpcionPresionInicial 2
+    QString SSPanel1;            // the number of branches
+    QString Caption;
+    int Tab = 1;                 // 1..4
+    bool LSButton2Disponible() const { return Tab == 1; }
+    bool LSButton9Disponible() const { return Tab == 1; }
+
+    // The fixed texts of the screen.
+    static QString TituloPestana(int tab);  // "PREDIMENSIONADO", ...
+    static std::vector<AyudaControl> AyudasControles();
+    // The fourteen names of the drop-down list of Spread4 column 7, each with the inch mark.
+    static QStringList ListaDiametros();
+
+    // ---- Events ----------------------------------------------------------
+    // Form load: caption, grids configured, and the chain when the project
+    // has branches (else four empty grids).  The caller has loaded and
+    // verified the project.
+    void Cargar();
+    void CambiarTab(int tab);
+
+    // Spread4 column 7 of row `fila` took the text `texto` (a name with its
+    // inch mark): the assumed size changes, the file is written, lengths and
+    // pressures are rerun.  A row outside the grid or an empty text does nothing.
+    void EditarDiametroAsumido(int fila, const QString& texto);
+
+    // Spread3 column 14 of row `fila`: the reducing valve (m).  Pressures are
+    // rerun and the value written to the file.  A text that is not a number is
+    // refused (false) and the cell shows the valve as it was.
+    bool EditarValvulaReductora(int fila, const QString& texto);
+    void EditarValvulaReductora(int fila, double valor);
+
+    // LSButton2: asks, then makes every assumed size the theoretical one,
+    // writes them, and reruns from the pre-sizing grid on.  True when done.
+    bool LSButton2_Click();
+
+    // LSButton6: the tank height fixed by hand, the number in Double1 (or
+    // Enter in the box).  Pressures only; nothing is written to the file.
+    void LSButton6_Click();
+    // LSButton7: the tank height computed again (two runs of the pressures);
+    // Double1 shows it.
+    void LSButton7_Click();
+
+    // LSButton5: asks for another project and, on a file, loads, verifies and
+    // analyses it.  A cancel changes nothing; a file that is not a project is
+    // refused with a message and the current project stays.  True when loaded.
+    bool LSButton5_Click();
+
+    // The return from the branch editor (LSButton11).  When the editor saved:
+    // the file is read again, the grids emptied and, with branches, the
+    // network verified and the chain run.
+    void RetornoEditorRamales(bool salvado);
+
+    // ---- The chain -------------------------------------------------------
+    // ColoqueGastos .. ColoquePerdidasPresiones and the tank box.  Returns false
+    // when it stopped at a fault shown to the engineer (a branch 2 leaving the
+    // origin with a size of its own); the later grids are then empty.
+    bool EjecutarCadena();
+    void ConfigurarSpread();
+    void ColoquePredimensionado();
+    void ColoqueUnidadesGasto();
+    // Runs CalcularLongitudes first; false when that stopped.
+    bool ColoqueLongitudEquivalente();
+    // Also computes ValvulaAcumulada and the final unfavourable node.
+    void ColoquePerdidasPresiones();
+
+private:
+    void ColoresPredimensionado(int fila);
+    void EscribirCampoRamal(const char* columna, int ramal, const QString& texto);
+    void EscribirCampoRamal(const char* columna, int ramal, double valor);
+    void VaciarGrids();
+    // Verification and chain after a new load (open, return from the editor).
+    void Reconstruir();
+    void PonerCaption(bool desdeEstaPantalla);
+
+    ProyectoEdificio& p_;
+    Sesion& s_;
+    Dialogos& d_;
+    bool cadenaCompleta_ = false;
+};

@@ -1,0 +1,181 @@
+#include "support/Apoyo.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <gtest/gtest.h>
+
+namespace {
+
+const char* const Ejemplos[] = {"Vivienda con Tanque Hidroneumatico", "Vivienda con Tanque Elevado",
+                                "Edificio_MontantePH", "Edificio_GeneralesConserjeria",
+                                "Edificio_ApartamentoTipo"};
+
+struct Verbos : ::testing::Test {
+    SesionPrueba sp;
+    QString salida, errores;
+    int Correr(const QStringList& args) {
+        return EjecutarPrograma(args, &salida, &errores, {QStringLiteral("FONTARIA_DATOS=") + sp.s.DirectorioDatos});
+    }
+    QJsonObject Json() const { return QJsonDocument::fromJson(salida.toUtf8()).object(); }
+    QString Copia(const char* ejemplo, const char* destino = "x.plm") {
+        return sp.CopiaDeEjemplo(QString::fromUtf8(ejemplo) + QStringLiteral(".nivo"), QString::fromUtf8(destino));
+    }
+    void Sql(const QString& archivo, const QString& sql) {
+        Conexion c;
+        ASSERT_TRUE(c.Abrir(archivo));
+        ASSERT_TRUE(c.Ejecutar(sql)) << c.UltimoError().toStdString();
+    }
+};
+
+}  // namespace
+
+TEST_F(Verbos, LosCincoEjemplosSeAnalizanConResultadosRazonables) {
+    for (const char* ejemplo : Ejemplos) {
+        const QString archivo = Copia(ejemplo);
+        ASSERT_EQ(Correr({QStringLiteral("analizar"), archivo, QStringLiteral("--json")}), 0)
+            << ejemplo << errores.toStdString();
+        const QJsonObject o = Json();
+        const int n = o[QStringLiteral("NumeroRamales")].toInt();
+        EXPECT_GT(n, 4) << ejemplo;
+        EXPECT_EQ(o[QStringLiteral("ErrorNumeracion")].toInt(), 0);
+        EXPECT_TRUE(o[QStringLiteral("mensaje")].isNull());
+        // Per-node arrays carry slot 0.
+        EXPECT_EQ(o[QStringLiteral("PresionNodo")].toArray().size(), n + 2);
+        EXPECT_EQ(o[QStringLiteral("ValvulaAcumulada")].toArray().size(), n + 2);
+        EXPECT_EQ(o[QStringLiteral("CotaRelativa")].toArray().size(), n + 2);
+        EXPECT_GT(o[QStringLiteral("PresionDesfaborable")].toDouble(), 0.0) << ejemplo;
+        int dentro = 0;
+        const QJsonArray ramales = o[QStringLiteral("ramales")].toArray();
+        ASSERT_EQ(ramales.size(), n);
+        for (const QJsonValue& r : ramales) {
+            const double v = r[QStringLiteral("VelocidadAsumida")].toDouble();
+            if (v >= 0.6 && v <= 3.5) ++dentro;
+            EXPECT_FALSE(r[QStringLiteral("Predimensionado")].toString().isEmpty());
+        }
+        EXPECT_GE(dentro, n * 9 / 10) << ejemplo;
+        // The assumed sizes are now in the file.
+        Conexion c;
+        ASSERT_TRUE(c.Abrir(archivo));
+        EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral(
+                      "SELECT count(*) FROM DatosRamales WHERE Predimensionado IS NULL OR Predimensionado=''"))),
+                  0);
+    }
+}
+
+TEST_F(Verbos, EjemplosMuestranLoQueDebenMostrar) {
+    // A reducing valve, a sub-branch and reductions in the riser building.
+    ASSERT_EQ(Correr({QStringLiteral("analizar"), Copia("Edificio_MontantePH"), QStringLiteral("--json")}), 0);
+    QJsonObject o = Json();
+    bool valvula = false, reduccion = false;
+    for (const QJsonValue& r : o[QStringLiteral("ramales")].toArray()) {
+        valvula |= r[QStringLiteral("ValvulaR")].toDouble() > 0;
+        reduccion |= r[QStringLiteral("LongitudReduccion")].toDouble() > 0;
+    }
+    EXPECT_TRUE(valvula);
+    EXPECT_TRUE(reduccion);
+    // The elevated tank: branch 1 is the riser and its length the height found.
+    ASSERT_EQ(Correr({QStringLiteral("analizar"), Copia("Vivienda con Tanque Elevado"), QStringLiteral("--json")}), 0);
+    o = Json();
+    const QJsonObject primero = o[QStringLiteral("ramales")].toArray()[0].toObject();
+    EXPECT_NEAR(o[QStringLiteral("CotaRelativa")].toArray()[1].toDouble(), primero[QStringLiteral("longitudReal")].toDouble(),
+                1e-9);
+    EXPECT_NEAR(o[QStringLiteral("PresionDesfaborable")].toDouble(), 3.0, 0.005);
+}
+
+TEST_F(Verbos, TextoYGrids) {
+    const QString archivo = Copia("Edificio_ApartamentoTipo");
+    ASSERT_EQ(Correr({QStringLiteral("analizar"), archivo}), 0);
+    EXPECT_TRUE(salida.contains(QStringLiteral("Nodo desfavorable: ")));
+    ASSERT_EQ(Correr({QStringLiteral("analizar"), archivo, QStringLiteral("--grids")}), 0);
+    for (const char* t : {"== PREDIMENSIONADO ==", "== UNIDADES DE GASTO ==", "== LONGITUDES EQUIVALENTES ==",
+                          "== PERDIDAS Y PRESIONES ==", "|Presion (m)\nen el Nodo J"})
+        EXPECT_TRUE(salida.contains(QString::fromUtf8(t))) << t;
+}
+
+TEST_F(Verbos, ErrorDeNumeracionSaleConDos) {
+    const QString archivo = Copia("Edificio_ApartamentoTipo");
+    Sql(archivo, QStringLiteral("UPDATE DatosRamales SET Nodoj=NodoI WHERE Numero=3"));
+    EXPECT_EQ(Correr({QStringLiteral("analizar"), archivo, QStringLiteral("--json")}), 2);
+    const QJsonObject o = Json();
+    EXPECT_EQ(o[QStringLiteral("ErrorNumeracion")].toInt(), 1);
+    EXPECT_EQ(o[QStringLiteral("mensaje")].toString(), QStringLiteral("Existe un Error en la Numeración de los Ramales...\n"
+                                                                      "Ramal-> 3   ( I ) = PASILLO  ó   ( J ) = PASILLO\n"
+                                                                      "¡Debe Corregir el Error para realizar el Análisis!"));
+    EXPECT_EQ(Correr({QStringLiteral("analizar"), archivo}), 2);
+    EXPECT_TRUE(errores.contains(QStringLiteral("¡Debe Corregir el Error para realizar el Análisis!")));
+}
+
+TEST_F(Verbos, ErrorDeEjecucionSaleConTres) {
+    const QString archivo = Copia("Edificio_ApartamentoTipo");
+    Sql(archivo, QStringLiteral("UPDATE DatosGenerales SET Velocidad=0"));
+    EXPECT_EQ(Correr({QStringLiteral("analizar"), archivo, QStringLiteral("--json")}), 3);
+    const QJsonObject e = Json()[QStringLiteral("error")].toObject();
+    EXPECT_EQ(e[QStringLiteral("numero")].toInt(), 11);
+    EXPECT_EQ(e[QStringLiteral("descripcion")].toString(), QStringLiteral("División por cero"));
+    // Nothing was written: the sizes stay blank.
+    Conexion c;
+    ASSERT_TRUE(c.Abrir(archivo));
+    EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM DatosRamales WHERE Predimensionado<>''"))), 1);
+}
+
+TEST_F(Verbos, ArchivosQueNoSonProyectos) {
+    EXPECT_EQ(Correr({QStringLiteral("analizar"), sp.Datos(QStringLiteral("no-existe.plm"))}), 1);
+    EXPECT_FALSE(errores.isEmpty());
+    EXPECT_EQ(Correr({QStringLiteral("analizar"), sp.AcueductoEnBlanco(), QStringLiteral("--json")}), 1);
+    EXPECT_TRUE(errores.contains(QStringLiteral("no es un proyecto de Fontaria")));
+    EXPECT_EQ(Correr({QStringLiteral("analizar")}), 1);
+}
+
+TEST_F(Verbos, TanqueSinProyecto) {
+    ASSERT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1"), QStringLiteral("--caudal"),
+                      QStringLiteral("10"), QStringLiteral("--pmin"), QStringLiteral("20"), QStringLiteral("--pmax"),
+                      QStringLiteral("34"), QStringLiteral("--json")}),
+              0)
+        << errores.toStdString();
+    const QJsonObject o = Json();
+    EXPECT_DOUBLE_EQ(o[QStringLiteral("resultados")][QStringLiteral("QB")].toDouble(), 5.0);
+    EXPECT_NEAR(o[QStringLiteral("resultados")][QStringLiteral("VolumenTotal")].toDouble(), 2619.047619, 1e-6);
+    EXPECT_EQ(o[QStringLiteral("textos")][QStringLiteral("VolumenTotal")].toString(), QStringLiteral("2,619.05"));
+    EXPECT_EQ(o[QStringLiteral("porcentajes")][QStringLiteral("VolumenUtil")].toString(), QStringLiteral("28.64%"));
+    EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("4")}), 1);
+    EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1"), QStringLiteral("--caudal"),
+                      QStringLiteral("diez")}),
+              1);
+    EXPECT_TRUE(errores.contains(QStringLiteral("--caudal no es un número")));
+    EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("2"), QStringLiteral("--pmax"),
+                      QStringLiteral("-10"), QStringLiteral("--json")}),
+              3);
+}
+
+TEST_F(Verbos, TanqueConElProyectoHidroneumatico) {
+    const QString archivo = Copia("Vivienda con Tanque Hidroneumatico");
+    ASSERT_EQ(Correr({QStringLiteral("tanque"), archivo, QStringLiteral("--metodo"), QStringLiteral("3"),
+                      QStringLiteral("--factor"), QStringLiteral("2.08"), QStringLiteral("--json")}),
+              0)
+        << errores.toStdString();
+    const QJsonObject e = Json()[QStringLiteral("entradas")].toObject();
+    EXPECT_EQ(e[QStringLiteral("NumeroPiezas")].toInt(), 17);
+    EXPECT_GT(e[QStringLiteral("PresionMinima")].toDouble(), 7.0);
+    EXPECT_DOUBLE_EQ(e[QStringLiteral("PresionMaxima")].toDouble(), e[QStringLiteral("PresionMinima")].toDouble() + 14.0);
+    EXPECT_NEAR(Json()[QStringLiteral("resultados")][QStringLiteral("QB")].toDouble(), 17 * 2.08 / 60.0, 1e-12);
+}
+
+TEST_F(Verbos, ComputosDeUnEjemploAnalizado) {
+    const QString archivo = Copia("Vivienda con Tanque Hidroneumatico");
+    // Before the analysis no size is stored: no pipes.
+    ASSERT_EQ(Correr({QStringLiteral("computos"), archivo, QStringLiteral("--json")}), 0);
+    EXPECT_TRUE(Json()[QStringLiteral("Tuberias")].toArray().isEmpty());
+    EXPECT_FALSE(Json()[QStringLiteral("Piezas")].toArray().isEmpty());
+    ASSERT_EQ(Correr({QStringLiteral("analizar"), archivo}), 0);
+    ASSERT_EQ(Correr({QStringLiteral("computos"), archivo, QStringLiteral("--json")}), 0);
+    const QJsonObject o = Json();
+    EXPECT_FALSE(o[QStringLiteral("Tuberias")].toArray().isEmpty());
+    EXPECT_FALSE(o[QStringLiteral("Reducciones")].toArray().isEmpty());
+    bool filtro = false;
+    for (const QJsonValue& f : o[QStringLiteral("Conexiones")].toArray())
+        filtro |= f[QStringLiteral("Descripcion")].toString() == QStringLiteral("FILTRO DE SEDIMENTOS");
+    EXPECT_TRUE(filtro);
+    ASSERT_EQ(Correr({QStringLiteral("computos"), archivo}), 0);
+    EXPECT_TRUE(salida.contains(QStringLiteral("== Tuberías ==")));
+}

@@ -1,0 +1,168 @@
+#include "analysis/ApoyoAnalisis.h"
+#include "analysis/CargaProyecto.h"
+#include "tank/Hidroneumatico.h"
+
+#include <cmath>
+
+// Cases worked by hand from the sizing formulas.
+
+TEST(Tanque, MetodoUnoConLosValoresPorDefecto) {
+    DatosTanque t;
+    t.Caudal = 10.0;
+    t.PresionMinima = 20.0;
+    t.PresionMaxima = 34.0;
+    const ResultadoTanque r = CalcularTanque(t);
+    EXPECT_DOUBLE_EQ(r.QB, 5.0);  // 50 % of 10 l/s
+    EXPECT_DOUBLE_EQ(r.VolumenUtil, 750.0);  // 5 x 0.25 x 3600 / 6
+    // R = 30/44, K = 0.1: 750 / ((14/44) x 0.9) = 2619.047...
+    EXPECT_NEAR(r.VolumenTotal, 2619.047619, 1e-6);
+    EXPECT_NEAR(r.VolumenMinimo, 261.9047619, 1e-6);
+    EXPECT_NEAR(r.VolumenMaximo, 1011.9047619, 1e-6);
+    EXPECT_NEAR(r.PotenciaBomba, 37.0 * 5.0 / 45.0, 1e-12);
+    EXPECT_NEAR(r.PotenciaMotor, 37.0 * 5.0 / 45.0 * 1.44, 1e-12);
+    EXPECT_EQ(r.Titulo, QStringLiteral("Cálculo por el Método ( 1 )"));
+}
+
+TEST(Tanque, MetodosDosYTresYTanqueHorizontal) {
+    DatosTanque t;
+    t.NumeroMetodo = 2;
+    t.Dotacion = 86400.0;
+    t.PresionMaxima = 14.0;
+    EXPECT_DOUBLE_EQ(CalcularTanque(t).QB, 10.0);
+    t.NumeroMetodo = 3;
+    t.NumeroPiezas = 60;
+    t.FactorPeerlees = 1.55;
+    t.OpcionK = 2;
+    const ResultadoTanque r = CalcularTanque(t);
+    EXPECT_NEAR(r.QB, 1.55, 1e-12);  // 60 x 1.55 / 60
+    // R = 10/24, K = 0.054.
+    EXPECT_NEAR(r.VolumenTotal, r.VolumenUtil / ((1.0 - 10.0 / 24.0) * (1.0 - 0.054)), 1e-9);
+    EXPECT_EQ(r.Titulo, QStringLiteral("Cálculo por el Método ( 3 )"));
+}
+
+TEST(Tanque, CasosLimite) {
+    DatosTanque t;
+    t.Caudal = 10.0;
+    t.PresionMinima = t.PresionMaxima = 25.0;  // R of 1
+    PantallaResultadosHidro r(t);
+    EXPECT_EQ(r.Resultado.VolumenTotal, 0.0);
+    EXPECT_EQ(r.Resultado.VolumenMaximo, r.Resultado.VolumenUtil);
+    EXPECT_EQ(r.PorcentajeUtil, QStringLiteral("0.00%"));
+    EXPECT_EQ(r.PorcentajeMaximo, QStringLiteral("0.00%"));
+    EXPECT_EQ(r.PorcentajeMinimo, QStringLiteral("10%"));
+
+    t.Arranques = 0.0;  // no starts: no volumes
+    EXPECT_EQ(CalcularTanque(t).VolumenUtil, 0.0);
+
+    t.Arranques = 6.0;
+    t.PresionMaxima = 20.0;  // below the minimum: a negative total, shown as it is
+    EXPECT_LT(CalcularTanque(t).VolumenTotal, 0.0);
+
+    t.PresionMaxima = -10.0;
+    try {
+        CalcularTanque(t);
+        FAIL();
+    } catch (const ErrorEjecucion& e) {
+        EXPECT_EQ(e.numero(), Error::DivisionPorCero);
+    }
+}
+
+TEST(Tanque, PantallaDeResultadosConSusFormatos) {
+    DatosTanque t;
+    t.Caudal = 10.0;
+    t.PresionMinima = 20.0;
+    t.PresionMaxima = 34.0;
+    PantallaResultadosHidro r(t);
+    ASSERT_EQ(r.Valores.size(), 7);
+    EXPECT_EQ(r.Valores[0], QStringLiteral("5.00"));
+    EXPECT_EQ(r.Valores[1], QStringLiteral("2,619.05"));
+    EXPECT_EQ(r.Valores[3], QStringLiteral("750.00"));
+    EXPECT_EQ(r.Marco, QStringLiteral("Cálculo por el Método ( 1 )"));
+    // 750 x 100 / 2619.05 = 28.64 %; 1011.90 x 100 / 2619.05 = 38.64 %.
+    EXPECT_EQ(r.PorcentajeUtil, QStringLiteral("28.64%"));
+    EXPECT_EQ(r.PorcentajeMaximo, QStringLiteral("38.64%"));
+    EXPECT_EQ(PantallaResultadosHidro::Etiquetas()[1], QStringLiteral("Voumen Total del Tanque (lts):"));
+}
+
+TEST(Tanque, HabilitacionPorMetodo) {
+    const HabilitacionTanque h1 = HabilitacionMetodo(1), h2 = HabilitacionMetodo(2), h3 = HabilitacionMetodo(3);
+    EXPECT_TRUE(h1.Caudal && h1.Porcentaje && !h1.Dotacion && !h1.NumeroPiezas && !h1.FactorPeerlees && !h1.BotonPeerless);
+    EXPECT_TRUE(!h2.Caudal && !h2.Porcentaje && h2.Dotacion && !h2.NumeroPiezas && !h2.BotonPeerless);
+    EXPECT_TRUE(!h3.Caudal && !h3.Dotacion && h3.NumeroPiezas && h3.FactorPeerlees && h3.BotonPeerless);
+}
+
+TEST(Tanque, TablaDePeerlessYCaptura) {
+    const Grid g = TablaPeerlees();
+    EXPECT_EQ(g.Filas(), 6);
+    EXPECT_EQ(g.Columnas(), 7);
+    EXPECT_EQ(g.Encabezado(1, 0), QStringLiteral("Clase de Edificio"));
+    EXPECT_EQ(g.Encabezado(1, 7), QStringLiteral("Más de 1000 Piezas"));
+    EXPECT_EQ(g.Texto(3, 0), QStringLiteral("Hospitales"));
+    EXPECT_EQ(g.Texto(6, 4), QStringLiteral("2.50"));
+    EXPECT_EQ(CapturarFactorPeerlees(g, 6, 4), QStringLiteral("2.5"));
+    EXPECT_EQ(CapturarFactorPeerlees(g, 1, 1), QStringLiteral("2.08"));
+    try {
+        CapturarFactorPeerlees(g, 0, 2);
+        FAIL();
+    } catch (const ErrorEjecucion& e) {
+        EXPECT_EQ(e.numero(), Error::TiposNoCoinciden);
+    }
+}
+
+TEST(Tanque, PrellenadoDesdeElProyectoHidroneumatico) {
+    SesionPrueba sp;
+    DialogosFalsos d;
+    ProyectoEdificio p;
+    const QString ruta = sp.CopiaDeEjemplo(QStringLiteral("Vivienda con Tanque Hidroneumatico.nivo"),
+                                           QStringLiteral("casa.plm"));
+    QString error;
+    ASSERT_TRUE(CargarProyectoEdificio(p, sp.s, ruta, error));
+    PantallaHidroneumatico pantalla(p, sp.s, d);
+    pantalla.Cargar();
+    const DatosTanque& t = pantalla.Datos;
+    EXPECT_EQ(t.Caudal, p.Gasto[1]);
+    // Fixtures of the sample: 2 + 2 + 3 + 5 + 3 + 2 = 17.
+    EXPECT_EQ(t.NumeroPiezas, 17);
+    EXPECT_DOUBLE_EQ(t.PresionMinima, p.CargaOrigen);
+    EXPECT_DOUBLE_EQ(t.PresionMaxima, t.PresionMinima + 14.0);
+    EXPECT_EQ(t.Porcentaje, 50.0);
+    EXPECT_EQ(t.Arranques, 6.0);
+    EXPECT_EQ(t.Succion, 3.0);
+    EXPECT_EQ(t.OpcionK, 1);
+    pantalla.PonerFactorPeerlees(QStringLiteral("2.5"));
+    EXPECT_EQ(pantalla.Datos.FactorPeerlees, 2.5);
+}
+
+TEST(Tanque, SinProyectoOConOtraOpcionLasCajasQuedan) {
+    SesionPrueba sp;
+    DialogosFalsos d;
+    ProyectoEdificio p;
+    PantallaHidroneumatico sin(p, sp.s, d);
+    sin.Datos.Caudal = 4.0;
+    sin.Cargar();
+    EXPECT_EQ(sin.Datos.Caudal, 4.0);
+
+    const QString ruta = sp.CopiaDeEjemplo(QStringLiteral("Vivienda con Tanque Elevado.nivo"), QStringLiteral("t.plm"));
+    QString error;
+    ASSERT_TRUE(CargarProyectoEdificio(p, sp.s, ruta, error));
+    PantallaHidroneumatico otra(p, sp.s, d);
+    otra.Cargar();
+    EXPECT_EQ(otra.Datos.Caudal, 0.0);
+    EXPECT_EQ(otra.Datos.PresionMinima, 0.0);
+}
+
+TEST(Tanque, AbrirOtroProyecto) {
+    SesionPrueba sp;
+    DialogosFalsos d;
+    ProyectoEdificio p;
+    PantallaHidroneumatico pantalla(p, sp.s, d);
+    EXPECT_FALSE(pantalla.Abrir());
+    d.archivos = {sp.CopiaDeEjemplo(QStringLiteral("Edificio_MontantePH.nivo"), QStringLiteral("ph.plm"))};
+    pantalla.Datos.NumeroMetodo = 3;
+    EXPECT_TRUE(pantalla.Abrir());
+    EXPECT_EQ(pantalla.Caption, QStringLiteral("RESULTADO DEL ANÁLISIS     PROYECTO: [ PH.PLM ]"));
+    EXPECT_EQ(pantalla.Datos.NumeroMetodo, 1);
+    EXPECT_GT(pantalla.Datos.Caudal, 0.0);
+    EXPECT_EQ(pantalla.Datos.NumeroPiezas, 16);  // one sub-branch row per apartment
+    EXPECT_EQ(d.ocupado, 0);
+}
