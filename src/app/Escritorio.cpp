@@ -1,23 +1,25 @@
 #include "app/Escritorio.h"
 
-#include "shell/Inicio.h"
+#include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
-#include "shell/Titulos.h"
+#include "shell/screens/DialogosQt.h"
+#include "shell/screens/PantallasEscritorio.h"
+#include "shell/screens/VentanaPrincipal.h"
+#include "shell/screens/frmMsgBox.h"
 
 #include <QApplication>
-#include <QLabel>
-#include <QMainWindow>
 
 int EjecutarEscritorio(int argc, char** argv) {
     QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Nivo-Fontaria 2024"));
+    QApplication::setWindowIcon(IconoPrograma());
     Sesion s;
-    Iniciar(s);
-    QMainWindow ventana;
-    ventana.setWindowTitle(TituloPrincipal(s));
-    auto* rotulo = new QLabel(QStringLiteral("Nivo-Fontaria 2024"), &ventana);
-    rotulo->setAlignment(Qt::AlignCenter);
-    ventana.setCentralWidget(rotulo);
-    ventana.resize(1024, 700);
-    ventana.show();
+    ProyectoEdificio p;
+    DialogosQt d;
+    PantallasEscritorio pantallas(s, p, d);
+    VentanaPrincipal ventana(s, p, d, pantallas);
+    pantallas.PonerVentana(&ventana);
+    ventana.Arrancar();
+    ventana.showMaximized();
     return app.exec();
 }
