@@ -19,6 +19,7 @@ NivoNumero::NivoNumero(int decimales, QWidget* padre) : QLineEdit(padre), decima
 
 void NivoNumero::PonerValor(double v) {
     valor_ = std::clamp(v, minimo_, maximo_);
+    confirmado_ = valor_;
     Mostrar();
 }
 
@@ -60,19 +61,28 @@ void NivoNumero::AlEscribir(const QString&) {
 
 void NivoNumero::keyPressEvent(QKeyEvent* e) {
     if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
-        // The typed text is taken before the signal, so a handler reads it.
-        double v = 0.0;
-        if (Leer(v)) valor_ = v;
-        Mostrar();
+        // The typed text is settled before the signal, so a handler reads it.
+        Confirmar();
         Q_EMIT Enter();
         return;
     }
     QLineEdit::keyPressEvent(e);
 }
 
-void NivoNumero::focusOutEvent(QFocusEvent* e) {
-    // Leaving the box shows the value it holds: a text out of bounds or not
-    // a number goes back to the last good value.
+void NivoNumero::Confirmar() {
+    // A text out of bounds or not a number goes back to the value the box
+    // held before the typing began.
+    double v = 0.0;
+    if (!Leer(v)) v = confirmado_;
+    confirmado_ = v;
+    if (v != valor_) {
+        valor_ = v;
+        Q_EMIT ValorCambiado(valor_);
+    }
     Mostrar();
+}
+
+void NivoNumero::focusOutEvent(QFocusEvent* e) {
+    Confirmar();
     QLineEdit::focusOutEvent(e);
 }

@@ -30,8 +30,10 @@ private:
     bool Leer(double& v) const;
     void Mostrar();
     void AlEscribir(const QString& texto);
+    void Confirmar();
     int decimales_;
     double valor_ = 0.0;
+    double confirmado_ = 0.0;
     double minimo_ = -1e300, maximo_ = 1e300;
 };
 

@@ -27,7 +27,7 @@ public:
 
     int rowCount(const QModelIndex& padre = QModelIndex()) const override;
     int columnCount(const QModelIndex& padre = QModelIndex()) const override;
-    QVariant data(const QModelIndex& i, int rol) const override;
+    QVariant data(const QModelIndex& i, int rol = Qt::DisplayRole) const override;
     QVariant headerData(int seccion, Qt::Orientation o, int rol) const override;
     Qt::ItemFlags flags(const QModelIndex& i) const override;
     bool setData(const QModelIndex& i, const QVariant& v, int rol) override;
