@@ -8,11 +8,18 @@
 #include "shell/screens/frmMsgBox.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 int EjecutarEscritorio(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Nivo-Fontaria 2024"));
     QApplication::setWindowIcon(IconoPrograma());
+    // The toolkit's own dialogs (files, colours) speak Spanish too.
+    QTranslator traduccion;
+    if (traduccion.load(QLocale(QLocale::Spanish), QStringLiteral("qtbase"), QStringLiteral("_"),
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&traduccion);
     Sesion s;
     ProyectoEdificio p;
     DialogosQt d;

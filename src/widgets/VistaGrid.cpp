@@ -3,7 +3,9 @@
 #include "base/Nivo.h"
 #include "widgets/Colores.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
+#include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QTimer>
@@ -249,6 +251,29 @@ VistaGrid::VistaGrid(QWidget* padre) : QTableView(padre) {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+    // The corner cell shows the header of column 0 over the row header.
+    esquina_ = findChild<QAbstractButton*>();
+    if (esquina_) esquina_->installEventFilter(this);
+}
+
+QString VistaGrid::TextoEsquina() const {
+    const Grid* g = modelo_.grid();
+    if (!g) return QString();
+    const QString a = g->Encabezado(1, 0), b = g->Encabezado(2, 0);
+    return b.isEmpty() ? a : a + QLatin1Char('\n') + b;
+}
+
+bool VistaGrid::eventFilter(QObject* o, QEvent* e) {
+    if (o == esquina_ && e->type() == QEvent::Paint && !TextoEsquina().isEmpty()) {
+        QPainter p(esquina_);
+        QStyleOptionHeader op;
+        op.initFrom(esquina_);
+        op.rect = esquina_->rect();
+        style()->drawControl(QStyle::CE_HeaderSection, &op, &p, esquina_);
+        p.drawText(esquina_->rect().adjusted(3, 1, -3, -1), Qt::AlignCenter | Qt::TextWordWrap, TextoEsquina());
+        return true;
+    }
+    return QTableView::eventFilter(o, e);
 }
 
 void VistaGrid::MostrarGrid(Grid* g) {

@@ -85,12 +85,17 @@ public:
     // The screen logic's handler of an edit.
     void AlEditar(std::function<void(int fila, int columna, const QString& texto)> f) { modelo_.alEditar = std::move(f); }
 
+    // The text of the corner cell (header row 1, column 0), as drawn.
+    QString TextoEsquina() const;
+
 protected:
     void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
+    bool eventFilter(QObject* o, QEvent* e) override;
 
 private:
     void AplicarForma();
     ModeloGrid modelo_;
+    QWidget* esquina_ = nullptr;
     int filas_ = -1, columnas_ = -1;
     std::vector<Union> uniones_;
 };

@@ -63,6 +63,9 @@ TEST(VistaGrid, MuestraTextosEncabezadosYUniones) {
     // Numbers to the right, texts to the left.
     EXPECT_EQ(m.data(m.index(0, 2), Qt::TextAlignmentRole).toInt() & Qt::AlignRight, int(Qt::AlignRight));
     EXPECT_EQ(m.data(m.index(0, 0), Qt::TextAlignmentRole).toInt() & Qt::AlignLeft, int(Qt::AlignLeft));
+    EXPECT_TRUE(v.TextoEsquina().isEmpty());
+    g.PonerEncabezado(1, 0, QStringLiteral("Clase de Edificio"));
+    EXPECT_EQ(v.TextoEsquina(), QStringLiteral("Clase de Edificio"));
     // The header stands two rows high.
     EXPECT_GE(v.horizontalHeader()->sizeHint().height(), 2 * v.fontMetrics().height());
 }

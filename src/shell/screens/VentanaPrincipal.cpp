@@ -53,8 +53,24 @@ QIcon IconoHerramienta(const QString& id) {
         {QStringLiteral("ID_Explorador"), QStyle::SP_DirHomeIcon},
         {QStringLiteral("ID_Sobre"), QStyle::SP_MessageBoxInformation},
     };
-    if (id == QLatin1String("ID_Sobre")) return IconoPrograma();
-    return iconos.contains(id) ? st->standardIcon(iconos.value(id)) : QIcon();
+    const QIcon base = id == QLatin1String("ID_Sobre") ? IconoPrograma()
+                       : iconos.contains(id)          ? st->standardIcon(iconos.value(id))
+                                                      : QIcon();
+    if (base.isNull()) return base;
+    // A disabled tool must read as such, whatever the icon theme draws.
+    const QPixmap normal = base.pixmap(32, 32);
+    QImage gris = normal.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < gris.height(); ++y) {
+        auto* fila = reinterpret_cast<QRgb*>(gris.scanLine(y));
+        for (int x = 0; x < gris.width(); ++x) {
+            const int g = 150 + qGray(fila[x]) / 3;
+            fila[x] = qRgba(g, g, g, qAlpha(fila[x]) / 2);
+        }
+    }
+    QIcon icono;
+    icono.addPixmap(normal, QIcon::Normal);
+    icono.addPixmap(QPixmap::fromImage(gris), QIcon::Disabled);
+    return icono;
 }
 
 }  // namespace
