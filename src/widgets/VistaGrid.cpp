@@ -132,9 +132,29 @@ EncabezadoDoble::EncabezadoDoble(QWidget* padre) : QHeaderView(Qt::Horizontal, p
     setHighlightSections(false);
 }
 
+int EncabezadoDoble::AltoFila(int fila) const {
+    int lineas = 1;
+    auto* m = qobject_cast<ModeloGrid*>(model());
+    if (m && m->grid()) {
+        const Grid& g = *m->grid();
+        for (int c = 1; c <= g.Columnas(); ++c) {
+            if (isSectionHidden(c - 1)) continue;
+            // Texts of a joined cell have their width and height elsewhere.
+            bool unida = false;
+            for (const Union& u : g.UnionesEncabezado())
+                unida = unida || (u.columna <= c && c < u.columna + u.columnas && u.fila <= fila && fila < u.fila + u.filas);
+            if (unida) continue;
+            const QRect r = fontMetrics().boundingRect(QRect(0, 0, std::max(10, sectionSize(c - 1) - 6), 10000),
+                                                       Qt::AlignCenter | Qt::TextWordWrap, g.Encabezado(fila, c));
+            lineas = std::max(lineas, (r.height() + fontMetrics().height() - 1) / fontMetrics().height());
+        }
+    }
+    return std::min(lineas, 3) * fontMetrics().height() + 6;
+}
+
 QSize EncabezadoDoble::sizeHint() const {
     QSize s = QHeaderView::sizeHint();
-    s.setHeight(2 * (fontMetrics().height() + 8));
+    s.setHeight(AltoFila(1) + AltoFila(2));
     return s;
 }
 
@@ -153,7 +173,8 @@ void EncabezadoDoble::paintEvent(QPaintEvent*) {
     if (!m || !m->grid()) return;
     const Grid& g = *m->grid();
     QPainter p(viewport());
-    const int alto = viewport()->height(), fila = alto / 2;
+    const int alto = viewport()->height();
+    const int fila = alto * AltoFila(1) / std::max(1, AltoFila(1) + AltoFila(2));
     const int n = g.Columnas();
     // Section x and width of grid columns c..c+k-1, skipping hidden ones.
     auto tramo = [&](int c, int k) {
@@ -173,7 +194,7 @@ void EncabezadoDoble::paintEvent(QPaintEvent*) {
         const auto [x, ancho] = tramo(u.columna, u.columnas);
         if (x < 0 || ancho <= 0) continue;
         const int y = u.fila == 1 ? 0 : fila;
-        const int h = u.fila == 1 && u.filas >= 2 ? alto : alto - fila;
+        const int h = u.fila == 2 ? alto - fila : u.filas >= 2 ? alto : fila;
         PintarCelda(p, QRect(x, y, ancho, h), g.Encabezado(u.fila, u.columna));
     }
     for (int c = 1; c <= n; ++c) {
@@ -254,6 +275,10 @@ VistaGrid::VistaGrid(QWidget* padre) : QTableView(padre) {
     // The corner cell shows the header of column 0 over the row header.
     esquina_ = findChild<QAbstractButton*>();
     if (esquina_) esquina_->installEventFilter(this);
+    // A column made narrower may need more header lines.
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        QMetaObject::invokeMethod(this, [this] { updateGeometries(); }, Qt::QueuedConnection);
+    });
 }
 
 QString VistaGrid::TextoEsquina() const {
@@ -296,7 +321,10 @@ void VistaGrid::AplicarForma() {
     }
     for (const Union& u : uniones_)
         if (u.columna >= 1 && u.fila >= 1 && u.fila <= filas_) setSpan(u.fila - 1, u.columna - 1, u.filas, u.columnas);
+    verticalHeader()->setMinimumWidth(TextoEsquina().isEmpty() ? 0
+                                                               : fontMetrics().horizontalAdvance(TextoEsquina()) + 12);
     horizontalHeader()->updateGeometry();
+    updateGeometries();  // the header's height follows the new widths
     horizontalHeader()->viewport()->update();
 }
 

@@ -55,6 +55,9 @@ protected:
 
 private:
     void PintarCelda(QPainter& p, const QRect& r, const QString& texto) const;
+    // The height of header row 1 or 2: the lines its texts need at their
+    // columns' widths, from one to three.
+    int AltoFila(int fila) const;
 };
 
 class DelegadoGrid : public QStyledItemDelegate {
