@@ -96,10 +96,21 @@ void MenuPrincipal::TanqueHidroneumatico() {
     MostrarSiHay(Pantalla::Hidroneumatico);
 }
 
-void MenuPrincipal::ResultadosAnalisis() {
-    if (!PedirProyectoSiFalta()) return;
+bool MenuPrincipal::CargarConProyecto() {
+    if (!PedirProyectoSiFalta()) return false;
     Ocupado(true);
-    if (!CargarProyecto()) return;
+    return CargarProyecto();
+}
+
+void MenuPrincipal::MostrarResultado(Pantalla p) {
+    Ocupado(true);
+    MostrarSiHay(p);
+    s_.ConexionProyecto.Cerrar();
+    Ocupado(false);
+}
+
+void MenuPrincipal::ResultadosAnalisis() {
+    if (!CargarConProyecto()) return;
     if (p_.NumeroRamales >= 1) {
         p_.ErrorNumeracion = 0;
         if (VerificarNumeracion) VerificarNumeracion();
@@ -109,28 +120,18 @@ void MenuPrincipal::ResultadosAnalisis() {
             return;
         }
     }
-    Ocupado(true);
-    MostrarSiHay(Pantalla::AnalisisRed);
-    s_.ConexionProyecto.Cerrar();
-    Ocupado(false);
+    MostrarResultado(Pantalla::AnalisisRed);
 }
 
 void MenuPrincipal::ComputosRed() {
-    if (!PedirProyectoSiFalta()) return;
-    Ocupado(true);
-    if (!CargarProyecto()) return;
+    if (!CargarConProyecto()) return;
     // Run even with no branch; its fault is not looked at here.
     if (VerificarNumeracion) VerificarNumeracion();
-    Ocupado(true);
-    MostrarSiHay(Pantalla::Computos);
-    s_.ConexionProyecto.Cerrar();
-    Ocupado(false);
+    MostrarResultado(Pantalla::Computos);
 }
 
 void MenuPrincipal::ImprimirDatos() {
-    if (!PedirProyectoSiFalta()) return;
-    Ocupado(true);
-    if (!CargarProyecto()) return;
+    if (!CargarConProyecto()) return;
     if (VerificarNumeracion) VerificarNumeracion();
     Ocupado(true);
     // The data reports keep the connection.

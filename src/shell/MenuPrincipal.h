@@ -79,6 +79,11 @@ private:
     // when the file is not a project.
     bool CargarProyecto();
     bool PedirProyectoSiFalta();
+    // The common road of the result commands: a project (asked for when
+    // none is chosen), the busy pointer, the load.
+    bool CargarConProyecto();
+    // Shows a result screen and closes the project's connection after it.
+    void MostrarResultado(Pantalla p);
     void SalvarComoModo(bool acueducto);
     void AbrirDocumento(const QString& ruta, const QString& mensaje, const QString& encabezado);
     void MostrarSiHay(Pantalla p);

@@ -40,6 +40,12 @@ struct Comandos : ::testing::Test {
     }
 };
 
+void EscribirTexto(const QString& ruta, const char* texto) {
+    QFile f(ruta);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(texto);
+}
+
 bool EsBaseDeProyecto(const QString& ruta) {
     Conexion c;
     return c.Abrir(ruta) && c.ExisteTabla(QStringLiteral("DatosRamales"));
@@ -49,10 +55,7 @@ bool EsBaseDeProyecto(const QString& ruta) {
 
 TEST_F(Comandos, NuevoProyectoCopiaLaPlantillaSobreElArchivoYMuestraElEditor) {
     const QString ruta = Proyectos(QStringLiteral("casa.plm"));
-    QFile f(ruta);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("un archivo anterior");
-    f.close();
+    EscribirTexto(ruta, "un archivo anterior");
     d.archivos.push_back(ruta);
     menu.NuevoProyecto();
     EXPECT_EQ(d.dialogosArchivo.value(0), Dialogo("Crear un Nuevo Proyecto", "Fontaria (*.plm)|*.plm", "Proyectos"));
@@ -263,10 +266,7 @@ TEST_F(Comandos, ElTanqueNoPideProyecto) {
 
 TEST_F(Comandos, UnArchivoAjenoDaUnMensajeYNoMuestraPantalla) {
     const QString texto = Proyectos(QStringLiteral("notas.plm"));
-    QFile f(texto);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("esto no es una base de datos, sino un texto cualquiera con bastante longitud");
-    f.close();
+    EscribirTexto(texto, "esto no es una base de datos, sino un texto cualquiera con bastante longitud");
     d.archivos.push_back(texto);
     menu.ResultadosAnalisis();
     ASSERT_EQ(d.mensajes.size(), 1u);

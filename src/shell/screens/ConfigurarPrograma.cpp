@@ -77,6 +77,25 @@ ConfigurarPrograma::ConfigurarPrograma(Sesion& s, Dialogos& d, QWidget* padre)
     ConfigurarToolTips(this, tip_, s_.Tapiz);
 }
 
+QGroupBox* ConfigurarPrograma::GrupoOpciones(const QString& titulo, std::array<const char*, 3> nombres,
+                                             std::array<const char*, 3> textos, QRadioButton* (&botones)[3],
+                                             void (ConfiguracionPrograma::*poner)(int)) {
+    auto* grupo = new QGroupBox(titulo);
+    auto* capa = new QVBoxLayout(grupo);
+    for (int i = 0; i < 3; ++i) {
+        botones[i] = new QRadioButton(QString::fromUtf8(textos[size_t(i)]), grupo);
+        botones[i]->setObjectName(QString::fromLatin1(nombres[size_t(i)]));
+        capa->addWidget(botones[i]);
+        connect(botones[i], &QRadioButton::toggled, this, [this, i, poner](bool si) {
+            if (si && !mostrando_) {
+                (logica_.*poner)(i);
+                Mostrar();
+            }
+        });
+    }
+    return grupo;
+}
+
 QWidget* ConfigurarPrograma::PaginaTapiz() {
     auto* pagina = new QWidget(this);
     auto* capa = new QGridLayout(pagina);
@@ -101,31 +120,12 @@ QWidget* ConfigurarPrograma::PaginaTapiz() {
         Mostrar();
     });
 
-    auto* v = new QGroupBox(QStringLiteral("Posición Vertical"), pagina);
-    auto* cv = new QVBoxLayout(v);
-    const char* nombresV[3] = {"Option1", "Option2", "Option3"};
-    const char* textosV[3] = {"Centro", "Arriba", "Abajo"};
-    for (int i = 0; i < 3; ++i) {
-        vertical_[i] = new QRadioButton(QString::fromUtf8(textosV[i]), v);
-        vertical_[i]->setObjectName(QString::fromLatin1(nombresV[i]));
-        cv->addWidget(vertical_[i]);
-        connect(vertical_[i], &QRadioButton::toggled, this, [this, i](bool si) {
-            if (si && !mostrando_) logica_.PonerVertical(i), Mostrar();
-        });
-    }
-    auto* h = new QGroupBox(QStringLiteral("Posición Horizontal"), pagina);
-    auto* ch = new QVBoxLayout(h);
-    // Option5, Option4, Option6 give 0, 1, 2.
-    const char* nombresH[3] = {"Option5", "Option4", "Option6"};
-    const char* textosH[3] = {"Izquierda", "Centro", "Derecha"};
-    for (int i = 0; i < 3; ++i) {
-        horizontal_[i] = new QRadioButton(QString::fromUtf8(textosH[i]), h);
-        horizontal_[i]->setObjectName(QString::fromLatin1(nombresH[i]));
-        ch->addWidget(horizontal_[i]);
-        connect(horizontal_[i], &QRadioButton::toggled, this, [this, i](bool si) {
-            if (si && !mostrando_) logica_.PonerHorizontal(i), Mostrar();
-        });
-    }
+    // Option1..3 give record 2 the values 0, 1, 2; Option5, Option4, Option6
+    // give record 3 the values 0, 1, 2.
+    auto* v = GrupoOpciones(QStringLiteral("Posición Vertical"), {"Option1", "Option2", "Option3"},
+                            {"Centro", "Arriba", "Abajo"}, vertical_, &ConfiguracionPrograma::PonerVertical);
+    auto* h = GrupoOpciones(QStringLiteral("Posición Horizontal"), {"Option5", "Option4", "Option6"},
+                            {"Izquierda", "Centro", "Derecha"}, horizontal_, &ConfiguracionPrograma::PonerHorizontal);
     auto* posiciones = new QHBoxLayout;
     posiciones->addWidget(v);
     posiciones->addWidget(h);
@@ -140,10 +140,16 @@ QWidget* ConfigurarPrograma::PaginaTapiz() {
     checks->addWidget(check2_);
     capa->addLayout(checks, 2, 1);
     connect(check1_, &QCheckBox::toggled, this, [this](bool si) {
-        if (!mostrando_) logica_.PonerAjustar(si), Mostrar();
+        if (!mostrando_) {
+            logica_.PonerAjustar(si);
+            Mostrar();
+        }
     });
     connect(check2_, &QCheckBox::toggled, this, [this](bool si) {
-        if (!mostrando_) logica_.PonerProporcion(si), Mostrar();
+        if (!mostrando_) {
+            logica_.PonerProporcion(si);
+            Mostrar();
+        }
     });
 
     // The preview stands for the main window's panel at the screen's size.
@@ -161,7 +167,10 @@ QWidget* ConfigurarPrograma::PaginaTip() {
     combo1_->addItems(ConfiguracionPrograma::TamanosLetra());
     capa->addWidget(combo1_, 0, 1);
     connect(combo1_, &QComboBox::currentIndexChanged, this, [this](int i) {
-        if (!mostrando_) logica_.PonerTamanoLetra(i), Mostrar();
+        if (!mostrando_) {
+            logica_.PonerTamanoLetra(i);
+            Mostrar();
+        }
     });
 
     lsLabel1_ = new QLabel(QStringLiteral("Fondo"), pagina);
@@ -208,10 +217,16 @@ QWidget* ConfigurarPrograma::PaginaTip() {
     capa->addWidget(check3_, 4, 0, 1, 2);
     capa->addWidget(check4_, 5, 0, 1, 2);
     connect(check3_, &QCheckBox::toggled, this, [this](bool si) {
-        if (!mostrando_) logica_.PonerCheck3(si), Mostrar();
+        if (!mostrando_) {
+            logica_.PonerCheck3(si);
+            Mostrar();
+        }
     });
     connect(check4_, &QCheckBox::toggled, this, [this](bool si) {
-        if (!mostrando_) logica_.PonerCheck4(si), Mostrar();
+        if (!mostrando_) {
+            logica_.PonerCheck4(si);
+            Mostrar();
+        }
     });
 
     auto* ver = Boton(QStringLiteral("OwlButton1"), QStringLiteral("Mensaje del Botón"),

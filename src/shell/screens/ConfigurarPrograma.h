@@ -5,8 +5,10 @@
 #include "shell/ConfiguracionPrograma.h"
 
 #include <QDialog>
+#include <array>
 
 class QCheckBox;
+class QGroupBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -32,6 +34,9 @@ protected:
 private:
     QWidget* PaginaTapiz();
     QWidget* PaginaTip();
+    // A frame of three options that give a setting the values 0, 1, 2.
+    QGroupBox* GrupoOpciones(const QString& titulo, std::array<const char*, 3> nombres, std::array<const char*, 3> textos,
+                             QRadioButton* (&botones)[3], void (ConfiguracionPrograma::*poner)(int));
     Sesion& s_;
     Dialogos& d_;
     ConfiguracionPrograma logica_;
