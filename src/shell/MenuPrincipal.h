@@ -20,7 +20,7 @@ public:
 
     // The network verification run before the analysis and the take-off;
     // it raises ProyectoEdificio::ErrorNumeracion on a broken list.  Empty
-    // while the analysis is not part of the program.
+    // while the program has no analysis.
     std::function<void()> VerificarNumeracion;
 
     // --- State drawn by the window.
