@@ -260,3 +260,11 @@ void MenuPrincipal::ConfigurarPrograma() {
     MostrarSiHay(Pantalla::ConfigurarPrograma);
     Ocupado(false);
 }
+
+void MenuPrincipal::RepararArchivos() {
+    // The current project is closed first, so that it may be compacted.
+    Ocupado(true);
+    ValoresIniciales(p_, s_);
+    MostrarSiHay(Pantalla::Compactar);
+    Ocupado(false);
+}

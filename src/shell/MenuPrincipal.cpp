@@ -25,6 +25,9 @@ void MenuPrincipal::Preparar() {
     // Save-as needs a chosen project.
     Habilitar(QStringLiteral("ID_M1_SalvarComo"), false);
     Habilitar(QStringLiteral("ID_A_Salvar"), false);
+    // The aqueduct commands that load a network come with the aqueduct
+    // model; until then their tools stay disabled whatever the screens.
+    for (const char* id : {"ID_A_Nuevo", "ID_A_Modificar", "ID_A_Analisis"}) Habilitar(QString::fromLatin1(id), false);
     TituloEdificio();
 }
 
@@ -99,6 +102,7 @@ bool MenuPrincipal::Ejecutar(const QString& id) {
         {QStringLiteral("ID_TemasAyuda"), &MenuPrincipal::TemasAyuda},
         {QStringLiteral("ID_Manual"), &MenuPrincipal::ManualPrograma},
         {QStringLiteral("ID_Ejemplos"), &MenuPrincipal::VerEjemplos},
+        {QStringLiteral("ID_M5_Reparar"), &MenuPrincipal::RepararArchivos},
     };
     try {
         if (auto c = comandos.value(id, nullptr)) {

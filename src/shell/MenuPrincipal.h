@@ -68,6 +68,7 @@ public:
     void TemasAyuda();
     void ExploradorWindows();
     void ConfigurarPrograma();
+    void RepararArchivos();
 
 private:
     void Habilitar(const QString& id, bool si) { habilitadas_[id] = si; }
