@@ -55,4 +55,24 @@ foreach(json IN LISTS MUESTRAS_REDES)
   list(APPEND DATOS_GENERADOS "${IMAGEN}/${nombre}.nivo")
 endforeach()
 
+
+# The manuals under Manual/: Spanish Markdown sources in data/manual rendered
+# to PDF, and the main manual also as the HTML help (Manual/Ayuda/index.html).
+set(MANUAL ${CMAKE_BINARY_DIR}/Manual)
+file(MAKE_DIRECTORY ${MANUAL}/Ayuda)
+foreach(nombre "ManualFontaria24" "Ejemplo Viviendas y Edificios" "Ejemplo Acueductos")
+  add_custom_command(
+    OUTPUT "${MANUAL}/${nombre}.pdf"
+    COMMAND fontaria_datos manual "${CMAKE_SOURCE_DIR}/data/manual/${nombre}.md" "${MANUAL}/${nombre}.pdf"
+    DEPENDS fontaria_datos "${CMAKE_SOURCE_DIR}/data/manual/${nombre}.md"
+    COMMENT "Manual ${nombre}.pdf")
+  list(APPEND DATOS_GENERADOS "${MANUAL}/${nombre}.pdf")
+endforeach()
+add_custom_command(
+  OUTPUT ${MANUAL}/Ayuda/index.html
+  COMMAND fontaria_datos ayuda ${CMAKE_SOURCE_DIR}/data/manual/ManualFontaria24.md ${MANUAL}/Ayuda/index.html
+  DEPENDS fontaria_datos ${CMAKE_SOURCE_DIR}/data/manual/ManualFontaria24.md
+  COMMENT "Ayuda index.html")
+list(APPEND DATOS_GENERADOS ${MANUAL}/Ayuda/index.html)
+
 add_custom_target(datos ALL DEPENDS ${DATOS_GENERADOS})

@@ -1,23 +1,32 @@
 #include "app/Escritorio.h"
 
-#include "shell/Inicio.h"
+#include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
-#include "shell/Titulos.h"
+#include "shell/screens/DialogosQt.h"
+#include "shell/screens/PantallasEscritorio.h"
+#include "shell/screens/VentanaPrincipal.h"
+#include "shell/screens/frmMsgBox.h"
 
 #include <QApplication>
-#include <QLabel>
-#include <QMainWindow>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 int EjecutarEscritorio(int argc, char** argv) {
     QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Nivo-Fontaria 2024"));
+    QApplication::setWindowIcon(IconoPrograma());
+    // The toolkit's own dialogs (files, colours) speak Spanish too.
+    QTranslator traduccion;
+    if (traduccion.load(QLocale(QLocale::Spanish), QStringLiteral("qtbase"), QStringLiteral("_"),
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&traduccion);
     Sesion s;
-    Iniciar(s);
-    QMainWindow ventana;
-    ventana.setWindowTitle(TituloPrincipal(s));
-    auto* rotulo = new QLabel(QStringLiteral("Nivo-Fontaria 2024"), &ventana);
-    rotulo->setAlignment(Qt::AlignCenter);
-    ventana.setCentralWidget(rotulo);
-    ventana.resize(1024, 700);
-    ventana.show();
+    ProyectoEdificio p;
+    DialogosQt d;
+    PantallasEscritorio pantallas(s, p, d);
+    VentanaPrincipal ventana(s, p, d, pantallas);
+    pantallas.PonerVentana(&ventana);
+    ventana.Arrancar();
+    ventana.showMaximized();
     return app.exec();
 }

@@ -8,7 +8,11 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <deque>
+#include <ostream>
 #include <vector>
+
+// Texts in test failures read as text.
+inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
 
 // The program folder of the build, holding the generated Imagen/.
 QString RutaProgramaPruebas();

@@ -6,6 +6,8 @@
 //   fontaria_datos plantilla ESQUEMA.sql SALIDA
 //   fontaria_datos catalogo ESQUEMA.sql PIEZAS.tsv CONEXIONES.tsv SALIDA
 //   fontaria_datos tapiz SALIDA.jpg
+//   fontaria_datos manual TEXTO.md SALIDA.pdf
+//   fontaria_datos ayuda TEXTO.md SALIDA.html
 
 #include "app/datos/Dibujos.h"
 #include "base/Nivo.h"
@@ -13,7 +15,11 @@
 #include "store/Conexion.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QTextDocument>
 #include <QTextStream>
 #include <cstdio>
 
@@ -98,6 +104,50 @@ int Tapiz(const QString& salida) {
     return QFile::rename(temporal, salida) ? 0 : 1;
 }
 
+// A manual written in Markdown, with the program's look: the body in a
+// sans-serif face, the headings in the program's blue.
+bool LeerManual(const QString& fuente, QTextDocument& doc) {
+    QString texto;
+    if (!LeerTexto(fuente, texto)) return false;
+    doc.setDefaultStyleSheet(QStringLiteral("h1 { color: #1d4f91; } h2 { color: #1d4f91; } h3 { color: #2b6cb0; } "
+                                            "table { border-collapse: collapse; } th { background: #dbe7f5; }"));
+    QFont f(QStringLiteral("DejaVu Sans"));
+    f.setPointSizeF(10.5);
+    doc.setDefaultFont(f);
+    doc.setMarkdown(texto, QTextDocument::MarkdownDialectGitHub);
+    doc.setMetaInformation(QTextDocument::DocumentTitle, QFileInfo(fuente).completeBaseName());
+    return true;
+}
+
+int Manual(const QString& fuente, const QString& salida) {
+    QTextDocument doc;
+    if (!LeerManual(fuente, doc)) return Falla(QStringLiteral("No se puede leer ") + fuente);
+    const QString temporal = salida + QStringLiteral(".tmp");
+    {
+        QPdfWriter pdf(temporal);
+        pdf.setPageSize(QPageSize(QPageSize::A4));
+        pdf.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Millimeter);
+        pdf.setTitle(QFileInfo(fuente).completeBaseName());
+        pdf.setCreator(QStringLiteral("Nivo-Fontaria 2024"));
+        pdf.setResolution(300);
+        doc.print(&pdf);
+    }
+    if (QFileInfo(temporal).size() == 0) return Falla(QStringLiteral("No se puede escribir ") + salida);
+    QFile::remove(salida);
+    return QFile::rename(temporal, salida) ? 0 : Falla(QStringLiteral("No se puede escribir ") + salida);
+}
+
+int Ayuda(const QString& fuente, const QString& salida) {
+    QTextDocument doc;
+    if (!LeerManual(fuente, doc)) return Falla(QStringLiteral("No se puede leer ") + fuente);
+    const QString temporal = salida + QStringLiteral(".tmp");
+    QFile f(temporal);
+    if (!f.open(QIODevice::WriteOnly) || f.write(doc.toHtml().toUtf8()) < 0) return Falla(QStringLiteral("No se puede escribir ") + salida);
+    f.close();
+    QFile::remove(salida);
+    return QFile::rename(temporal, salida) ? 0 : Falla(QStringLiteral("No se puede escribir ") + salida);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -108,5 +158,7 @@ int main(int argc, char** argv) {
     if (a.size() == 4 && a[1] == QLatin1String("plantilla")) return Plantilla(a[2], a[3]);
     if (a.size() == 6 && a[1] == QLatin1String("catalogo")) return Catalogo(a[2], a[3], a[4], a[5]);
     if (a.size() == 3 && a[1] == QLatin1String("tapiz")) return Tapiz(a[2]);
-    return Falla(QStringLiteral("Uso: fontaria_datos plantilla|catalogo|tapiz ..."));
+    if (a.size() == 4 && a[1] == QLatin1String("manual")) return Manual(a[2], a[3]);
+    if (a.size() == 4 && a[1] == QLatin1String("ayuda")) return Ayuda(a[2], a[3]);
+    return Falla(QStringLiteral("Uso: fontaria_datos plantilla|catalogo|tapiz|manual|ayuda ..."));
 }

@@ -1,0 +1,10 @@
+#pragma once
+// The about box.
+
+#include <QDialog>
+
+class Sobre : public QDialog {
+    Q_OBJECT
+public:
+    explicit Sobre(QWidget* padre = nullptr);
+};

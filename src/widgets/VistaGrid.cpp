@@ -1,0 +1,356 @@
+#include "widgets/VistaGrid.h"
+
+#include "base/Nivo.h"
+#include "widgets/Colores.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <QTimer>
+
+namespace {
+
+bool EsCeldaNumerica(const Grid& g, int f, int c) {
+    const TipoCelda t = g.Tipo(f, c);
+    return t == TipoCelda::Numero || t == TipoCelda::Entero;
+}
+
+bool MismasUniones(const std::vector<Union>& a, const std::vector<Union>& b) {
+    if (a.size() != b.size()) return false;
+    for (size_t i = 0; i < a.size(); ++i)
+        if (a[i].fila != b[i].fila || a[i].columna != b[i].columna || a[i].filas != b[i].filas ||
+            a[i].columnas != b[i].columnas)
+            return false;
+    return true;
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------- model
+
+void ModeloGrid::PonerGrid(Grid* g) {
+    beginResetModel();
+    grid_ = g;
+    endResetModel();
+}
+
+int ModeloGrid::rowCount(const QModelIndex& padre) const {
+    return padre.isValid() || !grid_ ? 0 : grid_->Filas();
+}
+
+int ModeloGrid::columnCount(const QModelIndex& padre) const {
+    return padre.isValid() || !grid_ ? 0 : grid_->Columnas();
+}
+
+QVariant ModeloGrid::data(const QModelIndex& i, int rol) const {
+    if (!grid_ || !i.isValid()) return {};
+    const int f = FilaGrid(i), c = ColumnaGrid(i);
+    const Celda& celda = grid_->Cel(f, c);
+    switch (rol) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return celda.texto;
+    case Qt::BackgroundRole:
+        if (celda.colorFondo != SinColor) return ColorNivo(celda.colorFondo);
+        return {};
+    case Qt::ForegroundRole:
+        if (celda.colorTexto != SinColor) return ColorNivo(celda.colorTexto);
+        return {};
+    case Qt::TextAlignmentRole:
+        if (celda.esNumero || EsCeldaNumerica(*grid_, f, c)) return int(Qt::AlignRight | Qt::AlignVCenter);
+        return int(Qt::AlignLeft | Qt::AlignVCenter);
+    default:
+        return {};
+    }
+}
+
+QVariant ModeloGrid::headerData(int seccion, Qt::Orientation o, int rol) const {
+    if (!grid_ || rol != Qt::DisplayRole) return QAbstractTableModel::headerData(seccion, o, rol);
+    if (o == Qt::Vertical) return seccion + 1 <= grid_->Filas() ? grid_->Texto(seccion + 1, 0) : QString();
+    const QString a = grid_->Encabezado(1, seccion + 1), b = grid_->Encabezado(2, seccion + 1);
+    return b.isEmpty() ? a : a + QLatin1Char('\n') + b;
+}
+
+Qt::ItemFlags ModeloGrid::flags(const QModelIndex& i) const {
+    if (!grid_ || !i.isValid()) return Qt::NoItemFlags;
+    Qt::ItemFlags f = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    if (!grid_->EstaBloqueada(FilaGrid(i), ColumnaGrid(i))) f |= Qt::ItemIsEditable;
+    return f;
+}
+
+bool ModeloGrid::setData(const QModelIndex& i, const QVariant& v, int rol) {
+    if (!grid_ || !i.isValid() || rol != Qt::EditRole) return false;
+    const int f = FilaGrid(i), c = ColumnaGrid(i);
+    if (grid_->EstaBloqueada(f, c)) return false;
+    const QString texto = v.toString();
+    const TipoCelda t = grid_->Tipo(f, c);
+    if (t == TipoCelda::Numero || t == TipoCelda::Entero) {
+        double numero = 0.0;
+        if (Trim(texto).isEmpty()) {
+            numero = 0.0;
+        } else if (!LeerNumero(Trim(texto), numero)) {
+            return false;  // a number cell refuses other text, as the grid did
+        }
+        const Columna& col = grid_->Col(c);
+        if (numero < col.minimo || numero > col.maximo) return false;
+        if (t == TipoCelda::Entero)
+            grid_->PonerEntero(f, c, qRound64(numero));
+        else
+            grid_->PonerNumero(f, c, numero, col.decimales);
+    } else {
+        grid_->PonerTexto(f, c, texto);
+    }
+    Q_EMIT dataChanged(i, i);
+    // The handler may refill the grid: it runs once the editor is closed.
+    if (alEditar) {
+        const QString final = grid_->Texto(f, c);
+        QTimer::singleShot(0, this, [this, f, c, final] {
+            if (alEditar) alEditar(f, c, final);
+        });
+    }
+    return true;
+}
+
+void ModeloGrid::Reiniciar() {
+    beginResetModel();
+    endResetModel();
+}
+
+void ModeloGrid::Repintar() {
+    if (!grid_ || grid_->Filas() == 0 || grid_->Columnas() == 0) return;
+    Q_EMIT dataChanged(index(0, 0), index(grid_->Filas() - 1, grid_->Columnas() - 1));
+    Q_EMIT headerDataChanged(Qt::Vertical, 0, grid_->Filas() - 1);
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, grid_->Columnas() - 1);
+}
+
+// ---------------------------------------------------------------- header
+
+EncabezadoDoble::EncabezadoDoble(QWidget* padre) : QHeaderView(Qt::Horizontal, padre) {
+    setSectionsClickable(false);
+    setHighlightSections(false);
+}
+
+int EncabezadoDoble::AltoFila(int fila) const {
+    int lineas = 1;
+    auto* m = qobject_cast<ModeloGrid*>(model());
+    if (m && m->grid()) {
+        const Grid& g = *m->grid();
+        for (int c = 1; c <= g.Columnas(); ++c) {
+            if (isSectionHidden(c - 1)) continue;
+            // Texts of a joined cell have their width and height elsewhere.
+            bool unida = false;
+            for (const Union& u : g.UnionesEncabezado())
+                unida = unida || (u.columna <= c && c < u.columna + u.columnas && u.fila <= fila && fila < u.fila + u.filas);
+            if (unida) continue;
+            const QRect r = fontMetrics().boundingRect(QRect(0, 0, std::max(10, sectionSize(c - 1) - 6), 10000),
+                                                       Qt::AlignCenter | Qt::TextWordWrap, g.Encabezado(fila, c));
+            lineas = std::max(lineas, (r.height() + fontMetrics().height() - 1) / fontMetrics().height());
+        }
+    }
+    return std::min(lineas, 3) * fontMetrics().height() + 6;
+}
+
+QSize EncabezadoDoble::sizeHint() const {
+    QSize s = QHeaderView::sizeHint();
+    s.setHeight(AltoFila(1) + AltoFila(2));
+    return s;
+}
+
+void EncabezadoDoble::PintarCelda(QPainter& p, const QRect& r, const QString& texto) const {
+    QStyleOptionHeader o;
+    initStyleOption(&o);
+    o.rect = r;
+    o.section = 0;
+    style()->drawControl(QStyle::CE_HeaderSection, &o, &p, this);
+    p.setPen(palette().color(QPalette::ButtonText));
+    p.drawText(r.adjusted(3, 1, -3, -1), Qt::AlignCenter | Qt::TextWordWrap, texto);
+}
+
+void EncabezadoDoble::paintEvent(QPaintEvent*) {
+    auto* m = qobject_cast<ModeloGrid*>(model());
+    if (!m || !m->grid()) return;
+    const Grid& g = *m->grid();
+    QPainter p(viewport());
+    const int alto = viewport()->height();
+    const int fila = alto * AltoFila(1) / std::max(1, AltoFila(1) + AltoFila(2));
+    const int n = g.Columnas();
+    // Section x and width of grid columns c..c+k-1, skipping hidden ones.
+    auto tramo = [&](int c, int k) {
+        int x = -1, ancho = 0;
+        for (int j = c; j < c + k && j <= n; ++j) {
+            if (isSectionHidden(j - 1)) continue;
+            if (x < 0) x = sectionViewportPosition(j - 1);
+            ancho += sectionSize(j - 1);
+        }
+        return std::make_pair(x, ancho);
+    };
+    std::vector<char> cubierta(size_t(2 * (n + 1)), 0);
+    for (const Union& u : g.UnionesEncabezado()) {
+        if (u.columna < 1 || u.columna > n || u.fila < 1 || u.fila > 2) continue;
+        for (int r = u.fila; r < u.fila + u.filas && r <= 2; ++r)
+            for (int c = u.columna; c < u.columna + u.columnas && c <= n; ++c) cubierta[size_t((r - 1) * (n + 1) + c)] = 1;
+        const auto [x, ancho] = tramo(u.columna, u.columnas);
+        if (x < 0 || ancho <= 0) continue;
+        const int y = u.fila == 1 ? 0 : fila;
+        const int h = u.fila == 2 ? alto - fila : u.filas >= 2 ? alto : fila;
+        PintarCelda(p, QRect(x, y, ancho, h), g.Encabezado(u.fila, u.columna));
+    }
+    for (int c = 1; c <= n; ++c) {
+        if (isSectionHidden(c - 1)) continue;
+        const int x = sectionViewportPosition(c - 1), ancho = sectionSize(c - 1);
+        if (x + ancho < 0 || x > viewport()->width()) continue;
+        if (!cubierta[size_t(c)]) PintarCelda(p, QRect(x, 0, ancho, fila), g.Encabezado(1, c));
+        if (!cubierta[size_t(n + 1 + c)]) PintarCelda(p, QRect(x, fila, ancho, alto - fila), g.Encabezado(2, c));
+    }
+}
+
+// ---------------------------------------------------------------- delegate
+
+QWidget* DelegadoGrid::createEditor(QWidget* padre, const QStyleOptionViewItem& o, const QModelIndex& i) const {
+    auto* m = qobject_cast<const ModeloGrid*>(i.model());
+    if (!m || !m->grid()) return QStyledItemDelegate::createEditor(padre, o, i);
+    const Grid& g = *m->grid();
+    const int f = ModeloGrid::FilaGrid(i), c = ModeloGrid::ColumnaGrid(i);
+    if (g.Tipo(f, c) == TipoCelda::Lista) {
+        auto* combo = new QComboBox(padre);
+        combo->addItems(g.Col(c).lista);
+        // A choice in the list is the edit, as in the grid's combo cells.
+        connect(combo, &QComboBox::activated, this, [this, combo] {
+            auto* yo = const_cast<DelegadoGrid*>(this);
+            Q_EMIT yo->commitData(combo);
+            Q_EMIT yo->closeEditor(combo);
+        });
+        return combo;
+    }
+    auto* linea = new QLineEdit(padre);
+    linea->setFrame(false);
+    if (g.Tipo(f, c) == TipoCelda::Numero || g.Tipo(f, c) == TipoCelda::Entero) linea->setAlignment(Qt::AlignRight);
+    return linea;
+}
+
+void DelegadoGrid::setEditorData(QWidget* editor, const QModelIndex& i) const {
+    const QString texto = i.data(Qt::EditRole).toString();
+    if (auto* combo = qobject_cast<QComboBox*>(editor)) {
+        combo->setCurrentIndex(std::max(0, combo->findText(texto)));
+        return;
+    }
+    if (auto* linea = qobject_cast<QLineEdit*>(editor)) {
+        linea->setText(texto);
+        linea->selectAll();
+        return;
+    }
+    QStyledItemDelegate::setEditorData(editor, i);
+}
+
+void DelegadoGrid::setModelData(QWidget* editor, QAbstractItemModel* m, const QModelIndex& i) const {
+    if (auto* combo = qobject_cast<QComboBox*>(editor)) {
+        m->setData(i, combo->currentText(), Qt::EditRole);
+        return;
+    }
+    if (auto* linea = qobject_cast<QLineEdit*>(editor)) {
+        m->setData(i, linea->text(), Qt::EditRole);
+        return;
+    }
+    QStyledItemDelegate::setModelData(editor, m, i);
+}
+
+// ---------------------------------------------------------------- view
+
+VistaGrid::VistaGrid(QWidget* padre) : QTableView(padre) {
+    setHorizontalHeader(new EncabezadoDoble(this));
+    setItemDelegate(new DelegadoGrid(this));
+    setModel(&modelo_);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                    QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
+    setWordWrap(false);
+    // Fixed row heights keep the view's layout independent of the row count.
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+    // The corner cell shows the header of column 0 over the row header.
+    esquina_ = findChild<QAbstractButton*>();
+    if (esquina_) esquina_->installEventFilter(this);
+    // A column made narrower may need more header lines.
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        QMetaObject::invokeMethod(this, [this] { updateGeometries(); }, Qt::QueuedConnection);
+    });
+}
+
+QString VistaGrid::TextoEsquina() const {
+    const Grid* g = modelo_.grid();
+    if (!g) return QString();
+    const QString a = g->Encabezado(1, 0), b = g->Encabezado(2, 0);
+    return b.isEmpty() ? a : a + QLatin1Char('\n') + b;
+}
+
+bool VistaGrid::eventFilter(QObject* o, QEvent* e) {
+    if (o == esquina_ && e->type() == QEvent::Paint && !TextoEsquina().isEmpty()) {
+        QPainter p(esquina_);
+        QStyleOptionHeader op;
+        op.initFrom(esquina_);
+        op.rect = esquina_->rect();
+        style()->drawControl(QStyle::CE_HeaderSection, &op, &p, esquina_);
+        p.drawText(esquina_->rect().adjusted(3, 1, -3, -1), Qt::AlignCenter | Qt::TextWordWrap, TextoEsquina());
+        return true;
+    }
+    return QTableView::eventFilter(o, e);
+}
+
+void VistaGrid::MostrarGrid(Grid* g) {
+    modelo_.PonerGrid(g);
+    AplicarForma();
+    MostrarActiva();
+}
+
+void VistaGrid::AplicarForma() {
+    Grid* g = modelo_.grid();
+    clearSpans();
+    filas_ = g ? g->Filas() : 0;
+    columnas_ = g ? g->Columnas() : 0;
+    uniones_ = g ? g->Uniones() : std::vector<Union>();
+    if (!g) return;
+    const int caracter = fontMetrics().averageCharWidth();
+    for (int c = 1; c <= columnas_; ++c) {
+        setColumnHidden(c - 1, g->Col(c).oculta);
+        setColumnWidth(c - 1, g->Col(c).ancho * caracter + 12);
+    }
+    for (const Union& u : uniones_)
+        if (u.columna >= 1 && u.fila >= 1 && u.fila <= filas_) setSpan(u.fila - 1, u.columna - 1, u.filas, u.columnas);
+    verticalHeader()->setMinimumWidth(TextoEsquina().isEmpty() ? 0
+                                                               : fontMetrics().horizontalAdvance(TextoEsquina()) + 12);
+    horizontalHeader()->updateGeometry();
+    updateGeometries();  // the header's height follows the new widths
+    horizontalHeader()->viewport()->update();
+}
+
+void VistaGrid::Refrescar() {
+    Grid* g = modelo_.grid();
+    if (!g) return;
+    if (g->Filas() != filas_ || g->Columnas() != columnas_ || !MismasUniones(g->Uniones(), uniones_)) {
+        modelo_.Reiniciar();
+        AplicarForma();
+    } else {
+        modelo_.Repintar();
+    }
+    horizontalHeader()->viewport()->update();
+}
+
+void VistaGrid::MostrarActiva() {
+    Grid* g = modelo_.grid();
+    if (!g || g->Filas() == 0 || g->Columnas() == 0) return;
+    const QModelIndex i = modelo_.index(std::clamp(g->FilaActiva(), 1, g->Filas()) - 1,
+                                        std::clamp(g->ColumnaActiva(), 1, g->Columnas()) - 1);
+    setCurrentIndex(i);
+    scrollTo(i);
+}
+
+void VistaGrid::currentChanged(const QModelIndex& actual, const QModelIndex& anterior) {
+    QTableView::currentChanged(actual, anterior);
+    if (Grid* g = modelo_.grid(); g && actual.isValid())
+        g->PonerActiva(ModeloGrid::FilaGrid(actual), ModeloGrid::ColumnaGrid(actual));
+}

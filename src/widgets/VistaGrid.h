@@ -1,0 +1,104 @@
+#pragma once
+// The view of a Grid: a QTableView over a model that reads the Grid's cells
+// directly (no copy, no widget per cell).  Two header rows with joined
+// cells, the row header from column 0, colours, locks, number cells with the
+// session's separators, drop-down list cells, joined body cells and the
+// active cell.  Each edit lands in the Grid and is reported as
+// (row, column, text) for the screen logic to act on.
+
+#include "base/Grid.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <functional>
+
+class ModeloGrid : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit ModeloGrid(QObject* padre = nullptr) : QAbstractTableModel(padre) {}
+    void PonerGrid(Grid* g);
+    Grid* grid() const { return grid_; }
+
+    // Grid row f, column c (both from 1) against the model's index.
+    static int FilaGrid(const QModelIndex& i) { return i.row() + 1; }
+    static int ColumnaGrid(const QModelIndex& i) { return i.column() + 1; }
+
+    int rowCount(const QModelIndex& padre = QModelIndex()) const override;
+    int columnCount(const QModelIndex& padre = QModelIndex()) const override;
+    QVariant data(const QModelIndex& i, int rol = Qt::DisplayRole) const override;
+    QVariant headerData(int seccion, Qt::Orientation o, int rol) const override;
+    Qt::ItemFlags flags(const QModelIndex& i) const override;
+    bool setData(const QModelIndex& i, const QVariant& v, int rol) override;
+
+    // A full reset (rows, columns or spans changed) or a repaint of the cells.
+    void Reiniciar();
+    void Repintar();
+
+    std::function<void(int fila, int columna, const QString& texto)> alEditar;
+
+private:
+    Grid* grid_ = nullptr;
+};
+
+// Both header rows painted over one header section each, joined cells
+// spanning the sections they cover.
+class EncabezadoDoble : public QHeaderView {
+    Q_OBJECT
+public:
+    explicit EncabezadoDoble(QWidget* padre = nullptr);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* e) override;
+
+private:
+    void PintarCelda(QPainter& p, const QRect& r, const QString& texto) const;
+    // The height of header row 1 or 2: the lines its texts need at their
+    // columns' widths, from one to three.
+    int AltoFila(int fila) const;
+};
+
+class DelegadoGrid : public QStyledItemDelegate {
+    Q_OBJECT
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QWidget* createEditor(QWidget* padre, const QStyleOptionViewItem& o, const QModelIndex& i) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& i) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* m, const QModelIndex& i) const override;
+};
+
+class VistaGrid : public QTableView {
+    Q_OBJECT
+public:
+    explicit VistaGrid(QWidget* padre = nullptr);
+
+    // Shows a grid the screen logic owns; the grid must outlive the view or
+    // be replaced first.
+    void MostrarGrid(Grid* g);
+    Grid* grid() const { return modelo_.grid(); }
+    // After the logic changed the grid: a reset when its shape or its joined
+    // cells changed, else a repaint of the cells only.
+    void Refrescar();
+    // Moves the view to the grid's active cell.
+    void MostrarActiva();
+
+    ModeloGrid& Modelo() { return modelo_; }
+    // The screen logic's handler of an edit.
+    void AlEditar(std::function<void(int fila, int columna, const QString& texto)> f) { modelo_.alEditar = std::move(f); }
+
+    // The text of the corner cell (header row 1, column 0), as drawn.
+    QString TextoEsquina() const;
+
+protected:
+    void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
+    bool eventFilter(QObject* o, QEvent* e) override;
+
+private:
+    void AplicarForma();
+    ModeloGrid modelo_;
+    QWidget* esquina_ = nullptr;
+    int filas_ = -1, columnas_ = -1;
+    std::vector<Union> uniones_;
+};

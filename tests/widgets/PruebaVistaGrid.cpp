@@ -1,0 +1,163 @@
+// The grid view shows any Grid: texts, headers, spans, colours, locks, and
+// reports an edit to the screen logic.
+
+#include "base/Nivo.h"
+#include "support/Apoyo.h"
+#include "widgets/VistaGrid.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
+#include <gtest/gtest.h>
+
+namespace {
+
+// A grid shaped like the pre-sizing grid: a group header over columns 1-2,
+// a single header over both rows at column 3, a list column 4, a number
+// column 5, and one branch joined over two rows.
+Grid Ejemplo() {
+    Grid g(5);
+    g.PonerEncabezado(1, 1, QStringLiteral("Ramal"));
+    g.UnirEncabezado(1, 1, 1, 2);
+    g.PonerEncabezado(2, 1, QStringLiteral("Nodo I"));
+    g.PonerEncabezado(2, 2, QStringLiteral("Nodo J"));
+    g.PonerEncabezados(3, QStringLiteral("Caudal (l/s)"));
+    g.PonerEncabezados(4, QStringLiteral("Predimensionado Asumido"), QStringLiteral("Diámetro (plg)"));
+    g.PonerEncabezados(5, QStringLiteral("Velocidad\n(m/s)"));
+    g.Col(4).tipo = TipoCelda::Lista;
+    g.Col(4).lista = {QStringLiteral("1/2\""), QStringLiteral("3/4\""), QStringLiteral("1\"")};
+    g.Col(4).bloqueada = false;
+    g.Col(5).tipo = TipoCelda::Numero;
+    g.Col(5).bloqueada = false;
+    g.Col(5).minimo = 0.0;
+    g.PonerFilas(3);
+    for (int f = 1; f <= 3; ++f) {
+        g.PonerEntero(f, 0, f);
+        g.PonerTexto(f, 1, QStringLiteral("N%1").arg(f));
+        g.PonerNumero(f, 3, 0.25 * f, 2);
+        g.PonerTexto(f, 4, QStringLiteral("3/4\""));
+        g.PonerNumero(f, 5, 1.0, 2);
+    }
+    g.Unir(1, 1, 2, 1);
+    g.PonerColorFondo(2, 4, 14803451);
+    g.PonerColorTexto(3, 5, ColorRojo);
+    return g;
+}
+
+}  // namespace
+
+TEST(VistaGrid, MuestraTextosEncabezadosYUniones) {
+    Grid g = Ejemplo();
+    VistaGrid v;
+    v.MostrarGrid(&g);
+    ModeloGrid& m = v.Modelo();
+    EXPECT_EQ(m.rowCount(), 3);
+    EXPECT_EQ(m.columnCount(), 5);
+    EXPECT_EQ(m.data(m.index(0, 0)).toString(), QStringLiteral("N1"));
+    EXPECT_EQ(m.data(m.index(1, 2)).toString(), QStringLiteral("0.50"));
+    EXPECT_EQ(m.headerData(2, Qt::Vertical, Qt::DisplayRole).toString(), QStringLiteral("3"));
+    EXPECT_EQ(m.headerData(3, Qt::Horizontal, Qt::DisplayRole).toString(),
+              QStringLiteral("Predimensionado Asumido\nDiámetro (plg)"));
+    EXPECT_EQ(v.rowSpan(0, 0), 2);
+    EXPECT_EQ(v.columnSpan(0, 0), 1);
+    // Numbers to the right, texts to the left.
+    EXPECT_EQ(m.data(m.index(0, 2), Qt::TextAlignmentRole).toInt() & Qt::AlignRight, int(Qt::AlignRight));
+    EXPECT_EQ(m.data(m.index(0, 0), Qt::TextAlignmentRole).toInt() & Qt::AlignLeft, int(Qt::AlignLeft));
+    EXPECT_TRUE(v.TextoEsquina().isEmpty());
+    g.PonerEncabezado(1, 0, QStringLiteral("Clase de Edificio"));
+    EXPECT_EQ(v.TextoEsquina(), QStringLiteral("Clase de Edificio"));
+    // The header stands two rows high.
+    EXPECT_GE(v.horizontalHeader()->sizeHint().height(), 2 * v.fontMetrics().height());
+}
+
+TEST(VistaGrid, ColoresEnAzulVerdeRojo) {
+    Grid g = Ejemplo();
+    VistaGrid v;
+    v.MostrarGrid(&g);
+    ModeloGrid& m = v.Modelo();
+    // 14803451 = 0xE1E1FB: red FB, green E1, blue E1.
+    EXPECT_EQ(m.data(m.index(1, 3), Qt::BackgroundRole).value<QColor>(), QColor(0xFB, 0xE1, 0xE1));
+    EXPECT_EQ(m.data(m.index(2, 4), Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
+    EXPECT_FALSE(m.data(m.index(0, 0), Qt::BackgroundRole).isValid());
+}
+
+TEST(VistaGrid, LasCeldasBloqueadasNoSeEditan) {
+    Grid g = Ejemplo();
+    g.Bloquear(3, 4, true);
+    VistaGrid v;
+    v.MostrarGrid(&g);
+    ModeloGrid& m = v.Modelo();
+    EXPECT_FALSE(m.flags(m.index(0, 0)) & Qt::ItemIsEditable);
+    EXPECT_TRUE(m.flags(m.index(0, 3)) & Qt::ItemIsEditable);
+    EXPECT_FALSE(m.flags(m.index(2, 3)) & Qt::ItemIsEditable);
+    EXPECT_FALSE(m.setData(m.index(0, 0), QStringLiteral("X"), Qt::EditRole));
+    EXPECT_EQ(g.Texto(1, 1), QStringLiteral("N1"));
+}
+
+TEST(VistaGrid, UnaEdicionLlegaALaLogicaConFilaColumnaYTexto) {
+    Grid g = Ejemplo();
+    VistaGrid v;
+    v.MostrarGrid(&g);
+    std::vector<std::tuple<int, int, QString>> ediciones;
+    v.AlEditar([&](int f, int c, const QString& t) { ediciones.emplace_back(f, c, t); });
+    ModeloGrid& m = v.Modelo();
+    EXPECT_TRUE(m.setData(m.index(1, 3), QStringLiteral("1\""), Qt::EditRole));
+    // A number cell takes the session's separators and shows its decimals.
+    EXPECT_TRUE(m.setData(m.index(2, 4), QStringLiteral("2.5"), Qt::EditRole));
+    // It refuses text that is not a number, and a value under its limit.
+    EXPECT_FALSE(m.setData(m.index(2, 4), QStringLiteral("dos"), Qt::EditRole));
+    EXPECT_FALSE(m.setData(m.index(2, 4), QStringLiteral("-1"), Qt::EditRole));
+    QApplication::processEvents();
+    ASSERT_EQ(ediciones.size(), 2u);
+    EXPECT_EQ(ediciones[0], std::make_tuple(2, 4, QStringLiteral("1\"")));
+    EXPECT_EQ(ediciones[1], std::make_tuple(3, 5, QStringLiteral("2.50")));
+    EXPECT_DOUBLE_EQ(g.Valor(3, 5), 2.5);
+    EXPECT_TRUE(g.EsNumero(3, 5));
+}
+
+TEST(VistaGrid, LaCeldaDeListaEditaConSuLista) {
+    Grid g = Ejemplo();
+    VistaGrid v;
+    v.MostrarGrid(&g);
+    QStyleOptionViewItem o;
+    const QModelIndex i = v.Modelo().index(0, 3);
+    std::unique_ptr<QWidget> editor(v.itemDelegate()->createEditor(v.viewport(), o, i));
+    auto* combo = qobject_cast<QComboBox*>(editor.get());
+    ASSERT_NE(combo, nullptr);
+    EXPECT_EQ(combo->count(), 3);
+    v.itemDelegate()->setEditorData(combo, i);
+    EXPECT_EQ(combo->currentText(), QStringLiteral("3/4\""));
+    combo->setCurrentIndex(0);
+    v.itemDelegate()->setModelData(combo, &v.Modelo(), i);
+    EXPECT_EQ(g.Texto(1, 4), QStringLiteral("1/2\""));
+}
+
+TEST(VistaGrid, LaCeldaActivaVaYViene) {
+    Grid g = Ejemplo();
+    g.PonerActiva(3, 2);
+    VistaGrid v;
+    v.MostrarGrid(&g);
+    EXPECT_EQ(v.currentIndex(), v.Modelo().index(2, 1));
+    v.setCurrentIndex(v.Modelo().index(1, 4));
+    EXPECT_EQ(g.FilaActiva(), 2);
+    EXPECT_EQ(g.ColumnaActiva(), 5);
+}
+
+TEST(VistaGrid, RefrescarRehaceLasUnionesSoloCuandoCambian) {
+    Grid g = Ejemplo();
+    VistaGrid v;
+    v.MostrarGrid(&g);
+    g.PonerTexto(1, 1, QStringLiteral("cambiado"));
+    v.Refrescar();
+    EXPECT_EQ(v.Modelo().data(v.Modelo().index(0, 0)).toString(), QStringLiteral("cambiado"));
+    EXPECT_EQ(v.rowSpan(0, 0), 2);
+    // A reduction row inserted: one row more, the join moves down.
+    g.InsertarFila(1);
+    g.Unir(2, 1, 3, 1);
+    v.Refrescar();
+    EXPECT_EQ(v.Modelo().rowCount(), 4);
+    EXPECT_EQ(v.rowSpan(1, 0), 3);
+    g.Vaciar();
+    v.Refrescar();
+    EXPECT_EQ(v.Modelo().rowCount(), 0);
+}
