@@ -5,7 +5,6 @@
 #include "model/ProyectoEdificio.h"
 
 QString EncabezadoErrorNumeracion() { return QStringLiteral("Error en la Numeración..."); }
-QString TituloProyectoFontaria() { return QStringLiteral("Proyecto de Fontaria"); }
 
 QString MensajeErrorNumeracion(int ramal, const QString& nodoI, const QString& nodoJ) {
     return QStringLiteral("Existe un Error en la Numeración de los Ramales...\n") + QStringLiteral("Ramal-> ") +

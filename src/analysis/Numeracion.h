@@ -2,6 +2,8 @@
 // Network verification: node numbers of the branch list and the refusal of
 // a list that the sweeps of the chain cannot follow.
 
+#include "shell/Titulos.h"
+
 #include <QString>
 
 struct ProyectoEdificio;
@@ -18,7 +20,6 @@ void VerificarNumeracion(ProyectoEdificio& p, Dialogos& d);
 QString MensajeErrorNumeracion(int ramal, const QString& nodoI, const QString& nodoJ);
 QString MensajeNodoDesconectado(int ramal, const QString& nodoI);
 QString EncabezadoErrorNumeracion();
-QString TituloProyectoFontaria();
 
 // Shows the disconnection of the node NodoI of `ramal` and raises the flag.
 void ReportarNodoDesconectado(ProyectoEdificio& p, Dialogos& d, int ramal);

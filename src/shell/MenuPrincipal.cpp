@@ -6,7 +6,6 @@
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
 
-QString TituloProyectoFontaria() { return QStringLiteral("Proyecto de Fontaria"); }
 
 MenuPrincipal::MenuPrincipal(Sesion& s, ProyectoEdificio& p, Dialogos& d, Pantallas& pantallas)
     : s_(s), p_(p), d_(d), pantallas_(pantallas) {

@@ -5,6 +5,7 @@
 // events here; the tests drive it with a scripted Dialogos.
 
 #include "shell/Pantallas.h"
+#include "shell/Titulos.h"
 
 #include <QHash>
 #include <QString>
@@ -101,5 +102,4 @@ private:
     bool ocupado_ = false;
 };
 
-// Texts shared by the commands.
-QString TituloProyectoFontaria();  // "Proyecto de Fontaria"
+// Texts shared by the commands: TituloProyectoFontaria() is in shell/Titulos.h.

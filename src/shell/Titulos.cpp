@@ -2,6 +2,8 @@
 
 #include "shell/Sesion.h"
 
+QString TituloProyectoFontaria() { return QStringLiteral("Proyecto de Fontaria"); }
+
 QString EtiquetaVersion() { return QStringLiteral("2024"); }
 
 QString TituloEdificio(const Sesion& s) {

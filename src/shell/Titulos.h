@@ -5,6 +5,9 @@
 
 struct Sesion;
 
+// The title of the program's message boxes: "Proyecto de Fontaria".
+QString TituloProyectoFontaria();
+
 // The short version label of the captions.
 QString EtiquetaVersion();
 // Building mode: "NIVO-FONTARIA 2024    PROYECTO: [ name ]".
