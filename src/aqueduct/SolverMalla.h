@@ -14,6 +14,7 @@
 // stored stay those of the numbering, and the heads agree with the entered
 // order to rounding.
 
+#include <cstddef>
 #include <vector>
 
 struct ProyectoAcueducto;
@@ -44,8 +45,8 @@ public:
     void Limpiar();
     int Ancho() const { return ancho_; }
     int Nodos() const { return nodos_; }
-    double& operator()(int b, int n) { return d_[size_t(n) * size_t(ancho_) + size_t(b - 1)]; }
-    double operator()(int b, int n) const { return d_[size_t(n) * size_t(ancho_) + size_t(b - 1)]; }
+    double& operator()(int b, int n) { return d_[std::size_t(n) * std::size_t(ancho_) + std::size_t(b - 1)]; }
+    double operator()(int b, int n) const { return d_[std::size_t(n) * std::size_t(ancho_) + std::size_t(b - 1)]; }
     // Every entry is a finite number.
     bool Finita() const;
 
