@@ -30,9 +30,7 @@ QString MensajeErrorAnalisis(const QString& nombreProyecto) {
 
 AnalisisACU::AnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos& d) : p_(p), s_(s), d_(d) {}
 
-QString AnalisisACU::Titulo() const {
-    return QStringLiteral("Redes de Acueductos   Proyecto: [ ") + UCase(s_.NombreProyectoACU) + QStringLiteral(" ]");
-}
+QString AnalisisACU::Titulo() const { return TituloAcueducto(s_.NombreProyectoACU); }
 
 void AnalisisACU::ConfigurarSpread() {
     Spread1 = Grid(RHF);
@@ -243,22 +241,7 @@ void AnalisisACU::DespuesDeEditarRamales(bool proyectoSalvado) {
 }
 
 void AnalisisACU::AbrirProyecto() {
-    const auto ruta = d_.AbrirArchivo(QStringLiteral("Abrir un Proyecto Existente"), QStringLiteral("*.ACU|*.acu"),
-                                      s_.RutaDatos(QStringLiteral("Redes")));
-    if (!ruta) return;
-    // The project in place stays when the chosen file cannot be read.
-    const QString archivo = s_.ArchivoProyectoACU, nombre = s_.NombreProyectoACU;
-    ProyectoAcueducto nuevo;
-    nuevo.Cliente = p_.Cliente;
-    nuevo.Orden = p_.Orden;
-    QString error;
-    if (!CargarProyectoACU(nuevo, s_, *ruta, error)) {
-        s_.ArchivoProyectoACU = archivo;
-        s_.NombreProyectoACU = nombre;
-        d_.MostrarMensaje(error, QStringLiteral("Error en Lectura de Datos..."), QStringLiteral("Proyecto de Fontaria"));
-        return;
-    }
-    p_ = std::move(nuevo);
+    if (!AbrirOtroProyectoACU(p_, s_, d_)) return;
     EstadoInicial();
     MostrarFalla();
 }

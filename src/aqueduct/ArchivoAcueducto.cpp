@@ -2,6 +2,7 @@
 
 #include "aqueduct/NumeracionNodos.h"
 #include "aqueduct/ProyectoAcueducto.h"
+#include "base/Dialogos.h"
 #include "base/Nivo.h"
 #include "shell/Sesion.h"
 #include "store/Conexion.h"
@@ -198,4 +199,25 @@ bool CargarProyectoACU(ProyectoAcueducto& p, Sesion& s, const QString& archivo, 
     s.DatosModificados = 0;
     BorrarArreglosACU(p);
     return LeerProyectoACU(p, s, error);
+}
+
+bool AbrirOtroProyectoACU(ProyectoAcueducto& p, Sesion& s, Dialogos& d) {
+    const auto ruta = d.AbrirArchivo(QStringLiteral("Abrir un Proyecto Existente"), QStringLiteral("*.ACU|*.acu"),
+                                     s.RutaDatos(QStringLiteral("Redes")));
+    if (!ruta) return false;
+    const QString archivo = s.ArchivoProyectoACU, nombre = s.NombreProyectoACU;
+    const int16_t modificados = s.DatosModificados;
+    ProyectoAcueducto nuevo;
+    nuevo.Cliente = p.Cliente;
+    nuevo.Orden = p.Orden;
+    QString error;
+    if (!CargarProyectoACU(nuevo, s, *ruta, error)) {
+        s.ArchivoProyectoACU = archivo;
+        s.NombreProyectoACU = nombre;
+        s.DatosModificados = modificados;
+        d.MostrarMensaje(error, QStringLiteral("Error en Lectura de Datos..."), QStringLiteral("Proyecto de Fontaria"));
+        return false;
+    }
+    p = std::move(nuevo);
+    return true;
 }

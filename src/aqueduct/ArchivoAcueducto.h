@@ -8,6 +8,7 @@
 struct ProyectoAcueducto;
 struct Sesion;
 class Conexion;
+class Dialogos;
 
 // AbrirTablasACU: opens `c` on the file and checks that it holds the three
 // tables of an aqueduct project.  False with a Spanish message in `error`
@@ -36,3 +37,9 @@ bool SalvarProyectoACU(ProyectoAcueducto& p, Sesion& s, QString& error);
 // open one (ArchivoProyectoACU, NombreProyectoACU), DatosModificados is
 // cleared, every array emptied and the file loaded.
 bool CargarProyectoACU(ProyectoAcueducto& p, Sesion& s, const QString& archivo, QString& error);
+
+// "Abrir" of the aqueduct screens: the dialog "Abrir un Proyecto Existente"
+// over Redes/, then CargarProyectoACU.  A cancelled dialog changes nothing;
+// a file that cannot be read is reported and the open project stays as it
+// was.  True when another project was loaded.
+bool AbrirOtroProyectoACU(ProyectoAcueducto& p, Sesion& s, Dialogos& d);

@@ -49,7 +49,8 @@ public:
     void ColoquePantalla();
 
     int Pagina() const { return pagina_; }
-    const Habilitados& Botones() const { return botones_; }
+    // "Reportes" follows the rows of Spread1.
+    Habilitados Botones() const;
     Foco foco = Foco::Ninguno;
 
     // Page 1.  Each writes its variable at once and sets DatosModificados;
@@ -93,7 +94,9 @@ public:
     void Eliminar();
 
     // The node page follows the sections: numbering, connections, lumped
-    // demands, node data kept by position, Spread2 refilled.
+    // demands, node data kept by position, Spread2 refilled.  More distinct
+    // names than sections + 10 is a run-time fault (ErrorEjecucion 9) that
+    // reaches the screen; the typed data stay.
     void RecalculeNodos();
     // The six section arrays reread from every row of Spread1.
     void ActualizeTramos();
@@ -103,6 +106,8 @@ public:
     // node's data.  False, with nothing changed, for a locked or read-only
     // cell or a text that is not a number in a numeric column.
     bool EditarRamal(int fila, int columna, const QString& texto);
+    // The same with a number, for the numeric columns 3 to 6.
+    bool EditarRamal(int fila, int columna, double valor);
     bool EditarNodo(int fila, int columna, const QString& texto);
 
     // A block selected in one column of a grid (1 Spread1, 2 Spread2), rows
@@ -112,13 +117,15 @@ public:
     void LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2);
 
     // "Salvar": RecalculeNodos and SalvarProyectoACU; sets ProyectoSalvado
-    // when the screen was opened from the results screen.
+    // when the screen was opened from the results screen.  A save that fails
+    // shows its message and keeps DatosModificados.
     bool Salvar();
     bool ProyectoSalvado() const { return proyectoSalvado_; }
     // "Abrir": offers to save, then the open dialog and the load.
     void Abrir();
     // Closing: with unsaved changes asks to save (yes, no, cancel).  True
-    // when the screen may close.
+    // when the screen may close.  A save made here also counts as
+    // ProyectoSalvado for the results screen.
     bool PuedeCerrar();
 
     // "Longitudes": moves to the length cell of the active row; the screen
@@ -130,12 +137,17 @@ public:
     Dialogos& Dialogos_() { return d_; }
 
 private:
+    bool EscribirTextoRamal(int fila, int columna, const QString& texto);
+    bool EscribirNumeroRamal(int fila, int columna, double valor);
+    bool EscribirNumeroNodo(int fila, int columna, double valor);
+    void NumerarPosiciones(int desde);
     void LlenarRamal(int fila);
     void LlenarNodos();
     void MarcarModificado();
     void HabilitarPagina();
     void SeleccionarCelda(Grid& g, int fila, int columna);
     bool PreguntarSalvar();
+    bool SalvarArchivo();
 
     ProyectoAcueducto& p_;
     Sesion& s_;

@@ -92,3 +92,7 @@ double PerdidaUnitaria(const ProyectoAcueducto& p, int tramo) {
 double PresionNodo(const ProyectoAcueducto& p, int nodo) {
     return p.CotaPiezometrica.Leer(nodo) - p.CotaTerreno.Leer(nodo);
 }
+
+QString TituloAcueducto(const QString& nombreProyecto) {
+    return QStringLiteral("Redes de Acueductos   Proyecto: [ ") + UCase(nombreProyecto) + QStringLiteral(" ]");
+}

@@ -123,3 +123,7 @@ double PerdidaUnitaria(const ProyectoAcueducto& p, int tramo);
 
 // Pressure at a node: CotaPiezometrica - CotaTerreno.
 double PresionNodo(const ProyectoAcueducto& p, int nodo);
+
+// The run-time title of the aqueduct screens: "Redes de Acueductos
+// Proyecto: [ NAME ]" with the file name in capitals.
+QString TituloAcueducto(const QString& nombreProyecto);

@@ -1,6 +1,10 @@
 #include "RedPrueba.h"
 
+#include "aqueduct/ArchivoAcueducto.h"
 #include "aqueduct/NumeracionNodos.h"
+#include "support/Apoyo.h"
+
+#include <gtest/gtest.h>
 
 #include <cmath>
 
@@ -46,4 +50,14 @@ double Hf(double litros, double longitud, double diametro, double c) {
 
 double QdeH(double h, double longitud, double diametro, double c) {
     return 1000.0 * std::pow(h * std::pow(c, 1.852) * std::pow(diametro, 4.8704) / (10.675 * longitud), 1.0 / 1.852);
+}
+
+ProyectoAcueducto EnArchivo(const ProyectoAcueducto& red, SesionPrueba& sp, const QString& nombre) {
+    ProyectoAcueducto p = red;
+    sp.s.ArchivoProyectoACU = sp.AcueductoEnBlanco(nombre);
+    QString error;
+    if (!SalvarProyectoACU(p, sp.s, error)) ADD_FAILURE() << error.toStdString();
+    ProyectoAcueducto q;
+    if (!CargarProyectoACU(q, sp.s, sp.s.ArchivoProyectoACU, error)) ADD_FAILURE() << error.toStdString();
+    return q;
 }

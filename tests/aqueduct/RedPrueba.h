@@ -3,6 +3,7 @@
 // Hazen-Williams law worked directly, against which the solver is checked.
 
 #include "aqueduct/ProyectoAcueducto.h"
+#include "support/Apoyo.h"
 
 #include <QString>
 #include <vector>
@@ -37,3 +38,8 @@ int Nodo(const ProyectoAcueducto& p, const QString& nombre);
 double Hf(double litros, double longitud, double diametro, double c = 100.0);
 // The flow in l/s that a head loss drives through such a pipe.
 double QdeH(double h, double longitud, double diametro, double c = 100.0);
+
+// Saves the network to a blank .acu in the session's data folder and loads it
+// back as the commands do (the open project of the session).
+ProyectoAcueducto EnArchivo(const ProyectoAcueducto& red, SesionPrueba& sp,
+                            const QString& nombre = QStringLiteral("red.acu"));
