@@ -67,17 +67,10 @@ bool NombreExtremo(QString& nombre, int tramo, const char* extremo, QString& err
 }
 
 bool LeerTramos(const QJsonArray& tramos, ProyectoAcueducto& p, QString& error) {
-    if (tramos.size() > 32767) {
-        error = QStringLiteral("El proyecto tiene %1 tramos; el máximo es 32767.").arg(tramos.size());
-        return false;
-    }
+    if (!ObjetosDeLista(tramos, 32767, "tramo", "tramos", error)) return false;
     p.NumeroTramos = int(tramos.size());
     p.DimensionarTramos(p.NumeroTramos);
     for (int t = 1; t <= p.NumeroTramos; ++t) {
-        if (!tramos[t - 1].isObject()) {
-            error = QStringLiteral("El tramo %1 no es un objeto.").arg(t);
-            return false;
-        }
         LectorJson l(tramos[t - 1].toObject(), QStringLiteral("en el tramo %1").arg(t), error);
         l.Texto("Inicio", p.Inicio[t]);
         l.Texto("Final", p.Final[t]);
@@ -96,6 +89,7 @@ bool LeerTramos(const QJsonArray& tramos, ProyectoAcueducto& p, QString& error) 
 
 // Node data by name onto the nodes the numbering found.
 bool LeerNodos(const QJsonArray& nodos, ProyectoAcueducto& p, QString& error) {
+    if (!ObjetosDeLista(nodos, 32767, "nodo", "nodos", error)) return false;
     // The numbering dimensions the names wider; the node arrays agree again.
     Arreglo<QString> nombres = p.Nodos;
     p.DimensionarNodos(p.NumeroNodosACU);

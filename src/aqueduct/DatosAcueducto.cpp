@@ -175,47 +175,27 @@ void DatosAcueducto::CambiarTexto(Texto caja, const QString& valor) {
     MarcarModificado();
 }
 
-void DatosAcueducto::CambiarFecha(const QDate& fecha) {
-    p_.Fecha = fecha;
-    MarcarModificado();
-}
+void DatosAcueducto::CambiarFecha(const QDate& fecha) { Poner(p_.Fecha, fecha); }
 
 void DatosAcueducto::CambiarOpcionConsumo(int opcion) {
-    p_.OpcionConsumo = uint8_t(opcion);
     Spread2.Col(NConsumo).bloqueada = opcion == 1;
-    MarcarModificado();
+    Poner(p_.OpcionConsumo, uint8_t(opcion));
 }
 
-void DatosAcueducto::CambiarOpcionDiametro(int opcion) {
-    p_.OpcionDiametro = uint8_t(opcion);
-    MarcarModificado();
-}
+void DatosAcueducto::CambiarOpcionDiametro(int opcion) { Poner(p_.OpcionDiametro, uint8_t(opcion)); }
 
 void DatosAcueducto::CambiarCasoPorcentaje(int opcion) {
-    p_.CasoPorcentaje = uint8_t(opcion);
     botones_.Double1 = opcion == 1;
-    MarcarModificado();
+    Poner(p_.CasoPorcentaje, uint8_t(opcion));
 }
 
-void DatosAcueducto::CambiarDeltaPorcentaje(double v) {
-    p_.DeltaPorcentaje = v;
-    MarcarModificado();
-}
+void DatosAcueducto::CambiarDeltaPorcentaje(double v) { Poner(p_.DeltaPorcentaje, v); }
 
-void DatosAcueducto::CambiarFactorQMax(double v) {
-    p_.FactorQMax = v;
-    MarcarModificado();
-}
+void DatosAcueducto::CambiarFactorQMax(double v) { Poner(p_.FactorQMax, v); }
 
-void DatosAcueducto::CambiarFactorIncendio(double v) {
-    p_.FactorIncendio = v;
-    MarcarModificado();
-}
+void DatosAcueducto::CambiarFactorIncendio(double v) { Poner(p_.FactorIncendio, v); }
 
-void DatosAcueducto::CambiarLitrosIncendio(double v) {
-    p_.LitrosIncendio = v;
-    MarcarModificado();
-}
+void DatosAcueducto::CambiarLitrosIncendio(double v) { Poner(p_.LitrosIncendio, v); }
 
 void DatosAcueducto::CambiarLong1(int valor) {
     long1_ = std::clamp(valor, 0, 32767);

@@ -144,6 +144,12 @@ private:
     void LlenarRamal(int fila);
     void LlenarNodos();
     void MarcarModificado();
+    // A value of page 1 written at once, the data marked as changed.
+    template <typename T>
+    void Poner(T& variable, const T& valor) {
+        variable = valor;
+        MarcarModificado();
+    }
     void HabilitarPagina();
     void SeleccionarCelda(Grid& g, int fila, int columna);
     bool PreguntarSalvar();

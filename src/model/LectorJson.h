@@ -90,3 +90,22 @@ inline bool LeerObjetoJson(const QString& ruta, QJsonObject& objeto, QString& er
     objeto = doc.object();
     return true;
 }
+
+// The objects of a list of rows ("Tramos", "Ramales"...): false with a
+// message when there are more than `maximo` or one is not an object.
+inline bool ObjetosDeLista(const QJsonArray& lista, int maximo, const char* fila, const char* filas,
+                           QString& error) {
+    if (lista.size() > maximo) {
+        error = QStringLiteral("El proyecto tiene %1 %2; el máximo es %3.")
+                    .arg(lista.size())
+                    .arg(QString::fromUtf8(filas))
+                    .arg(maximo);
+        return false;
+    }
+    for (int i = 0; i < lista.size(); ++i)
+        if (!lista[i].isObject()) {
+            error = QStringLiteral("El %1 %2 no es un objeto.").arg(QString::fromUtf8(fila)).arg(i + 1);
+            return false;
+        }
+    return true;
+}
