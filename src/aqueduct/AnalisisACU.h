@@ -49,7 +49,8 @@ public:
     // Some node has a tank or pump level other than 0.
     bool VerificaTanque();
 
-    // On load: headers, case list, tank check, the solve and the grids.
+    // On load: headers, case list, tank check, the solve and the grids.  The
+    // solve starts from ErrorAnalisis cleared.
     void Cargar();
     // On the first activation: the message of a missing tank or of a failed
     // solve, the grids emptied and `cerrar` set.  True when the screen closes.
@@ -58,8 +59,9 @@ public:
     // Fills both grids from the last solve.
     void ColoquePantalla();
 
-    // A new row of Combo1: CasoDemanda, a new solve, the grids refilled
-    // unless it failed (the previous contents then stay, without a message).
+    // A new row of Combo1: CasoDemanda, a new solve from ErrorAnalisis
+    // cleared, the grids refilled unless it failed (the previous contents then
+    // stay, without a message).
     void CambiarCaso(int fila);
 
     // "Corregir Dirección": the sections tab, the correction, the grids.

@@ -45,7 +45,9 @@ public:
     // "Redes de Acueductos   Proyecto: [ NAME ]".
     QString Titulo() const;
     void ConfigurarSpread();
-    // Fills every value and both grids from the model.
+    // Fills every value and both grids from the model.  A file whose node
+    // list does not answer to its sections can raise ErrorEjecucion here, as
+    // in RecalculeNodos; the screen shows it.
     void ColoquePantalla();
 
     int Pagina() const { return pagina_; }
