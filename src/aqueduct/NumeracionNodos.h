@@ -21,7 +21,7 @@ constexpr int LargoNombreNodo = 20;
 // DirectorioDatos/Trabajo/Nodos.Dat.
 QString RutaNodosDat(const Sesion& s);
 
-// The first six steps of the numbering, shared with the solver's
+// The numbering without the connections and the lumping, shared with the solver's
 // renumbering: ExtremosTramo, the node names (array dimensioned NumeroTramos
 // + 10, so more distinct names stop with error 9), NumeroNodosACU,
 // Nodos.Dat, and NodosTramo from the trimmed names of the records (the last

@@ -52,7 +52,7 @@ struct Tramos {
     std::vector<double> k;
 };
 
-// Steps 4 and 5: the datum and the fixed-head nodes.
+// The datum (the lowest ground) and the fixed-head nodes.
 void NodosFijos(ProyectoAcueducto& p) {
     const int nodos = p.NumeroNodosACU;
     p.CotaReferencia = InicioReferencia;
@@ -73,7 +73,7 @@ void NodosFijos(ProyectoAcueducto& p) {
         }
 }
 
-// Step 8: K of each section, Q = K h^e.  Written through the pipe's
+// K of each section, Q = K h^e.  Written through the pipe's
 // resistance 10.675 L / D^4.8704, so that a pipe of no length or no bore is
 // the division by zero it is rather than a silent K of 0.
 Tramos CoeficientesTramos(ProyectoAcueducto& p, double e) {
@@ -94,7 +94,7 @@ Tramos CoeficientesTramos(ProyectoAcueducto& p, double e) {
     return t;
 }
 
-// One pass of the iteration (step 11); returns the iterations it took.
+// One pass of the iteration; returns the iterations it took.
 int Iterar(ProyectoAcueducto& p, const Tramos& t, const OrdenNodos& o, MatrizBanda& a, std::vector<double>& b,
            std::vector<double>& flujo, double e) {
     const int nodos = p.NumeroNodosACU;
@@ -150,7 +150,7 @@ int Iterar(ProyectoAcueducto& p, const Tramos& t, const OrdenNodos& o, MatrizBan
     return std::min(it, LimiteIteraciones);
 }
 
-// Step 13: heads, calculated demands and the extreme pressures.
+// Heads, calculated demands and the extreme pressures of a pass.
 void ResultadosNodos(ProyectoAcueducto& p, const std::vector<double>& flujo) {
     const int nodos = p.NumeroNodosACU;
     p.CotaPiezometrica.Redim(nodos);
@@ -172,7 +172,7 @@ void ResultadosNodos(ProyectoAcueducto& p, const std::vector<double>& flujo) {
     }
 }
 
-// Step 14: losses, flows and velocities.
+// Losses, flows and velocities of a pass.
 void ResultadosTramos(ProyectoAcueducto& p, const Tramos& t, double e) {
     const int tramos = p.NumeroTramos;
     p.Velocidad.Redim(tramos);
