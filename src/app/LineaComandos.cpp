@@ -19,6 +19,7 @@ const char* Uso() {
            "  tanque [X.plm] --metodo N [...] [--json]  tanque hidroneumático\n"
            "  computos X.plm [--json]                   cómputos de materiales\n"
            "  acueducto X.acu [--caso 1|2|3] [--json]   análisis de una red de acueducto\n"
+           "  acueducto X.acu --corregir-direccion      invierte los ramales de caudal negativo\n"
            "  acueducto exportar X.acu | importar datos.json X.acu\n";
 }
 

@@ -1,3 +1,157 @@
-#include "app/LineaComandos.h"
+// fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]
+// fontaria acueducto exportar X.acu | importar datos.json X.acu
 
-int VerboAcueducto(const QStringList&) { return Fallar(QStringLiteral("Este verbo aún no está disponible.")); }
+#include "app/LineaComandos.h"
+#include "aqueduct/AcueductoJson.h"
+#include "aqueduct/AnalisisACU.h"
+#include "aqueduct/ArchivoAcueducto.h"
+#include "aqueduct/CasosDemanda.h"
+#include "aqueduct/ProyectoAcueducto.h"
+#include "aqueduct/SolverMalla.h"
+#include "shell/Sesion.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace {
+
+// The numbering writes its scratch node file under Trabajo/ of the data
+// folder.  A verb uses the user's folder only when the program has made it
+// already, and a temporary one otherwise (always for import and export), so
+// that the command line never builds the user's tree.
+class Borrador {
+public:
+    Borrador(Sesion& s, bool siempre) {
+        if (siempre || !QDir(s.RutaDatos(QStringLiteral("Trabajo"))).exists()) s.DirectorioDatos = dir_.path();
+    }
+
+private:
+    QTemporaryDir dir_;
+};
+
+const char* UsoAcueducto() {
+    return "Uso: fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]\n"
+           "     fontaria acueducto exportar X.acu | importar datos.json X.acu";
+}
+
+struct Opciones {
+    QString archivo;
+    int caso = 1;
+    bool json = false;
+    bool corregir = false;
+};
+
+bool LeerOpciones(const QStringList& args, Opciones& o, QString& error) {
+    for (int i = 2; i < args.size(); ++i) {
+        const QString& a = args[i];
+        if (a == QLatin1String("--json")) {
+            o.json = true;
+        } else if (a == QLatin1String("--corregir-direccion")) {
+            o.corregir = true;
+        } else if (a == QLatin1String("--caso")) {
+            bool ok = false;
+            o.caso = i + 1 < args.size() ? args[++i].toInt(&ok) : 0;
+            if (!ok || o.caso < 1 || o.caso > 3) {
+                error = QStringLiteral("El caso de demanda debe ser 1, 2 ó 3.");
+                return false;
+            }
+        } else if (a.startsWith(QLatin1String("--")) || !o.archivo.isEmpty()) {
+            error = QStringLiteral("Argumento desconocido: ") + a;
+            return false;
+        } else {
+            o.archivo = a;
+        }
+    }
+    if (o.archivo.isEmpty()) error = QString::fromUtf8(UsoAcueducto());
+    return error.isEmpty();
+}
+
+// The results as text: the case, then the two grids of the results screen.
+void ImprimirTexto(ProyectoAcueducto& p, Sesion& s) {
+    DialogosConsola d;
+    AnalisisACU a(p, s, d);
+    a.ConfigurarSpread();
+    a.ColoquePantalla();
+    QString t = a.Titulo() + QLatin1Char('\n') + FilasCasos(p).value(p.CasoDemanda - 1) + QLatin1Char('\n');
+    t += QStringLiteral("Nodo de menor presión: %1   Nodo de mayor presión: %2\n\n")
+             .arg(p.Nodos.Leer(p.NodoMinimo), p.Nodos.Leer(p.NodoMaximo));
+    t += GridComoTexto(a.Spread1) + QLatin1Char('\n') + GridComoTexto(a.Spread2);
+    Imprimir(t);
+}
+
+// Ends the run with a message of the program: on stderr, and in the JSON
+// object when one is asked for.
+int Terminar(const Opciones& o, const ProyectoAcueducto& p, const QString& mensaje, int estado) {
+    if (o.json) ImprimirJson(ResultadosComoJson(p, mensaje));
+    return Fallar(mensaje, estado);
+}
+
+int Analizar(const Opciones& o) {
+    Sesion s;
+    PrepararSesion(s);
+    const Borrador borrador(s, false);
+    ProyectoAcueducto p;
+    ValoresInicialesACU(p, s);
+    QString error;
+    if (!CargarProyectoACU(p, s, o.archivo, error)) return Fallar(error);
+    if (p.NumeroTramos == 0)
+        return Terminar(o, p,
+                        s.NombreProyectoACU + QStringLiteral("\nNúmero de Ramales = 0\nRevise el Archivo de Datos..."),
+                        Salida::DatosInvalidos);
+
+    DialogosConsola d;
+    AnalisisACU pantalla(p, s, d);
+    if (!pantalla.VerificaTanque())
+        return Terminar(o, p, MensajeSinTanque(s.NombreProyectoACU), Salida::DatosInvalidos);
+    p.CasoDemanda = uint8_t(o.caso);
+    p.ErrorAnalisis = 0;
+    AnalizarMalla(p, s);
+    auto falla = [&] {
+        return Terminar(o, p, MensajeErrorAnalisis(s.NombreProyectoACU) + QLatin1Char('\n') + p.DetalleError,
+                        Salida::ErrorCalculo);
+    };
+    if (p.ErrorAnalisis == 1) return falla();
+
+    QString mensaje;
+    if (o.corregir) {
+        int invertidos = 0;
+        if (ContarNegativos(p) == 0)
+            mensaje = QStringLiteral("¡No Existe Ningún Caudal Negativo!");
+        else if (!InvertirTramosNegativos(p, s, error, &invertidos))
+            return Fallar(error);
+        else
+            mensaje = QStringLiteral("Ramales invertidos: %1").arg(invertidos);
+        if (p.ErrorAnalisis == 1) return falla();
+        fprintf(stderr, "%s\n", mensaje.toUtf8().constData());
+    }
+    if (o.json)
+        ImprimirJson(ResultadosComoJson(p, mensaje));
+    else
+        ImprimirTexto(p, s);
+    return Salida::Bien;
+}
+
+}  // namespace
+
+int VerboAcueducto(const QStringList& args) {
+    QString error;
+    if (args.size() == 4 && args[2] == QLatin1String("exportar")) {
+        Sesion s;
+        PrepararSesion(s);
+        const Borrador borrador(s, true);
+        QJsonObject o;
+        if (!ExportarAcueducto(args[3], s, o, error)) return Fallar(error);
+        ImprimirJson(o);
+        return Salida::Bien;
+    }
+    if (args.size() == 5 && args[2] == QLatin1String("importar")) {
+        Sesion s;
+        PrepararSesion(s);
+        const Borrador borrador(s, true);
+        if (!ImportarAcueducto(args[3], args[4], s, error)) return Fallar(error);
+        return Salida::Bien;
+    }
+    Opciones o;
+    if (!LeerOpciones(args, o, error)) return Fallar(error);
+    return Analizar(o);
+}

@@ -2,6 +2,7 @@
 
 #include "base/Nivo.h"
 #include "model/ArchivoEdificio.h"
+#include "model/LectorJson.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
 
@@ -12,66 +13,7 @@
 
 namespace {
 
-// Reads typed fields of one JSON object, keeping the first fault found.
-class Lector {
-public:
-    Lector(const QJsonObject& o, QString donde, QString& error) : o_(o), donde_(std::move(donde)), error_(error) {}
-
-    void Texto(const char* clave, QString& destino) {
-        const QJsonValue v = o_.value(QString::fromUtf8(clave));
-        if (v.isUndefined() || v.isNull()) return;
-        if (!v.isString()) return Falla(clave, QStringLiteral("no es un texto"));
-        destino = v.toString();
-    }
-    void Doble(const char* clave, double& destino) {
-        const QJsonValue v = o_.value(QString::fromUtf8(clave));
-        if (v.isUndefined() || v.isNull()) return;
-        if (!v.isDouble()) return Falla(clave, QStringLiteral("no es un número"));
-        destino = v.toDouble();
-    }
-    template <typename T>
-    void Entero(const char* clave, T& destino, long long minimo, long long maximo) {
-        const QJsonValue v = o_.value(QString::fromUtf8(clave));
-        if (v.isUndefined() || v.isNull()) return;
-        if (!v.isDouble() || v.toDouble() != std::floor(v.toDouble()))
-            return Falla(clave, QStringLiteral("no es un número entero"));
-        const double d = v.toDouble();
-        if (d < double(minimo) || d > double(maximo))
-            return Falla(clave, QStringLiteral("está fuera del intervalo %1 a %2").arg(minimo).arg(maximo));
-        destino = static_cast<T>(d);
-    }
-    void Logico(const char* clave, bool& destino) {
-        const QJsonValue v = o_.value(QString::fromUtf8(clave));
-        if (v.isUndefined() || v.isNull()) return;
-        if (v.isBool()) destino = v.toBool();
-        else if (v.isDouble()) destino = v.toDouble() != 0.0;
-        else Falla(clave, QStringLiteral("no es un valor lógico"));
-    }
-    void Fecha(const char* clave, QDate& destino) {
-        QString t;
-        Texto(clave, t);
-        if (t.isEmpty()) return;
-        const QDate d = LeerFecha(t);
-        if (!d.isValid()) return Falla(clave, QStringLiteral("no es una fecha dd/MM/yyyy"));
-        destino = d;
-    }
-    QJsonArray Lista(const char* clave) {
-        const QJsonValue v = o_.value(QString::fromUtf8(clave));
-        if (v.isUndefined() || v.isNull()) return {};
-        if (!v.isArray()) Falla(clave, QStringLiteral("no es una lista"));
-        return v.toArray();
-    }
-    bool Bien() const { return error_.isEmpty(); }
-
-private:
-    void Falla(const char* clave, const QString& que) {
-        if (!error_.isEmpty()) return;
-        error_ = QStringLiteral("El valor de \"%1\" %2 %3.").arg(QString::fromUtf8(clave), donde_, que);
-    }
-    const QJsonObject o_;
-    QString donde_;
-    QString& error_;
-};
+using Lector = LectorJson;
 
 QJsonObject Generales(const ProyectoEdificio& p) {
     QJsonObject g;
@@ -241,8 +183,7 @@ bool ProyectoDesdeJson(const QJsonObject& o, ProyectoEdificio& p, QString& error
     p.NumeroNodos = n;
     p.DimensionarNodos(n);
     for (int i = 1; i <= nodos.size(); ++i) {
-        const QJsonObject nodo = nodos[i - 1].toObject();  // the reader keeps a reference
-        Lector ln(nodo, QStringLiteral("en el nodo %1").arg(i), error);
+        Lector ln(nodos[i - 1].toObject(), QStringLiteral("en el nodo %1").arg(i), error);
         ln.Texto("Nodo", p.NodoNombre[i]);
         ln.Doble("CotaPiso", p.CotaPiso[i]);
         if (!ln.Bien()) return false;
@@ -276,41 +217,26 @@ bool ExportarProyecto(const QString& archivo, Sesion& s, QJsonObject& salida, QS
 }
 
 bool ImportarProyecto(const QString& json, const QString& destino, Sesion& s, QString& error) {
-    QFile f(json);
-    if (!f.open(QIODevice::ReadOnly)) {
-        error = QStringLiteral("No se puede leer el archivo: ") + json;
-        return false;
-    }
-    QJsonParseError pe;
-    const QJsonDocument doc = QJsonDocument::fromJson(f.readAll(), &pe);
-    if (doc.isNull() || !doc.isObject()) {
-        error = QStringLiteral("El archivo no es un proyecto en JSON válido: %1 (%2)").arg(json, pe.errorString());
-        return false;
-    }
+    QJsonObject o;
+    if (!LeerObjetoJson(json, o, error)) return false;
     ProyectoEdificio p;
     ValoresIniciales(p, s);
-    if (!ProyectoDesdeJson(doc.object(), p, error)) return false;
+    if (!ProyectoDesdeJson(o, p, error)) return false;
     if (p.NumeroRamales < 1) {
         error = MensajeProyectoSinRamales();
         return false;
     }
-
-    const QString temporal = QFileInfo(destino).absolutePath() + QStringLiteral("/.") +
-                             QFileInfo(destino).fileName() + QStringLiteral(".tmp");
-    if (!CopiarArchivo(s.RutaImagen(QStringLiteral("Proyecto.nivo")), temporal, &error)) return false;
-    s.ArchivoProyecto = temporal;
-    bool ok = false;
-    try {
-        ok = SalvarProyecto(p, s, error);
-    } catch (const ErrorEjecucion& e) {
-        error = QString::fromUtf8(e.what());
-    }
-    s.ConexionProyecto.Cerrar();
-    if (ok) {
-        ok = ReemplazarArchivo(temporal, destino);
-        if (!ok) error = QStringLiteral("No se puede escribir el archivo: ") + destino;
-    }
-    if (!ok) QFile::remove(temporal);
-    s.ArchivoProyecto = destino;
-    return ok;
+    return EscribirDesdePlantilla(s.RutaImagen(QStringLiteral("Proyecto.nivo")), destino, error,
+                                  [&](const QString& temporal, QString& e) {
+                                      s.ArchivoProyecto = temporal;
+                                      bool ok = false;
+                                      try {
+                                          ok = SalvarProyecto(p, s, e);
+                                      } catch (const ErrorEjecucion& x) {
+                                          e = QString::fromUtf8(x.what());
+                                      }
+                                      s.ConexionProyecto.Cerrar();
+                                      s.ArchivoProyecto = destino;
+                                      return ok;
+                                  });
 }

@@ -566,3 +566,17 @@ bool CopiarArchivo(const QString& origen, const QString& destino, QString* error
 bool ReemplazarArchivo(const QString& nuevo, const QString& destino) {
     return std::rename(QFile::encodeName(nuevo).constData(), QFile::encodeName(destino).constData()) == 0;
 }
+
+bool EscribirDesdePlantilla(const QString& plantilla, const QString& destino, QString& error,
+                            const std::function<bool(const QString& temporal, QString& error)>& escribir) {
+    const QFileInfo info(destino);
+    const QString temporal = info.absolutePath() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".tmp");
+    if (!CopiarArchivo(plantilla, temporal, &error)) return false;
+    bool ok = escribir(temporal, error);
+    if (ok) {
+        ok = ReemplazarArchivo(temporal, destino);
+        if (!ok) error = QStringLiteral("No se puede escribir el archivo: ") + destino;
+    }
+    if (!ok) QFile::remove(temporal);
+    return ok;
+}

@@ -1,0 +1,248 @@
+#include "aqueduct/AcueductoJson.h"
+
+#include "aqueduct/ArchivoAcueducto.h"
+#include "aqueduct/NumeracionNodos.h"
+#include "aqueduct/ProyectoAcueducto.h"
+#include "model/LectorJson.h"
+#include "shell/Sesion.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace {
+
+QJsonObject Generales(const ProyectoAcueducto& p) {
+    QJsonObject g;
+    g[QStringLiteral("Proyecto")] = p.Proyecto;
+    g[QStringLiteral("Ubicacion")] = p.Ubicacion;
+    g[QStringLiteral("Calculista")] = p.Calculista;
+    g[QStringLiteral("Fecha")] = FechaTexto(p.Fecha);
+    g[QStringLiteral("Comentario")] = p.Comentario;
+    g[QStringLiteral("OpcionConsumo")] = p.OpcionConsumo;
+    g[QStringLiteral("OpcionDiametro")] = p.OpcionDiametro;
+    g[QStringLiteral("C")] = int(p.C);
+    g[QStringLiteral("CasoPorcentaje")] = p.CasoPorcentaje;
+    g[QStringLiteral("DeltaPorcentaje")] = p.DeltaPorcentaje;
+    g[QStringLiteral("FactorQMax")] = p.FactorQMax;
+    g[QStringLiteral("FactorIncendio")] = p.FactorIncendio;
+    g[QStringLiteral("LitrosIncendio")] = p.LitrosIncendio;
+    return g;
+}
+
+bool LeerGenerales(const QJsonObject& o, ProyectoAcueducto& p, QString& error) {
+    LectorJson l(o.value(QStringLiteral("Generales")).toObject(), QStringLiteral("en los datos generales"), error);
+    l.Texto("Proyecto", p.Proyecto);
+    l.Texto("Ubicacion", p.Ubicacion);
+    l.Texto("Calculista", p.Calculista);
+    l.Fecha("Fecha", p.Fecha);
+    l.Texto("Comentario", p.Comentario);
+    l.Entero("OpcionConsumo", p.OpcionConsumo, 1, 2);
+    l.Entero("OpcionDiametro", p.OpcionDiametro, 1, 3);
+    int c = p.C;
+    l.Entero("C", c, 0, 32767);
+    p.C = c;
+    l.Entero("CasoPorcentaje", p.CasoPorcentaje, 1, 2);
+    l.Doble("DeltaPorcentaje", p.DeltaPorcentaje);
+    l.Doble("FactorQMax", p.FactorQMax);
+    l.Doble("FactorIncendio", p.FactorIncendio);
+    l.Doble("LitrosIncendio", p.LitrosIncendio);
+    return l.Bien();
+}
+
+// A node name of a section end: trimmed, not empty, within the 20
+// characters of a node record.
+bool NombreExtremo(QString& nombre, int tramo, const char* extremo, QString& error) {
+    nombre = Trim(nombre);
+    if (nombre.isEmpty())
+        error = QStringLiteral("El tramo %1 no tiene nombre de nodo en \"%2\".").arg(tramo).arg(QLatin1String(extremo));
+    else if (nombre.size() > LargoNombreNodo)
+        error = QStringLiteral("El nombre \"%1\" del tramo %2 tiene más de %3 caracteres.")
+                    .arg(nombre)
+                    .arg(tramo)
+                    .arg(LargoNombreNodo);
+    return error.isEmpty();
+}
+
+bool LeerTramos(const QJsonArray& tramos, ProyectoAcueducto& p, QString& error) {
+    if (!ObjetosDeLista(tramos, 32767, "tramo", "tramos", error)) return false;
+    p.NumeroTramos = int(tramos.size());
+    p.DimensionarTramos(p.NumeroTramos);
+    for (int t = 1; t <= p.NumeroTramos; ++t) {
+        LectorJson l(tramos[t - 1].toObject(), QStringLiteral("en el tramo %1").arg(t), error);
+        l.Texto("Inicio", p.Inicio[t]);
+        l.Texto("Final", p.Final[t]);
+        l.Doble("Longitud", p.Longitud[t]);
+        l.Doble("Diametro", p.Diametro[t]);
+        int c = p.C;
+        l.Entero("CoeficienteC", c, 0, 32767);
+        p.CoeficienteC[t] = c;
+        l.Doble("Demanda", p.Demanda[t]);
+        if (!l.Bien() || !NombreExtremo(p.Inicio[t], t, "Inicio", error) ||
+            !NombreExtremo(p.Final[t], t, "Final", error))
+            return false;
+    }
+    return true;
+}
+
+// Node data by name onto the nodes the numbering found.
+bool LeerNodos(const QJsonArray& nodos, ProyectoAcueducto& p, QString& error) {
+    if (!ObjetosDeLista(nodos, 32767, "nodo", "nodos", error)) return false;
+    // The numbering dimensions the names wider; the node arrays agree again.
+    Arreglo<QString> nombres = p.Nodos;
+    p.DimensionarNodos(p.NumeroNodosACU);
+    QHash<QString, int> numero;
+    for (int n = 1; n <= p.NumeroNodosACU; ++n) {
+        p.Nodos[n] = nombres[n];
+        numero.insert(p.Nodos[n], n);
+    }
+    QHash<QString, int> vistos;
+    for (int k = 1; k <= nodos.size(); ++k) {
+        const QString donde = QStringLiteral("en el nodo %1").arg(k);
+        LectorJson l(nodos[k - 1].toObject(), donde, error);
+        QString nombre;
+        l.Texto("Nodos", nombre);
+        if (!l.Bien()) return false;
+        nombre = Trim(nombre);
+        const int n = numero.value(nombre, 0);
+        if (n == 0) {
+            error = QStringLiteral("El nodo \"%1\" (%2 de la lista) no es extremo de ningún tramo.").arg(nombre).arg(k);
+            return false;
+        }
+        if (vistos.contains(nombre)) {
+            error = QStringLiteral("El nodo \"%1\" aparece dos veces en la lista de nodos.").arg(nombre);
+            return false;
+        }
+        vistos.insert(nombre, k);
+        l.Doble("ConsumoMedio", p.ConsumoMedio[n]);
+        l.Doble("CotaTerreno", p.CotaTerreno[n]);
+        l.Doble("CotaBombaEstanque", p.CotaBombaEstanque[n]);
+        if (!l.Bien()) return false;
+    }
+    return true;
+}
+
+QJsonObject TramoJson(const ProyectoAcueducto& p, int t) {
+    QJsonObject r;
+    r[QStringLiteral("Numero")] = t;
+    r[QStringLiteral("Inicio")] = p.Inicio[t];
+    r[QStringLiteral("Final")] = p.Final[t];
+    r[QStringLiteral("Longitud")] = p.Longitud[t];
+    r[QStringLiteral("Diametro")] = p.Diametro[t];
+    r[QStringLiteral("CoeficienteC")] = int(p.CoeficienteC[t]);
+    return r;
+}
+
+QJsonObject NodoJson(const ProyectoAcueducto& p, int n) {
+    QJsonObject r;
+    r[QStringLiteral("Numero")] = n;
+    r[QStringLiteral("Nodos")] = p.Nodos.Leer(n);
+    r[QStringLiteral("ConsumoMedio")] = p.ConsumoMedio.Leer(n);
+    r[QStringLiteral("CotaTerreno")] = p.CotaTerreno.Leer(n);
+    r[QStringLiteral("CotaBombaEstanque")] = p.CotaBombaEstanque.Leer(n);
+    return r;
+}
+
+}  // namespace
+
+QJsonObject AcueductoComoJson(const ProyectoAcueducto& p) {
+    QJsonObject o;
+    o[QStringLiteral("Generales")] = Generales(p);
+    o[QStringLiteral("NumeroTramos")] = int(p.NumeroTramos);
+    o[QStringLiteral("NumeroNodosACU")] = int(p.NumeroNodosACU);
+    QJsonArray tramos, nodos;
+    for (int t = 1; t <= p.NumeroTramos; ++t) {
+        QJsonObject r = TramoJson(p, t);
+        r[QStringLiteral("Demanda")] = p.Demanda[t];
+        tramos.append(r);
+    }
+    for (int n = 1; n <= p.NumeroNodosACU; ++n) nodos.append(NodoJson(p, n));
+    o[QStringLiteral("Tramos")] = tramos;
+    o[QStringLiteral("Nodos")] = nodos;
+    return o;
+}
+
+bool AcueductoDesdeJson(const QJsonObject& o, ProyectoAcueducto& p, const Sesion& s, QString& error) {
+    error.clear();
+    if (!LeerGenerales(o, p, error)) return false;
+    const QJsonValue tramos = o.value(QStringLiteral("Tramos"));
+    const QJsonValue nodos = o.value(QStringLiteral("Nodos"));
+    if (!(tramos.isArray() || tramos.isUndefined()) || !(nodos.isArray() || nodos.isUndefined())) {
+        error = QStringLiteral("\"Tramos\" y \"Nodos\" deben ser listas.");
+        return false;
+    }
+    if (!LeerTramos(tramos.toArray(), p, error)) return false;
+    try {
+        NumerarNodos(p, s);
+    } catch (const ErrorEjecucion& e) {
+        error = QStringLiteral("Los tramos nombran más nodos distintos de los que admite la red (tramos + 10): ") +
+                QString::fromUtf8(e.what());
+        return false;
+    }
+    return LeerNodos(nodos.toArray(), p, error);
+}
+
+QJsonObject ResultadosComoJson(const ProyectoAcueducto& p, const QString& mensaje) {
+    QJsonObject o;
+    o[QStringLiteral("NumeroTramos")] = int(p.NumeroTramos);
+    o[QStringLiteral("NumeroNodosACU")] = int(p.NumeroNodosACU);
+    o[QStringLiteral("CasoDemanda")] = p.CasoDemanda;
+    o[QStringLiteral("ErrorAnalisis")] = p.ErrorAnalisis;
+    o[QStringLiteral("mensaje")] = mensaje;
+    o[QStringLiteral("AnchoBanda")] = int(p.AnchoBanda);
+    o[QStringLiteral("CotaReferencia")] = p.CotaReferencia;
+    o[QStringLiteral("NodoMinimo")] = p.NodoMinimo;
+    o[QStringLiteral("NodoMaximo")] = p.NodoMaximo;
+    QJsonArray iteraciones;
+    for (int i : p.Iteraciones) iteraciones.append(i);
+    o[QStringLiteral("iteraciones")] = iteraciones;
+    QJsonArray tramos, nodos;
+    for (int t = 1; t <= p.NumeroTramos; ++t) {
+        QJsonObject r = TramoJson(p, t);
+        r[QStringLiteral("NodosTramo")] = QJsonArray{int(p.NodosTramo.Leer(1, t)), int(p.NodosTramo.Leer(2, t))};
+        r[QStringLiteral("LongitudCalculo")] = p.LongitudCalculo.Leer(t);
+        r[QStringLiteral("Caudal")] = p.Caudal.Leer(t);
+        r[QStringLiteral("Velocidad")] = p.Velocidad.Leer(t);
+        r[QStringLiteral("Perdidas")] = p.Perdidas.Leer(t);
+        r[QStringLiteral("HF")] = PerdidaUnitaria(p, t);
+        tramos.append(r);
+    }
+    for (int n = 1; n <= p.NumeroNodosACU; ++n) {
+        QJsonObject r = NodoJson(p, n);
+        r[QStringLiteral("DemandaReal")] = p.DemandaReal.Leer(n) * 1000.0;
+        r[QStringLiteral("DemandaCalculo")] = p.DemandaCalculo.Leer(n);
+        r[QStringLiteral("CotaPiezometrica")] = p.CotaPiezometrica.Leer(n);
+        r[QStringLiteral("Presion")] = PresionNodo(p, n);
+        r[QStringLiteral("TramosConectados")] = int(p.TramosConectados.Leer(n));
+        r[QStringLiteral("NombreTramos")] = p.NombreTramos.Leer(n);
+        nodos.append(r);
+    }
+    o[QStringLiteral("tramos")] = tramos;
+    o[QStringLiteral("nodos")] = nodos;
+    return o;
+}
+
+bool ExportarAcueducto(const QString& archivo, Sesion& s, QJsonObject& salida, QString& error) {
+    ProyectoAcueducto p;
+    ValoresInicialesACU(p, s);
+    if (!CargarProyectoACU(p, s, archivo, error)) return false;
+    salida = AcueductoComoJson(p);
+    return true;
+}
+
+bool ImportarAcueducto(const QString& json, const QString& destino, Sesion& s, QString& error) {
+    QJsonObject o;
+    if (!LeerObjetoJson(json, o, error)) return false;
+    ProyectoAcueducto p;
+    ValoresInicialesACU(p, s);
+    if (!AcueductoDesdeJson(o, p, s, error)) return false;
+    return EscribirDesdePlantilla(s.RutaImagen(QStringLiteral("Malla.nivo")), destino, error,
+                                  [&](const QString& temporal, QString& e) {
+                                      s.ArchivoProyectoACU = temporal;
+                                      const bool ok = SalvarProyectoACU(p, s, e);
+                                      s.ArchivoProyectoACU = destino;
+                                      return ok;
+                                  });
+}

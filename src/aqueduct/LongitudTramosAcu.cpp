@@ -1,0 +1,77 @@
+#include "aqueduct/LongitudTramosAcu.h"
+
+#include "aqueduct/DatosAcueducto.h"
+#include "aqueduct/FormatoGrid.h"
+#include "base/Dialogos.h"
+#include "base/Nivo.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+constexpr int ColumnaLongitud = 3;  // of the data screen's section grid
+const QString TituloFontaria = QStringLiteral("Proyecto de Fontaria");
+}  // namespace
+
+LongitudTramosAcu::LongitudTramosAcu(DatosAcueducto& datos) : Spread1(4), datos_(datos) {
+    Spread1.PonerEncabezados(1, QStringLiteral("Ramal"));
+    Spread1.PonerEncabezados(2, QStringLiteral("( I )"));
+    Spread1.PonerEncabezados(3, QStringLiteral("( J )"));
+    Spread1.PonerEncabezados(4, QStringLiteral("Longitud"));
+    FormatoColumna(Spread1, 1, TipoCelda::Entero, 0, 6);
+    FormatoColumna(Spread1, 2, TipoCelda::Texto, 0, 12);
+    FormatoColumna(Spread1, 3, TipoCelda::Texto, 0, 12);
+    FormatoColumna(Spread1, 4, TipoCelda::Numero, 2, 10);
+    Spread1.PonerFilas(1);
+    ColoquePantalla(datos_.Spread1.FilaActiva());
+}
+
+void LongitudTramosAcu::CambiarCoordenada(int caja, double valor) {
+    if (caja < 1 || caja > 6) return;
+    xyz_[caja - 1] = valor;
+    if (!retenido_) CalcularLongitud();
+}
+
+double LongitudTramosAcu::CalcularLongitud() {
+    const double dx = xyz_[3] - xyz_[0], dy = xyz_[4] - xyz_[1], dz = xyz_[5] - xyz_[2];
+    longitud_ = std::sqrt(dx * dx + dy * dy + dz * dz);
+    return longitud_;
+}
+
+QString LongitudTramosAcu::TextoLongitud() const { return Formato(longitud_, QStringLiteral("#,##0.00")); }
+
+int LongitudTramosAcu::MaximoScroll() const { return std::max(datos_.Spread1.Filas(), 1); }
+
+void LongitudTramosAcu::ColoquePantalla(int fila) {
+    const Grid& g = datos_.Spread1;
+    if (g.Filas() == 0) return;
+    fila_ = std::clamp(fila, 1, g.Filas());
+    datos_.Spread1.PonerActiva(fila_, ColumnaLongitud);
+    Spread1.PonerEntero(1, 1, fila_);
+    Spread1.PonerTexto(1, 2, g.Texto(fila_, 1));
+    Spread1.PonerTexto(1, 3, g.Texto(fila_, 2));
+    Spread1.PonerNumero(1, 4, g.Valor(fila_, ColumnaLongitud), 2);
+}
+
+void LongitudTramosAcu::FijarLongitud() {
+    if (datos_.Spread1.Filas() == 0) return;
+    const double l = CalcularLongitud();
+    if (datos_.Dialogos_().MostrarMensaje(QStringLiteral("Longitud = ") + TextoLongitud() +
+                                              QStringLiteral(" m.\nFijar la Longitud del Tramo Seleccionado?"),
+                                          QStringLiteral("Longitud de los Tramos..."), TituloFontaria, Botones::SiNo,
+                                          1) != Respuesta::Si)
+        return;
+    Spread1.PonerNumero(1, 4, l, 2);
+    datos_.EditarRamal(fila_, ColumnaLongitud, l);
+}
+
+void LongitudTramosAcu::Limpiar() {
+    if (datos_.Dialogos_().MostrarMensaje(QStringLiteral("¡Limpiar los Valores de las Coordenadas!"),
+                                          QStringLiteral("Coordenadas de los Nodos..."), TituloFontaria, Botones::SiNo,
+                                          1) != Respuesta::Si)
+        return;
+    retenido_ = true;
+    for (int caja = 1; caja <= 6; ++caja) CambiarCoordenada(caja, 0.0);
+    retenido_ = false;
+    CalcularLongitud();
+}

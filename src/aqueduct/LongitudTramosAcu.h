@@ -1,0 +1,47 @@
+#pragma once
+// The logic of "Longitud de los Ramales": the length of a section from the
+// coordinates of its two ends, fixed into the section grid of the data
+// screen as a typed value would be.  The six boxes are input only.
+
+#include "base/Grid.h"
+
+#include <QString>
+
+class DatosAcueducto;
+
+class LongitudTramosAcu {
+public:
+    // Opens on the active row of the data screen's section grid.
+    explicit LongitudTramosAcu(DatosAcueducto& datos);
+
+    // The boxes X(I), Y(I), Z(I), X(J), Y(J), Z(J), numbered 1..6.
+    void CambiarCoordenada(int caja, double valor);
+    double Coordenada(int caja) const { return xyz_[caja - 1]; }
+
+    // The distance between the two ends, not rounded.
+    double CalcularLongitud();
+    double Longitud() const { return longitud_; }
+    // The caption beside "L (m):", "#,##0.00".
+    QString TextoLongitud() const;
+
+    // The small grid of the current section: 1 number, 2 (I), 3 (J), 4 length.
+    Grid Spread1;
+    // VScroll1 runs over the rows of the data screen's section grid.
+    int MinimoScroll() const { return 1; }
+    int MaximoScroll() const;
+    int Scroll() const { return fila_; }
+    void ColoquePantalla(int fila);
+
+    // "Fijar la Longitud": asks, then writes L into the small grid and into the
+    // length cell of the active section.
+    void FijarLongitud();
+    // "Limpiar": asks, then sets the six boxes to 0 and computes.
+    void Limpiar();
+
+private:
+    DatosAcueducto& datos_;
+    double xyz_[6] = {0, 0, 0, 0, 0, 0};
+    double longitud_ = 0.0;
+    int fila_ = 1;
+    bool retenido_ = false;
+};

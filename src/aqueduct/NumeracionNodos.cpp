@@ -1,0 +1,135 @@
+#include "aqueduct/NumeracionNodos.h"
+
+#include "aqueduct/ProyectoAcueducto.h"
+#include "base/Nivo.h"
+#include "shell/Sesion.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <vector>
+
+namespace {
+
+// One record of Nodos.Dat.
+QByteArray RegistroNodo(const QString& nombre, int numero) {
+    QByteArray r(LargoRegistroNodo, '\0');
+    for (int i = 0; i < LargoNombreNodo; ++i) {
+        char c = ' ';
+        if (i < nombre.size()) {
+            const char16_t u = nombre[i].unicode();
+            c = u <= 0xFF ? char(u) : '?';
+        }
+        r[i] = c;
+    }
+    r[LargoNombreNodo] = char(numero & 0xFF);
+    r[LargoNombreNodo + 1] = char((numero >> 8) & 0xFF);
+    return r;
+}
+
+// The scratch file is rewritten whole; a folder that cannot be made leaves
+// it unwritten, as nothing reads it back but the numbering itself, which
+// keeps the same records in memory.
+void EscribirNodosDat(const Sesion& s, const std::vector<QString>& registros) {
+    const QString ruta = RutaNodosDat(s);
+    QDir().mkpath(QFileInfo(ruta).absolutePath());
+    QFile::remove(ruta);
+    QFile f(ruta);
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) return;
+    QByteArray todo;
+    todo.reserve(qsizetype(registros.size()) * LargoRegistroNodo);
+    for (size_t i = 1; i < registros.size(); ++i) todo += RegistroNodo(registros[i], int(i));
+    f.write(todo);
+}
+
+void AgregarEtiqueta(ProyectoAcueducto& p, int nodo, const QString& etiqueta) {
+    p.TramosConectados[nodo] += 1;
+    QString& lista = p.NombreTramos[nodo];
+    if (p.TramosConectados[nodo] == 1)
+        lista = etiqueta;
+    else
+        lista += QStringLiteral(",  ") + etiqueta;
+}
+
+}  // namespace
+
+QString RutaNodosDat(const Sesion& s) { return s.RutaDatos(QStringLiteral("Trabajo/Nodos.Dat")); }
+
+void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s) {
+    const int tramos = p.NumeroTramos;
+    p.ExtremosTramo.Redim(2, tramos);
+    for (int t = 1; t <= tramos; ++t) {
+        p.ExtremosTramo(1, t) = p.Inicio[t];
+        p.ExtremosTramo(2, t) = p.Final[t];
+    }
+
+    // First appearance decides the number; the names are compared exactly.
+    p.Nodos.Redim(tramos + 10);
+    QHash<QString, int> vistos;
+    vistos.reserve(tramos + 1);
+    std::vector<QString> registros(1);  // record i holds node i; slot 0 unused
+    int cuenta = 0;
+    auto listar = [&](const QString& nombre) {
+        if (vistos.contains(nombre)) return;
+        p.Nodos[cuenta + 1] = nombre;  // beyond NumeroTramos + 10: error 9
+        ++cuenta;
+        vistos.insert(nombre, cuenta);
+        registros.push_back(nombre.left(LargoNombreNodo));
+    };
+    listar(p.Inicio[1]);
+    for (int t = 1; t <= tramos; ++t) {
+        listar(p.ExtremosTramo(1, t));
+        listar(p.ExtremosTramo(2, t));
+    }
+    p.NumeroNodosACU = cuenta;
+    p.NodosTramo.Redim(2, tramos);
+    EscribirNodosDat(s, registros);
+
+    // The ends get the number of the last record whose trimmed name equals
+    // theirs; an end no record matches keeps 0.
+    QHash<QString, int> porRegistro;
+    porRegistro.reserve(cuenta);
+    for (int i = 1; i <= cuenta; ++i) porRegistro.insert(Trim(registros[size_t(i)]), i);
+    for (int t = 1; t <= tramos; ++t)
+        for (int e = 1; e <= 2; ++e) {
+            const auto it = porRegistro.constFind(Trim(p.ExtremosTramo(e, t)));
+            if (it != porRegistro.constEnd()) p.NodosTramo(e, t) = it.value();
+        }
+}
+
+void NumerarNodos(ProyectoAcueducto& p, const Sesion& s) {
+    if (p.NumeroTramos == 0) return;
+    NumerarExtremos(p, s);
+    ConectarNodos(p);
+    AcumularConsumos(p);
+}
+
+void ConectarNodos(ProyectoAcueducto& p) {
+    const int nodos = p.NumeroNodosACU;
+    p.TramosConectados.Redim(nodos);
+    p.NombreTramos.Redim(nodos);
+    // Every node of a name, in node order, as the search over all nodes finds them.
+    QHash<QString, std::vector<int>> porNombre;
+    porNombre.reserve(nodos);
+    for (int n = 1; n <= nodos; ++n) porNombre[p.Nodos[n]].push_back(n);
+    for (int t = 1; t <= p.NumeroTramos; ++t) {
+        const QString& i = p.Inicio[t];
+        const QString& j = p.Final[t];
+        if (const auto it = porNombre.constFind(i); it != porNombre.constEnd())
+            for (int n : it.value()) AgregarEtiqueta(p, n, Trim(i) + QLatin1Char('-') + Trim(j));
+        if (const auto it = porNombre.constFind(j); it != porNombre.constEnd())
+            for (int n : it.value()) AgregarEtiqueta(p, n, Trim(j) + QLatin1Char('-') + Trim(i));
+    }
+}
+
+void AcumularConsumos(ProyectoAcueducto& p) {
+    if (p.OpcionConsumo == 2) return;
+    p.ConsumoMedio.Redim(p.NumeroNodosACU);
+    if (p.OpcionConsumo != 1) return;
+    for (int t = 1; t <= p.NumeroTramos; ++t)
+        for (int e = 1; e <= 2; ++e) {
+            double& q = p.ConsumoMedio[p.NodosTramo(e, t)];
+            q = RoundNivo(q + p.Demanda[t] / 2.0, 3);
+        }
+}

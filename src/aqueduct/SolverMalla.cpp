@@ -1,0 +1,310 @@
+#include "aqueduct/SolverMalla.h"
+
+#include "aqueduct/CasosDemanda.h"
+#include "aqueduct/NumeracionNodos.h"
+#include "aqueduct/ProyectoAcueducto.h"
+#include "base/ErrorEjecucion.h"
+#include "base/Nivo.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <new>
+
+using namespace ConstantesMalla;
+
+namespace {
+
+constexpr int MemoriaInsuficiente = 7;
+// The largest band matrix a solve may take: 1 GB of doubles.
+constexpr size_t LimiteMatriz = size_t(1) << 27;
+// The entered numbering is kept up to this band whatever another order
+// would give: below it the elimination costs nothing worth saving.
+constexpr int AnchoSinRenumerar = 16;
+
+double Finito(double x) {
+    if (!std::isfinite(x)) throw ErrorEjecucion(Error::Desbordamiento);
+    return x;
+}
+
+// The order the equations are solved in: the entered one, or the internal
+// one when it is clearly narrower (or asked for).
+OrdenNodos ElegirOrden(ProyectoAcueducto& p) {
+    OrdenNodos entrada;
+    entrada.ancho = p.AnchoBanda;
+    if (p.Orden != OrdenSolucion::Entrada) {
+        OrdenNodos interna = OrdenCuthillMcKee(p);
+        const bool angosta = p.AnchoBanda > AnchoSinRenumerar && 4 * interna.ancho <= 3 * int(p.AnchoBanda);
+        if (p.Orden == OrdenSolucion::Interno || angosta) {
+            p.NumeracionInterna = true;
+            return interna;
+        }
+    }
+    entrada.orden.resize(size_t(p.NumeroNodosACU) + 1);
+    for (size_t n = 0; n < entrada.orden.size(); ++n) entrada.orden[n] = int(n);
+    p.NumeracionInterna = false;
+    return entrada;
+}
+
+// The sections' ends and conductance factors, read once per run.
+struct Tramos {
+    std::vector<int> i, j;
+    std::vector<double> k;
+};
+
+// The datum (the lowest ground) and the fixed-head nodes.
+void NodosFijos(ProyectoAcueducto& p) {
+    const int nodos = p.NumeroNodosACU;
+    p.CotaReferencia = InicioReferencia;
+    for (int n = 1; n <= nodos; ++n)
+        if (p.CotaTerreno[n] < p.CotaReferencia) p.CotaReferencia = p.CotaTerreno[n];
+    Entero16 fijos;
+    for (int n = 1; n <= nodos; ++n)
+        if (p.CotaBombaEstanque[n] > 0) ++fijos;
+    p.NumeroFijos = fijos;
+    p.NodoFijo.Redim(fijos);
+    p.CotaFija.Redim(fijos);
+    int f = 0;
+    for (int n = 1; n <= nodos; ++n)
+        if (p.CotaBombaEstanque[n] > 0) {
+            ++f;
+            p.NodoFijo[f] = n;
+            p.CotaFija[f] = p.CotaBombaEstanque[n];
+        }
+}
+
+// K of each section, Q = K h^e.  Written through the pipe's
+// resistance 10.675 L / D^4.8704, so that a pipe of no length or no bore is
+// the division by zero it is rather than a silent K of 0.
+Tramos CoeficientesTramos(ProyectoAcueducto& p, double e) {
+    const int tramos = p.NumeroTramos;
+    Tramos t;
+    t.i.resize(size_t(tramos) + 1);
+    t.j.resize(size_t(tramos) + 1);
+    t.k.resize(size_t(tramos) + 1);
+    p.CoeficienteK.Redim(tramos);
+    for (int s = 1; s <= tramos; ++s) {
+        const double d = DiametroMetros(p, s);
+        const double resistencia = Dividir(FactorHazen * p.LongitudCalculo[s], Potencia(d, ExponenteDiametro));
+        p.CoeficienteK[s] = Finito(int(p.CoeficienteC[s]) * Potencia(Dividir(1.0, resistencia), e));
+        t.i[size_t(s)] = p.NodosTramo(1, s);
+        t.j[size_t(s)] = p.NodosTramo(2, s);
+        t.k[size_t(s)] = p.CoeficienteK[s];
+    }
+    return t;
+}
+
+// One pass of the iteration; returns the iterations it took.
+int Iterar(ProyectoAcueducto& p, const Tramos& t, const OrdenNodos& o, MatrizBanda& a, std::vector<double>& b,
+           std::vector<double>& flujo, double e) {
+    const int nodos = p.NumeroNodosACU;
+    const int tramos = p.NumeroTramos;
+    const std::vector<int>& orden = o.orden;
+    int it = 1;
+    for (; it <= LimiteIteraciones; ++it) {
+        for (int n = 0; n <= nodos; ++n) b[size_t(orden[size_t(n)])] = -p.DemandaReal[n];
+        a.Limpiar();
+        for (int s = 1; s <= tramos; ++s) {
+            const int i = t.i[size_t(s)], j = t.j[size_t(s)];
+            double g = t.k[size_t(s)];
+            if (it > 1) {
+                const double d = std::fabs(p.Alturas[i] - p.Alturas[j]);
+                g = d != 0.0 ? Finito(g * Potencia(d, e - 1.0)) : 0.0;
+            }
+            const int oi = orden[size_t(i)], oj = orden[size_t(j)];
+            a(1, oi) += g;
+            a(1, oj) += g;
+            a(std::abs(oi - oj) + 1, std::min(oi, oj)) -= g;
+        }
+        // A fixed head by penalty: the node's demand plays no part.
+        for (int f = 1; f <= p.NumeroFijos; ++f) {
+            const int n = orden[size_t(p.NodoFijo[f])];
+            a(1, n) += Penalidad;
+            b[size_t(n)] = Penalidad * (p.CotaFija[f] - p.CotaReferencia);
+        }
+        ResolverBanda(a, b, nodos, 1.0);
+
+        // The new heads replace the old ones whole: no relaxation.
+        for (int n = 0; n <= nodos; ++n) p.Alturas[n] = b[size_t(orden[size_t(n)])];
+        std::fill(flujo.begin(), flujo.end(), 0.0);
+        for (int s = 1; s <= tramos; ++s) {
+            const int i = t.i[size_t(s)], j = t.j[size_t(s)];
+            const double q = Finito(t.k[size_t(s)] * Potencia(std::fabs(p.Alturas[i] - p.Alturas[j]), e));
+            if (p.Alturas[i] > p.Alturas[j]) {
+                flujo[size_t(i)] -= q;
+                flujo[size_t(j)] += q;
+            } else {
+                flujo[size_t(i)] += q;
+                flujo[size_t(j)] -= q;
+            }
+        }
+        for (int f = 1; f <= p.NumeroFijos; ++f) flujo[size_t(p.NodoFijo[f])] = p.DemandaReal[p.NodoFijo[f]];
+        double error = 0.0;
+        for (int n = 1; n <= nodos; ++n) error += std::fabs(flujo[size_t(n)] - p.DemandaReal[n]);
+        error = Dividir(error, double(p.NumeroNodosACU - p.NumeroFijos));
+        // The rounded error is computed and dropped: the test takes the
+        // unrounded one.
+        (void)RoundNivo(error, 8);
+        if (error < Tolerancia) break;
+    }
+    return std::min(it, LimiteIteraciones);
+}
+
+// Heads, calculated demands and the extreme pressures of a pass.
+void ResultadosNodos(ProyectoAcueducto& p, const std::vector<double>& flujo) {
+    const int nodos = p.NumeroNodosACU;
+    p.CotaPiezometrica.Redim(nodos);
+    double alta = InicioPresionAlta, baja = InicioPresionBaja;
+    p.NodoMinimo = p.NodoMaximo = 0;
+    for (int n = 1; n <= nodos; ++n) {
+        p.DemandaCalculo[n] = flujo[size_t(n)] * 1000.0;
+        p.CotaPiezometrica[n] = p.CotaReferencia + p.Alturas[n];
+        if (p.CotaBombaEstanque[n] != 0) continue;
+        const double presion = p.CotaPiezometrica[n] - p.CotaTerreno[n];
+        if (presion > alta) {
+            alta = presion;
+            p.NodoMaximo = n;
+        }
+        if (presion < baja) {
+            baja = presion;
+            p.NodoMinimo = n;
+        }
+    }
+}
+
+// Losses, flows and velocities of a pass.
+void ResultadosTramos(ProyectoAcueducto& p, const Tramos& t, double e) {
+    const int tramos = p.NumeroTramos;
+    p.Velocidad.Redim(tramos);
+    p.Perdidas.Redim(tramos);
+    for (int s = 1; s <= tramos; ++s) {
+        const double h = p.Alturas[t.i[size_t(s)]] - p.Alturas[t.j[size_t(s)]];
+        p.Perdidas[s] = h;
+        const double signo = h > 0 ? 1.0 : h < 0 ? -1.0 : 0.0;
+        const double q = t.k[size_t(s)] * Potencia(std::fabs(h), e) * signo;
+        p.Caudal[s] = Finito(q * 1000.0);
+        const double d = DiametroMetros(p, s);
+        const double area = d * d * Pi / 4.0;
+        p.Velocidad[s] = area > 0 ? Dividir(q, area) : 0.0;
+    }
+}
+
+void Analizar(ProyectoAcueducto& p, const Sesion& s) {
+    p.DemandaReal.Redim(p.NumeroNodosACU);
+    p.DemandaCalculo.Redim(p.NumeroNodosACU);
+    p.Caudal.Redim(p.NumeroTramos);
+    p.Iteraciones.clear();
+    RenumerarNodos(p, s);
+    FormarDemandaReal(p);
+    const int pasos = PasosDelCaso(p);
+    NodosFijos(p);
+    LongitudesCalculo(p);
+    const double e = 1.0 / ExponenteCaudal;
+    const Tramos t = CoeficientesTramos(p, e);
+
+    const OrdenNodos o = ElegirOrden(p);
+    p.AnchoBandaSolucion = o.ancho;
+    const int nodos = p.NumeroNodosACU;
+    MatrizBanda a;
+    a.Redim(o.ancho, nodos);
+    std::vector<double> b(size_t(nodos) + 1), flujo(size_t(nodos) + 1);
+    p.Alturas.Redim(nodos);
+    for (int paso = 1; paso <= pasos; ++paso) {
+        // The fire flow goes to the node of lowest pressure of the first pass.
+        if (paso == 2) p.DemandaReal[p.NodoMinimo] += p.LitrosIncendio / 1000.0;
+        p.Iteraciones.push_back(Iterar(p, t, o, a, b, flujo, e));
+        ResultadosNodos(p, flujo);
+        ResultadosTramos(p, t, e);
+    }
+}
+
+}  // namespace
+
+void MatrizBanda::Redim(int ancho, int nodos) {
+    const size_t celdas = size_t(std::max(ancho, 1)) * (size_t(std::max(nodos, 0)) + 1);
+    if (celdas > LimiteMatriz)
+        throw ErrorEjecucion(MemoriaInsuficiente, QStringLiteral("matriz de banda %1 x %2").arg(ancho).arg(nodos));
+    ancho_ = std::max(ancho, 1);
+    nodos_ = std::max(nodos, 0);
+    d_.assign(celdas, 0.0);
+}
+
+void MatrizBanda::Limpiar() { std::fill(d_.begin(), d_.end(), 0.0); }
+
+bool MatrizBanda::Finita() const {
+    for (double x : d_)
+        if (!std::isfinite(x)) return false;
+    return true;
+}
+
+void ResolverBanda(MatrizBanda& a, std::vector<double>& b, int n, double bandera) {
+    const int ancho = a.Ancho();
+    for (int fila = 1; fila <= n - 1; ++fila) {
+        const int largo = std::min(n - fila + 1, ancho);
+        double* an = &a(1, fila);
+        for (int l = 2; l <= largo; ++l) {
+            const int i = fila + l - 1;
+            if (bandera != 0) {
+                if (an[0] == 0.0) an[0] = PivoteNulo;
+                const double c = an[l - 1] / an[0];
+                double* ai = &a(1, i);
+                // A(j, i) -= c A(k, n) for k = l..largo, j = k - l + 1.
+                const double* fuente = an + (l - 1);
+                const int cuenta = largo - l + 1;
+                for (int k = 0; k < cuenta; ++k) ai[k] -= c * fuente[k];
+                an[l - 1] = c;
+            }
+            b[size_t(i)] -= an[l - 1] * b[size_t(fila)];
+        }
+    }
+    if (a(1, n) == 0.0) a(1, n) = PivoteNulo;
+    b[size_t(n)] = Dividir(b[size_t(n)], a(1, n));
+    for (int m = 1; m <= n - 1; ++m) {
+        const int fila = n - m;
+        b[size_t(fila)] = Dividir(b[size_t(fila)], a(1, fila));
+        const int largo = std::min(n - fila + 1, ancho);
+        const double* an = &a(1, fila);
+        double x = b[size_t(fila)];
+        for (int l = 2; l <= largo; ++l) x -= an[l - 1] * b[size_t(fila + l - 1)];
+        b[size_t(fila)] = x;
+    }
+    // The older runtime stopped at the first operation that left the double
+    // range; an infinity or NaN anywhere in the elimination is that fault.
+    if (!a.Finita()) throw ErrorEjecucion(Error::Desbordamiento);
+    for (int i = 1; i <= n; ++i) Finito(b[size_t(i)]);
+}
+
+void CalcularAnchoBanda(ProyectoAcueducto& p) {
+    int mayor = 0;
+    for (int s = 1; s <= p.NumeroTramos; ++s)
+        mayor = std::max(mayor, std::abs(int(p.NodosTramo(1, s)) - int(p.NodosTramo(2, s))));
+    p.AnchoBanda = mayor + 1;
+}
+
+void LongitudesCalculo(ProyectoAcueducto& p) {
+    p.LongitudCalculo.Redim(p.NumeroTramos);
+    for (int s = 1; s <= p.NumeroTramos; ++s) {
+        const double l = p.Longitud[s];
+        p.LongitudCalculo[s] =
+            p.CasoPorcentaje == 1 ? RoundNivo(l + p.DeltaPorcentaje * l / 100.0, 2) : RoundNivo(l, 2);
+    }
+}
+
+void RenumerarNodos(ProyectoAcueducto& p, const Sesion& s) {
+    NumerarExtremos(p, s);
+    ConectarNodos(p);
+    CalcularAnchoBanda(p);
+}
+
+void AnalizarMalla(ProyectoAcueducto& p, const Sesion& s) {
+    p.DetalleError.clear();
+    try {
+        Analizar(p, s);
+    } catch (const ErrorEjecucion& e) {
+        p.ErrorAnalisis = 1;
+        p.DetalleError = QString::fromUtf8(e.what());
+    } catch (const std::bad_alloc&) {
+        p.ErrorAnalisis = 1;
+        p.DetalleError = QStringLiteral("Error 7: Memoria insuficiente");
+    }
+}

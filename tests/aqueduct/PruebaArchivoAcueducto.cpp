@@ -1,0 +1,171 @@
+// The .acu file: load, save in one transaction, and refusal of foreign files.
+
+#include "RedPrueba.h"
+#include "support/Apoyo.h"
+
+#include "aqueduct/ArchivoAcueducto.h"
+#include "aqueduct/NumeracionNodos.h"
+#include "store/Conexion.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace {
+
+ProyectoAcueducto Ejemplo(const Sesion& s) {
+    ProyectoAcueducto p = Red({{"T", "A", 100.456, 0.1234, 120, 1.2345}, {"A", "B", 50, 0.1, 110, 0.5}},
+                              {{"T", 0, 50.126, 80.004}, {"A", 1.23456, 40}, {"B", 0, 42}}, s);
+    p.Proyecto = "Red de prueba";
+    p.Ubicacion = "Pueblo Nuevo";
+    p.Calculista = "Ing. Pérez";
+    p.Comentario = "Primera etapa";
+    p.Fecha = QDate(2024, 3, 9);
+    p.C = 120;
+    p.FactorQMax = 2.2;
+    p.FactorIncendio = 1.5;
+    p.LitrosIncendio = 10;
+    p.Cliente = "Alcaldía";
+    return p;
+}
+
+}  // namespace
+
+TEST(ArchivoAcueducto, SalvarYLeerConRedondeos) {
+    SesionPrueba sp;
+    sp.s.ArchivoProyectoACU = sp.AcueductoEnBlanco();
+    ProyectoAcueducto p = Ejemplo(sp.s);
+    p.Final[2] = "  B ";  // trimmed in the file
+    QString error;
+    ASSERT_TRUE(SalvarProyectoACU(p, sp.s, error)) << error.toStdString();
+
+    ProyectoAcueducto q;
+    ASSERT_TRUE(LeerProyectoACU(q, sp.s, error)) << error.toStdString();
+    EXPECT_EQ(q.Proyecto, "Red de prueba");
+    EXPECT_EQ(q.Ubicacion, "Pueblo Nuevo");
+    EXPECT_EQ(q.Calculista, "Ing. Pérez");
+    EXPECT_EQ(q.Fecha, QDate(2024, 3, 9));
+    EXPECT_EQ(q.C, 120);
+    EXPECT_EQ(q.FactorQMax, 2.2);
+    EXPECT_EQ(q.Cliente, "");  // the box's text is never stored
+    EXPECT_EQ(q.CasoPorcentaje, 2);
+    EXPECT_EQ(q.DeltaPorcentaje, 0.0);  // saved as 0 without the percentage option
+    ASSERT_EQ(q.NumeroTramos, 2);
+    EXPECT_EQ(q.Final[2], "B");
+    EXPECT_EQ(q.Nodos[3], "B");
+    EXPECT_EQ(q.Longitud[1], 100.46);
+    EXPECT_EQ(q.Diametro[1], 0.123);
+    EXPECT_EQ(q.CoeficienteC[1], 120);
+    EXPECT_EQ(q.Demanda[1], 1.235);  // 1.2345 rounds half away from zero
+    ASSERT_EQ(q.NumeroNodosACU, 3);
+    EXPECT_EQ(q.Nodos[2], "A");
+    EXPECT_EQ(q.ConsumoMedio[2], 1.235);
+    EXPECT_EQ(q.CotaTerreno[1], 50.13);
+    EXPECT_EQ(q.CotaBombaEstanque[1], 80.0);
+    EXPECT_EQ(q.NodosTramo(1, 2), 2);
+    EXPECT_EQ(q.NombreTramos[2], "A-T,  A-B");
+}
+
+TEST(ArchivoAcueducto, ConsumoPorTramoSeAcumulaAlSalvar) {
+    SesionPrueba sp;
+    sp.s.ArchivoProyectoACU = sp.AcueductoEnBlanco();
+    ProyectoAcueducto p = Ejemplo(sp.s);
+    p.OpcionConsumo = 1;
+    p.CasoPorcentaje = 1;
+    p.DeltaPorcentaje = 7.5;
+    sp.s.DatosModificados = -1;
+    QString error;
+    ASSERT_TRUE(SalvarProyectoACU(p, sp.s, error));
+    EXPECT_EQ(sp.s.DatosModificados, 0);
+    ProyectoAcueducto q;
+    ASSERT_TRUE(LeerProyectoACU(q, sp.s, error));
+    EXPECT_EQ(q.DeltaPorcentaje, 7.5);
+    // T: 1.2345 / 2; A: that plus 0.5 / 2; B: 0.5 / 2, each rounded to 3.
+    EXPECT_EQ(q.ConsumoMedio[1], 0.617);
+    EXPECT_EQ(q.ConsumoMedio[2], 0.867);
+    EXPECT_EQ(q.ConsumoMedio[3], 0.25);
+}
+
+TEST(ArchivoAcueducto, ProyectoSinTramos) {
+    SesionPrueba sp;
+    sp.s.ArchivoProyectoACU = sp.AcueductoEnBlanco();
+    ProyectoAcueducto p;
+    p.Proyecto = "Vacío";
+    QString error;
+    ASSERT_TRUE(SalvarProyectoACU(p, sp.s, error)) << error.toStdString();
+    ProyectoAcueducto q;
+    ASSERT_TRUE(LeerProyectoACU(q, sp.s, error)) << error.toStdString();
+    EXPECT_EQ(q.Proyecto, "Vacío");
+    EXPECT_EQ(q.NumeroTramos, 0);
+    EXPECT_EQ(q.NumeroNodosACU, 0);
+    EXPECT_FALSE(QFile::exists(RutaNodosDat(sp.s)));
+
+    // Node rows without sections load whole: the count is the table's.
+    Conexion c;
+    ASSERT_EQ(AbrirConexion(c, sp.s.ArchivoProyectoACU), 0);
+    ASSERT_TRUE(c.Ejecutar("INSERT INTO Nodos (Numero, Nodos, CotaTerreno) VALUES (1, 'X', 12.5), (2, 'Y', 13)"));
+    c.Cerrar();
+    ProyectoAcueducto r;
+    ASSERT_TRUE(LeerProyectoACU(r, sp.s, error)) << error.toStdString();
+    EXPECT_EQ(r.NumeroNodosACU, 2);
+    EXPECT_EQ(r.CotaTerreno[2], 13.0);
+}
+
+TEST(ArchivoAcueducto, UnaFallaAlSalvarDejaElArchivoComoEstaba) {
+    SesionPrueba sp;
+    sp.s.ArchivoProyectoACU = sp.AcueductoEnBlanco();
+    ProyectoAcueducto p = Ejemplo(sp.s);
+    QString error;
+    ASSERT_TRUE(SalvarProyectoACU(p, sp.s, error));
+    // Eleven separate sections name 22 nodes, one more than 11 + 10.
+    p.NumeroTramos = 11;
+    p.RedimensionarTramos(11);
+    for (int t = 1; t <= 11; ++t) {
+        p.Inicio[t] = QStringLiteral("I%1").arg(t);
+        p.Final[t] = QStringLiteral("J%1").arg(t);
+    }
+    sp.s.DatosModificados = -1;
+    EXPECT_FALSE(SalvarProyectoACU(p, sp.s, error));
+    EXPECT_TRUE(error.contains("Subíndice")) << error.toStdString();
+    EXPECT_EQ(sp.s.DatosModificados, -1);
+    ProyectoAcueducto q;
+    ASSERT_TRUE(LeerProyectoACU(q, sp.s, error));
+    EXPECT_EQ(q.NumeroTramos, 2);
+    EXPECT_EQ(q.Inicio[1], "T");
+}
+
+TEST(ArchivoAcueducto, ArchivosAjenosYDatosRotos) {
+    SesionPrueba sp;
+    ProyectoAcueducto p;
+    p.Proyecto = "sin tocar";
+    QString error;
+
+    sp.s.ArchivoProyectoACU = sp.Datos("no-existe.acu");
+    EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
+    EXPECT_TRUE(error.startsWith("No se encuentra el archivo")) << error.toStdString();
+
+    const QString texto = sp.Datos("texto.acu");
+    QFile f(texto);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("esto no es una base de datos, sino un texto cualquiera que ocupa espacio");
+    f.close();
+    sp.s.ArchivoProyectoACU = texto;
+    EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
+    EXPECT_TRUE(error.startsWith("El archivo no es una base de datos")) << error.toStdString();
+
+    sp.s.ArchivoProyectoACU = sp.ProyectoEnBlanco("edificio.acu");
+    EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
+    EXPECT_TRUE(error.startsWith("El archivo no es un proyecto de acueductos")) << error.toStdString();
+
+    // A null project name, or more rows than NumeroTramos, stops the load.
+    sp.s.ArchivoProyectoACU = sp.AcueductoEnBlanco();
+    Conexion c;
+    ASSERT_EQ(AbrirConexion(c, sp.s.ArchivoProyectoACU), 0);
+    ASSERT_TRUE(c.Ejecutar("INSERT INTO Generales (Proyecto, NumeroTramos) VALUES (NULL, 0)"));
+    EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
+    EXPECT_TRUE(error.contains("Null")) << error.toStdString();
+    ASSERT_TRUE(c.Ejecutar("UPDATE Generales SET Proyecto = 'x', NumeroTramos = 1"));
+    ASSERT_TRUE(c.Ejecutar("INSERT INTO Tramos (Numero, Inicio, Final) VALUES (1, 'A', 'B'), (2, 'B', 'C')"));
+    EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
+    EXPECT_TRUE(error.contains("Subíndice")) << error.toStdString();
+    EXPECT_EQ(p.Proyecto, "sin tocar");
+}

@@ -1,0 +1,319 @@
+// The logic of the aqueduct data screen, its coefficient dialog and its
+// length dialog, with the questions answered by a script.
+
+#include "RedPrueba.h"
+
+#include "aqueduct/ArchivoAcueducto.h"
+#include "aqueduct/CoficientesACU.h"
+#include "aqueduct/DatosAcueducto.h"
+#include "aqueduct/LongitudTramosAcu.h"
+
+#include <gtest/gtest.h>
+#include <cmath>
+
+namespace {
+
+const QString Fontaria = QStringLiteral("Proyecto de Fontaria");
+
+struct Pantalla {
+    SesionPrueba sp;
+    DialogosFalsos d;
+    ProyectoAcueducto p;
+    DatosAcueducto datos{p, sp.s, d};
+
+    // T -> A -> B -> C, by section, in metres.
+    explicit Pantalla(uint8_t consumo = 1) {
+        ProyectoAcueducto red = Red({{"T", "A", 100, 0.2, 120, 1.0}, {"A", "B", 80, 0.15, 120, 0.5},
+                                     {"B", "C", 60, 0.1, 120, 0.25}},
+                                    {{"T", 0, 50, 90}, {"A", 0, 40}, {"B", 0, 38}, {"C", 0, 35}}, sp.s);
+        red.OpcionConsumo = consumo;
+        red.C = 0;
+        p = EnArchivo(red, sp);
+        datos.Cargar();
+    }
+};
+
+}  // namespace
+
+TEST(DatosAcueducto, ColoquePantallaLlenaLasTresPaginas) {
+    Pantalla t;
+    EXPECT_EQ(t.datos.Titulo(), "Redes de Acueductos   Proyecto: [ RED.ACU ]");
+    EXPECT_EQ(t.datos.Pagina(), 1);
+    EXPECT_EQ(t.p.C, 100);  // 0 is shown, and taken, as 100
+    EXPECT_EQ(t.datos.Long1(), 100);
+    EXPECT_EQ(t.datos.Long2(), 3);
+    ASSERT_EQ(t.datos.Spread1.Filas(), 3);
+    EXPECT_EQ(t.datos.Spread1.Texto(2, 1), "A");
+    EXPECT_EQ(t.datos.Spread1.Texto(2, 4), "0.150");
+    EXPECT_EQ(t.datos.Spread1.Encabezado(1, 5), "Hansen - William");
+    // By section: page 3 shows the lumped demands, locked: A = 1/2 + 0.5/2.
+    ASSERT_EQ(t.datos.Spread2.Filas(), 4);
+    EXPECT_TRUE(t.datos.Spread2.EstaBloqueada(2, 2));
+    EXPECT_EQ(t.datos.Spread2.Texto(2, 2), "0.750");
+    EXPECT_EQ(t.datos.Spread2.Texto(1, 4), "90.00");
+    EXPECT_EQ(t.datos.Spread2.Texto(2, 4), "");  // not a tank
+    EXPECT_EQ(t.datos.Spread2.Texto(2, 6), "A-T,  A-B");
+    EXPECT_EQ(t.sp.s.DatosModificados, 0);
+
+    Pantalla n(2);
+    EXPECT_FALSE(n.datos.Spread2.EstaBloqueada(2, 2));
+    EXPECT_TRUE(n.datos.EditarNodo(2, 2, "3.5"));
+    EXPECT_EQ(n.p.ConsumoMedio[2], 3.5);
+    EXPECT_EQ(n.sp.s.DatosModificados, -1);
+}
+
+TEST(DatosAcueducto, EdicionDeUnaCeldaRenumeraLosNodos) {
+    Pantalla t;
+    EXPECT_TRUE(t.datos.EditarRamal(3, 2, "  D  "));
+    EXPECT_EQ(t.p.Final[3], "D");
+    EXPECT_EQ(t.datos.Spread1.Texto(3, 2), "D");
+    EXPECT_EQ(t.datos.Spread2.Texto(4, 1), "D");
+    EXPECT_EQ(t.sp.s.DatosModificados, -1);
+    EXPECT_FALSE(t.datos.EditarRamal(1, 3, "no es número"));
+    EXPECT_TRUE(t.datos.EditarRamal(1, 6, "2"));
+    EXPECT_EQ(t.datos.Spread2.Texto(1, 2), "1.000");  // T: half of 2
+    EXPECT_FALSE(t.datos.EditarNodo(2, 2, "4"));      // locked by section demand
+}
+
+TEST(DatosAcueducto, VerificacionDeCeldasVacias) {
+    Pantalla t;
+    t.p.Inicio[2] = " ";
+    EXPECT_TRUE(t.datos.VerifiqueRamales());
+    EXPECT_TRUE(t.d.mensajes.empty());  // a beep and the cell, no message
+    EXPECT_EQ(t.datos.Spread1.FilaActiva(), 2);
+    EXPECT_EQ(t.datos.Spread1.ColumnaActiva(), 1);
+    t.p.Inicio[2] = "A";
+    t.p.Diametro[3] = 0;
+    EXPECT_TRUE(t.datos.VerifiqueRamales());
+    EXPECT_EQ(t.datos.Spread1.FilaActiva(), 3);
+    EXPECT_EQ(t.datos.Spread1.ColumnaActiva(), 4);
+
+    // "Compatibilidad" then asks to correct; "Siguiente" stays on page 2.
+    t.datos.Compatibilidad();
+    EXPECT_EQ(t.d.Ultimo().texto, "¡Corrija el Dato Seleccionado!");
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Datos de los Ramales...");
+    EXPECT_EQ(t.d.Ultimo().titulo, Fontaria);
+    t.datos.Siguiente();
+    t.datos.Siguiente();
+    EXPECT_EQ(t.datos.Pagina(), 2);
+    t.p.Diametro[3] = 0.1;
+    t.datos.Compatibilidad();
+    EXPECT_EQ(t.d.Ultimo().texto, "No Existen Errores en los Tramos...");
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Verificando los Ramales...");
+    t.datos.Siguiente();
+    EXPECT_EQ(t.datos.Pagina(), 3);
+    EXPECT_FALSE(t.datos.Botones().Siguiente);
+    EXPECT_FALSE(t.datos.Botones().Insertar);
+    EXPECT_TRUE(t.datos.Botones().Anterior);
+}
+
+TEST(DatosAcueducto, IslasYBarridosAcotados) {
+    // Two sections apart from the rest: the first of them is named.
+    Pantalla t;
+    t.p.NumeroTramos = 5;
+    t.p.RedimensionarTramos(5);
+    for (int k : {4, 5}) {
+        t.p.Longitud[k] = 10;
+        t.p.Diametro[k] = 0.1;
+    }
+    t.p.Inicio[4] = "X";
+    t.p.Final[4] = "Y";
+    t.p.Inicio[5] = "Y";
+    t.p.Final[5] = "Z";
+    EXPECT_TRUE(t.datos.VerifiqueRamales());
+    EXPECT_EQ(t.d.Ultimo().texto, "Existen Ramales Desconectados en la Red!\nVerifique el Tramo->( X - Y )");
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Verificando la Red...");
+    EXPECT_EQ(t.datos.Spread1.FilaActiva(), 4);
+
+    // A connected chain typed backwards: N0-N1 first, then N9-N10 down to
+    // N1-N2.  Each later sweep reaches one node further; after the one sweep
+    // of pairs and three of nodes, N9-N10 is still unmarked.
+    Pantalla c;
+    c.p.NumeroTramos = 10;
+    c.p.DimensionarTramos(10);
+    c.p.Inicio[1] = "N0";
+    c.p.Final[1] = "N1";
+    for (int k = 2; k <= 10; ++k) {
+        c.p.Inicio[k] = QStringLiteral("N%1").arg(11 - k);
+        c.p.Final[k] = QStringLiteral("N%1").arg(12 - k);
+    }
+    for (int k = 1; k <= 10; ++k) {
+        c.p.Longitud[k] = 10;
+        c.p.Diametro[k] = 0.1;
+    }
+    EXPECT_TRUE(c.datos.VerifiqueRamales());
+    EXPECT_EQ(c.d.Ultimo().texto, "Existen Ramales Desconectados en la Red!\nVerifique el Tramo->( N9 - N10 )");
+    // Typed in order the same chain passes.
+    for (int k = 2; k <= 10; ++k) {
+        c.p.Inicio[k] = QStringLiteral("N%1").arg(k - 1);
+        c.p.Final[k] = QStringLiteral("N%1").arg(k);
+    }
+    EXPECT_FALSE(c.datos.VerifiqueRamales());
+}
+
+TEST(DatosAcueducto, InsertarYEliminarConSusPreguntas) {
+    Pantalla t;
+    t.datos.Spread1.PonerActiva(2, 3);
+    t.d.respuestas = {Respuesta::No};
+    t.datos.Insertar();
+    EXPECT_EQ(t.d.Ultimo().texto, "Insertar un Nuevo Ramal en la Posición: ( 2 )");
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Insertar Ramal en la Red...");
+    EXPECT_EQ(t.p.NumeroTramos, 3);
+
+    t.datos.Insertar();  // the default answer is yes
+    ASSERT_EQ(t.p.NumeroTramos, 4);
+    EXPECT_EQ(t.datos.Long2(), 4);
+    EXPECT_EQ(t.p.Inicio[2], "");
+    EXPECT_EQ(t.p.Inicio[3], "A");
+    EXPECT_EQ(t.p.CoeficienteC[2], 100);  // from the coefficient box
+    EXPECT_EQ(t.datos.Spread1.Texto(4, 0), "4");
+    EXPECT_EQ(t.datos.Spread1.FilaActiva(), 2);
+    EXPECT_EQ(t.datos.Spread1.ColumnaActiva(), 1);
+    EXPECT_EQ(t.sp.s.DatosModificados, -1);
+
+    t.datos.Spread1.PonerActiva(2, 1);
+    t.d.respuestas = {Respuesta::Si};
+    t.datos.Eliminar();
+    EXPECT_EQ(t.d.Ultimo().texto, "El Ramal ( 2 ) Sera Eliminado...\nEsta Ustad Seguro de Eliminar el Ramal?");
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Eliminar el Ramal...");
+    EXPECT_EQ(t.p.NumeroTramos, 3);
+    EXPECT_EQ(t.p.Inicio[2], "A");
+    // The count lands in the coefficient box and in C; the box of sections
+    // still shows the count before the deletion.
+    EXPECT_EQ(t.p.C, 3);
+    EXPECT_EQ(t.datos.Long1(), 3);
+    EXPECT_EQ(t.datos.Long2(), 4);
+    t.datos.ColoquePantalla();
+    EXPECT_EQ(t.datos.Long2(), 3);
+
+    Pantalla vacia;
+    vacia.datos.Spread1.PonerFilas(0);
+    vacia.datos.Eliminar();
+    EXPECT_TRUE(vacia.d.mensajes.empty());
+    EXPECT_EQ(vacia.datos.foco, DatosAcueducto::Foco::Long2);
+}
+
+TEST(DatosAcueducto, LlenadoDeBloques) {
+    Pantalla t;
+    t.datos.LlenarBloque(1, 1, 3, 3, 4);  // two columns: nothing asked
+    EXPECT_TRUE(t.d.preguntas.isEmpty());
+
+    t.d.textos = {QStringLiteral("0.2504")};
+    t.datos.LlenarBloque(1, 1, 2, 4, 4);
+    EXPECT_EQ(t.d.preguntas.last(), "Entre el Nuevo Diámetro:|Diametro de los Tramos|");
+    EXPECT_EQ(t.p.Diametro[1], 0.25);
+    EXPECT_EQ(t.p.Diametro[2], 0.25);
+    EXPECT_EQ(t.p.Diametro[3], 0.1);
+
+    t.d.textos = {QStringLiteral("cien")};
+    t.datos.LlenarBloque(1, 1, 3, 5, 5);
+    EXPECT_EQ(t.d.Ultimo().texto, "¡Debe Entrar un Número!");
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Error en el Número...");
+    t.d.textos = {QStringLiteral("0.0004"), QString(), std::nullopt};  // rounds to 0; empty; cancel
+    for (int k = 0; k < 3; ++k) t.datos.LlenarBloque(1, 1, 3, 5, 5);
+    EXPECT_EQ(t.p.CoeficienteC[1], 120);
+
+    t.d.textos = {QStringLiteral("1.5")};
+    t.datos.LlenarBloque(1, 3, 1, 6, 6);
+    EXPECT_EQ(t.d.preguntas.last(), "Entre el Consumo Medio de los Tramos:|Consumo Medio de los Tramos|");
+    EXPECT_EQ(t.datos.Spread2.Texto(4, 2), "0.750");  // C: half of 1.5, lumped at once
+
+    t.d.textos = {QStringLiteral("99.999")};
+    t.datos.LlenarBloque(2, 1, 4, 3, 3);
+    EXPECT_EQ(t.d.preguntas.last(), "Entre la Cota del Nodo (m):|Cota de los Nodos|");
+    EXPECT_EQ(t.p.CotaTerreno[4], 99.999);
+    const int preguntas = int(t.d.preguntas.size());
+    t.datos.LlenarBloque(2, 1, 4, 2, 2);  // locked by section demand
+    EXPECT_EQ(t.d.preguntas.size(), preguntas);
+}
+
+TEST(DatosAcueducto, CerrarSalvarYAbrir) {
+    Pantalla t;
+    EXPECT_TRUE(t.datos.PuedeCerrar());  // nothing changed, nothing asked
+    EXPECT_TRUE(t.d.mensajes.empty());
+    t.datos.CambiarTexto(DatosAcueducto::Texto::Proyecto, QString(200, QLatin1Char('x')));
+    EXPECT_EQ(t.p.Proyecto.size(), 140);
+    t.d.respuestas = {Respuesta::Cancelar};
+    EXPECT_FALSE(t.datos.PuedeCerrar());
+    EXPECT_EQ(t.d.Ultimo().texto, "Los Datos del Proyecto han sido Modificados...\n¿Desea Salvar los Cambios Realizados?");
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Salvar las Modificaciones...");
+    EXPECT_EQ(t.d.Ultimo().botones, Botones::SiNoCancelar);
+    t.d.respuestas = {Respuesta::Si};
+    EXPECT_TRUE(t.datos.PuedeCerrar());
+    EXPECT_EQ(t.sp.s.DatosModificados, 0);
+    ProyectoAcueducto leido;
+    QString error;
+    ASSERT_TRUE(LeerProyectoACU(leido, t.sp.s, error));
+    EXPECT_EQ(leido.Proyecto, QString(140, QLatin1Char('x')));
+
+    // "Salvar" from the results screen tells it the data were saved.
+    t.sp.s.EdicionDesdeAnalisis = 1;
+    t.datos.Cargar();
+    EXPECT_FALSE(t.datos.Botones().Abrir);
+    EXPECT_FALSE(t.datos.ProyectoSalvado());
+    EXPECT_TRUE(t.datos.Salvar());
+    EXPECT_TRUE(t.datos.ProyectoSalvado());
+
+    // "Abrir" with a file that is not a project keeps the one open.
+    t.sp.s.EdicionDesdeAnalisis = 0;
+    t.d.archivos = {t.sp.ProyectoEnBlanco("casa.plm")};
+    t.datos.Abrir();
+    EXPECT_EQ(t.d.dialogosArchivo.last(), "Abrir un Proyecto Existente|*.ACU|*.acu|" + t.sp.Datos("Redes"));
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Error en Lectura de Datos...");
+    EXPECT_EQ(t.sp.s.NombreProyectoACU, "red.acu");
+    EXPECT_EQ(t.p.NumeroTramos, 3);
+}
+
+TEST(DatosAcueducto, CoeficientesDeHazenWilliams) {
+    Pantalla t;
+    CoficientesACU c(t.datos);
+    ASSERT_EQ(c.Spread1.Filas(), 6);
+    EXPECT_EQ(c.Spread1.Texto(5, 1), "ASBESTO - CEMENTO");
+    c.Aceptar(4);  // ACERO
+    EXPECT_EQ(t.p.C, 120);
+    EXPECT_EQ(t.datos.Long1(), 120);
+    EXPECT_EQ(t.sp.s.DatosModificados, -1);
+}
+
+TEST(LongitudTramosAcu, LongitudDesdeLasCoordenadas) {
+    Pantalla t;
+    t.datos.Spread1.PonerActiva(2, 1);
+    LongitudTramosAcu l(t.datos);
+    EXPECT_EQ(l.Spread1.Texto(1, 2), "A");
+    EXPECT_EQ(l.Spread1.Texto(1, 4), "80.00");
+    EXPECT_EQ(t.datos.Spread1.ColumnaActiva(), 3);
+    EXPECT_EQ(l.TextoLongitud(), "0.00");
+    // 3-4-12 in space: 13.
+    l.CambiarCoordenada(1, 1);
+    l.CambiarCoordenada(4, 4);
+    l.CambiarCoordenada(5, 4);
+    l.CambiarCoordenada(6, 12);
+    EXPECT_DOUBLE_EQ(l.Longitud(), 13.0);
+    EXPECT_EQ(l.TextoLongitud(), "13.00");
+
+    // Z alone: a vertical length; fixed unrounded, as typed in the grid.
+    l.CambiarCoordenada(4, 1);
+    l.CambiarCoordenada(5, 0);
+    l.CambiarCoordenada(6, std::sqrt(2.0));
+    l.FijarLongitud();
+    EXPECT_EQ(t.d.Ultimo().texto, "Longitud = 1.41 m.\nFijar la Longitud del Tramo Seleccionado?");
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Longitud de los Tramos...");
+    EXPECT_EQ(t.p.Longitud[2], std::sqrt(2.0));
+    EXPECT_EQ(t.datos.Spread1.Texto(2, 3), "1.41");
+    EXPECT_EQ(l.Spread1.Texto(1, 4), "1.41");
+    EXPECT_EQ(t.sp.s.DatosModificados, -1);
+
+    l.Limpiar();
+    EXPECT_EQ(t.d.Ultimo().texto, "¡Limpiar los Valores de las Coordenadas!");
+    EXPECT_EQ(t.d.Ultimo().encabezado, "Coordenadas de los Nodos...");
+    EXPECT_EQ(l.TextoLongitud(), "0.00");
+    // A zero length fixed leaves a section the verification refuses.
+    l.FijarLongitud();
+    EXPECT_EQ(t.p.Longitud[2], 0.0);
+    EXPECT_TRUE(t.datos.VerifiqueRamales());
+    EXPECT_EQ(t.datos.Spread1.ColumnaActiva(), 3);
+
+    l.ColoquePantalla(99);  // the scroll bar stops at the last row
+    EXPECT_EQ(l.Scroll(), 3);
+    EXPECT_EQ(l.Spread1.Texto(1, 3), "C");
+}
