@@ -17,6 +17,7 @@
 
 #include <QApplication>
 #include <benchmark/benchmark.h>
+#include <functional>
 
 namespace {
 
@@ -54,9 +55,6 @@ void Teclear(VentanaAnalisisRed& v, int tab, int fila, int columna, const QStrin
     v.Vista(tab)->viewport()->repaint();
 }
 
-// A riser segment half-way up the list.
-int FilaMedia(int n) { return ((n / 2) / 3) * 3 + 1; }
-
 void BM_CargaPantalla(benchmark::State& state) {
     const int n = int(state.range(0));
     Proyecto pr(n, "carga.plm");
@@ -69,41 +67,39 @@ void BM_CargaPantalla(benchmark::State& state) {
     state.counters["ramales"] = n;
 }
 
-void BM_EdicionDiametroPantalla(benchmark::State& state) {
+// The same cell of a riser segment half-way up, typed again and again with
+// two values in turn: each edit writes the file and reruns.
+void Ediciones(benchmark::State& state, const char* archivo, int tab, int columna,
+               const std::function<std::pair<QString, QString>(const QString& original)>& valores) {
     const int n = int(state.range(0));
-    Proyecto pr(n, "diametro.plm");
+    Proyecto pr(n, archivo);
     VentanaAnalisisRed v(pr.p, pr.s, pr.d);
     v.Cargar();
-    Mostrar(v, 1);
-    const int fila = FilaMedia(n);
-    v.Vista(1)->scrollTo(v.Vista(1)->Modelo().index(fila - 1, 6));
-    // Alternately one size up and back: every edit writes the file and
-    // changes the reductions around the segment.
-    const QString original = v.Logica().Spread4.Texto(fila, 7);
-    const QString otro = original == QStringLiteral("12\"") ? QStringLiteral("10\"") : QStringLiteral("12\"");
-    bool alterno = false;
+    Mostrar(v, tab);
+    const int fila = ((n / 2) / 3) * 3 + 1;
+    VistaGrid* vista = v.Vista(tab);
+    vista->scrollTo(vista->Modelo().index(fila - 1, columna - 1));
+    const auto [a, b] = valores(vista->grid()->Texto(fila, columna));
+    QString ultimo = a;
     for (auto _ : state) {
-        Teclear(v, 1, fila, 7, alterno ? original : otro);
-        alterno = !alterno;
+        ultimo = ultimo == a ? b : a;
+        Teclear(v, tab, fila, columna, ultimo);
     }
-    if (v.Logica().Spread4.Texto(fila, 7) != original && v.Logica().Spread4.Texto(fila, 7) != otro)
-        state.SkipWithError("la edición no llegó a la rejilla");
+    if (vista->grid()->Texto(fila, columna) != ultimo) state.SkipWithError("la edición no llegó a la rejilla");
     state.counters["ramales"] = n;
 }
 
+// One size up and back: the reductions around the segment change too.
+void BM_EdicionDiametroPantalla(benchmark::State& state) {
+    Ediciones(state, "diametro.plm", 1, 7, [](const QString& original) {
+        return std::make_pair(original, original == QStringLiteral("12\"") ? QStringLiteral("10\"") : QStringLiteral("12\""));
+    });
+}
+
 void BM_EdicionValvulaPantalla(benchmark::State& state) {
-    const int n = int(state.range(0));
-    Proyecto pr(n, "valvula.plm");
-    VentanaAnalisisRed v(pr.p, pr.s, pr.d);
-    v.Cargar();
-    Mostrar(v, 4);
-    const int fila = FilaMedia(n);
-    bool alterno = false;
-    for (auto _ : state) {
-        Teclear(v, 4, fila, 14, alterno ? QStringLiteral("0") : QStringLiteral("2"));
-        alterno = !alterno;
-    }
-    state.counters["ramales"] = n;
+    Ediciones(state, "valvula.plm", 4, 14, [](const QString&) {
+        return std::make_pair(QStringLiteral("0.50"), QStringLiteral("2.00"));
+    });
 }
 
 }  // namespace

@@ -6,12 +6,19 @@
 #include <QPushButton>
 #include <QScreen>
 
-QPushButton* BotonNivo(const QString& nombre, const QString& texto, QWidget* padre, const QIcon& icono) {
-    auto* b = new QPushButton(icono, texto, padre);
+QPushButton* BotonNivo(const QString& nombre, const QString& texto, QWidget* padre,
+                       std::optional<QStyle::StandardPixmap> icono, const QString& tip) {
+    auto* b = new QPushButton(texto, padre);
+    if (icono) b->setIcon(b->style()->standardIcon(*icono));
     b->setObjectName(nombre);
+    b->setToolTip(tip);
     b->setAutoDefault(false);
     b->setDefault(false);
     return b;
+}
+
+QPushButton* BotonRetorno(QWidget* padre) {
+    return BotonNivo(QStringLiteral("Retorno"), QStringLiteral("Retorno"), padre, QStyle::SP_DialogCloseButton);
 }
 
 void DimensionarVentana(QWidget* w, int porcientoAncho, int porcientoAlto) {

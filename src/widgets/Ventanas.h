@@ -6,8 +6,9 @@
 #include "base/ErrorEjecucion.h"
 #include "shell/ErrorCalculo.h"
 
-#include <QIcon>
 #include <QString>
+#include <QStyle>
+#include <optional>
 
 class QDialog;
 class QLayout;
@@ -15,9 +16,13 @@ class QPushButton;
 class QWidget;
 class Dialogos;
 
-// A button of a screen, known by its control name.  It never takes Enter
-// for itself: Enter belongs to the grids and the number boxes.
-QPushButton* BotonNivo(const QString& nombre, const QString& texto, QWidget* padre, const QIcon& icono = QIcon());
+// A button of a screen, known by its control name, with the style's icon
+// and a tip.  It never takes Enter for itself: Enter belongs to the grids
+// and the number boxes.
+QPushButton* BotonNivo(const QString& nombre, const QString& texto, QWidget* padre,
+                       std::optional<QStyle::StandardPixmap> icono = std::nullopt, const QString& tip = QString());
+// "Retorno", which closes a screen.
+QPushButton* BotonRetorno(QWidget* padre);
 
 // The first size of a screen, a share of the available screen, centred.
 void DimensionarVentana(QWidget* w, int porcientoAncho, int porcientoAlto);

@@ -91,7 +91,6 @@ QWidget* VentanaAnalisisRed::Botonera() {
     capa->addWidget(frame3_);
     capa->addStretch(1);
 
-    QStyle* st = style();
     const struct {
         const char* nombre;
         const char* texto;
@@ -107,7 +106,7 @@ QWidget* VentanaAnalisisRed::Botonera() {
         {"LSButton1", "Retorno", QStyle::SP_DialogCloseButton},
     };
     for (const auto& b : botones)
-        capa->addWidget(BotonNivo(QString::fromLatin1(b.nombre), QString::fromUtf8(b.texto), pie, st->standardIcon(b.icono)));
+        capa->addWidget(BotonNivo(QString::fromLatin1(b.nombre), QString::fromUtf8(b.texto), pie, b.icono));
 
     // The screens of the comment, the listing, the reports, the workbook and
     // the branch editor are still to come.

@@ -47,14 +47,12 @@ VentanaComputos::VentanaComputos(ProyectoEdificio& p, Sesion& s, Dialogos& d, bo
     });
 
     auto* pie = new QHBoxLayout;
-    QStyle* st = style();
-    auto* abrir = BotonNivo(QStringLiteral("Abrir"), QStringLiteral("Abrir"), this, st->standardIcon(QStyle::SP_DialogOpenButton));
-    abrir->setToolTip(QStringLiteral("Abrir un proyecto existente. "));
-    auto* imprimir = BotonNivo(QStringLiteral("Imprimir"), QStringLiteral("Imprimir"), this, st->standardIcon(QStyle::SP_FileIcon));
+    auto* abrir = BotonNivo(QStringLiteral("Abrir"), QStringLiteral("Abrir"), this, QStyle::SP_DialogOpenButton,
+                            QStringLiteral("Abrir un proyecto existente. "));
+    auto* imprimir = BotonNivo(QStringLiteral("Imprimir"), QStringLiteral("Imprimir"), this, QStyle::SP_FileIcon);
     // The printing screen is still to come.
     imprimir->setEnabled(false);
-    auto* retorno =
-        BotonNivo(QStringLiteral("Retorno"), QStringLiteral("Retorno"), this, st->standardIcon(QStyle::SP_DialogCloseButton));
+    auto* retorno = BotonRetorno(this);
     pie->addWidget(abrir);
     pie->addStretch(1);
     pie->addWidget(imprimir);

@@ -40,14 +40,11 @@ Hidroneumatico::Hidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWid
     capa->addWidget(Sistema());
 
     auto* pie = new QHBoxLayout;
-    QStyle* st = style();
-    auto* abrir = BotonNivo(QStringLiteral("Abrir"), QStringLiteral("Abrir"), this, st->standardIcon(QStyle::SP_DialogOpenButton));
-    abrir->setToolTip(QStringLiteral("Abrir un proyecto existente. "));
-    auto* calcular =
-        BotonNivo(QStringLiteral("Calcular"), QStringLiteral("Calcular"), this, st->standardIcon(QStyle::SP_DialogApplyButton));
-    calcular->setToolTip(QStringLiteral("Calcular el tanque hidroneumático. "));
-    auto* retorno =
-        BotonNivo(QStringLiteral("Retorno"), QStringLiteral("Retorno"), this, st->standardIcon(QStyle::SP_DialogCloseButton));
+    auto* abrir = BotonNivo(QStringLiteral("Abrir"), QStringLiteral("Abrir"), this, QStyle::SP_DialogOpenButton,
+                            QStringLiteral("Abrir un proyecto existente. "));
+    auto* calcular = BotonNivo(QStringLiteral("Calcular"), QStringLiteral("Calcular"), this, QStyle::SP_DialogApplyButton,
+                               QStringLiteral("Calcular el tanque hidroneumático. "));
+    auto* retorno = BotonRetorno(this);
     pie->addWidget(abrir);
     pie->addStretch(1);
     pie->addWidget(calcular);
@@ -107,8 +104,8 @@ QWidget* Hidroneumatico::Metodos() {
     capa->addWidget(piezas_, 2, 1);
     capa->addWidget(new QLabel(QStringLiteral("Factor Peerlees:"), marco), 2, 2, Qt::AlignRight);
     capa->addWidget(NuevaCaja(QStringLiteral("FactorPeerlees"), 2, &t.FactorPeerlees, marco), 2, 3);
-    auto* tabla = BotonNivo(QStringLiteral("Peerless"), QStringLiteral("Tabla de Peerles"), marco);
-    tabla->setToolTip(QStringLiteral("Tabla de factores de consumo \nrecomendado por Peerless)"));
+    auto* tabla = BotonNivo(QStringLiteral("Peerless"), QStringLiteral("Tabla de Peerles"), marco, std::nullopt,
+                            QStringLiteral("Tabla de factores de consumo \nrecomendado por Peerless)"));
     capa->addWidget(tabla, 2, 4);
     connect(tabla, &QPushButton::clicked, this, &Hidroneumatico::TablaPeerless);
 

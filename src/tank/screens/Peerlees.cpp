@@ -29,10 +29,8 @@ Peerlees::Peerlees(Sesion& s, Dialogos& d, QWidget* padre) : QDialog(padre), d_(
 
     auto* pie = new QHBoxLayout;
     auto* capturar = BotonNivo(QStringLiteral("Capturar"), QStringLiteral("Capturar Factor Consumo"), this,
-                               style()->standardIcon(QStyle::SP_DialogApplyButton));
-    capturar->setToolTip(QStringLiteral(" Captura el Factor de Peerlees Seleccionado "));
-    auto* retorno = BotonNivo(QStringLiteral("Retorno"), QStringLiteral("Retorno"), this,
-                              style()->standardIcon(QStyle::SP_DialogCloseButton));
+                               QStyle::SP_DialogApplyButton, QStringLiteral(" Captura el Factor de Peerlees Seleccionado "));
+    auto* retorno = BotonRetorno(this);
     pie->addStretch(1);
     pie->addWidget(capturar);
     pie->addWidget(retorno);

@@ -96,13 +96,11 @@ ResultadosHidro::ResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* p
     capa->addLayout(cuerpo, 1);
 
     auto* pie = new QHBoxLayout;
-    auto* imprimir = BotonNivo(QStringLiteral("Imprimir"), QStringLiteral("Imprimir"), this,
-                               style()->standardIcon(QStyle::SP_FileIcon));
-    imprimir->setToolTip(QStringLiteral("Imprimir los resultados del tanque hidroneumático. "));
+    auto* imprimir = BotonNivo(QStringLiteral("Imprimir"), QStringLiteral("Imprimir"), this, QStyle::SP_FileIcon,
+                               QStringLiteral("Imprimir los resultados del tanque hidroneumático. "));
     // The report dialog is still to come.
     imprimir->setEnabled(false);
-    auto* retorno = BotonNivo(QStringLiteral("Retorno"), QStringLiteral("Retorno"), this,
-                              style()->standardIcon(QStyle::SP_DialogCloseButton));
+    auto* retorno = BotonRetorno(this);
     connect(retorno, &QPushButton::clicked, this, &QDialog::accept);
     pie->addStretch(1);
     pie->addWidget(imprimir);
