@@ -10,7 +10,6 @@
 #include <QStyle>
 #include <optional>
 
-class QDialog;
 class QLayout;
 class QPushButton;
 class QWidget;

@@ -46,7 +46,7 @@ TEST_F(Escritorio, LasHerramientasDeResultadosEstanActivas) {
     EXPECT_TRUE(Activa("ID_M2_AnalisisRed"));
     EXPECT_TRUE(Activa("ID_M2_TanqueH"));
     EXPECT_TRUE(Activa("ID_M2_Computos"));
-    // Screens of other issues stay disabled.
+    // Tools of screens still to come stay disabled.
     EXPECT_FALSE(Activa("ID_M1_Modificar"));
     EXPECT_FALSE(Activa("ID_M3_Piezas"));
 }
