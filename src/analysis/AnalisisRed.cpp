@@ -107,6 +107,9 @@ void AnalisisRed::ConfigurarSpread() {
     Grupo(Spread4, 7, QStringLiteral("Predimensionado Asumido"),
           {QStringLiteral("Diámetro (plg)"), QStringLiteral("Velocidad (m/s)")});
     Spread4.PonerEncabezados(9, QStringLiteral("Comentario"));
+    // Widths that keep each header within its lines.
+    Spread4.Col(4).ancho = 12;
+    for (int c = 5; c <= 8; ++c) Spread4.Col(c).ancho = 12;
     Spread4.Col(7).lista = ListaDiametros();
     Spread4.Col(7).bloqueada = false;
     Spread4.Col(9).ancho = 30;
@@ -120,6 +123,7 @@ void AnalisisRed::ConfigurarSpread() {
     Spread1.PonerEncabezados(8, QStringLiteral("Gasto\nProbable (l/s)"));
     Spread1.PonerEncabezados(9, ramal);
     Spread1.Col(3).ancho = 30;
+    Spread1.Col(8).ancho = 12;
 
     Columnas(Spread2, {{T, 0}, {T, 0}, {T, 0}, {T, 0}, {E, 0}, {N, 2}, {N, 2}, {N, 2}, {E, 0}});
     Grupo(Spread2, 1, ramal, {nodoI, nodoJ});
@@ -144,6 +148,7 @@ void AnalisisRed::ConfigurarSpread() {
     Spread3.PonerEncabezados(13, QStringLiteral("Diferencia de\nCota (J - I)"));
     Spread3.PonerEncabezados(14, QStringLiteral("Válvula\nReductora (m)"));
     Spread3.PonerEncabezados(15, QStringLiteral("Presion (m)\nen el Nodo J"));
+    for (int c : {3, 6, 13, 14, 15}) Spread3.Col(c).ancho = 12;
     Spread3.Col(14).bloqueada = false;
     Spread3.Col(14).minimo = 0.0;
 }

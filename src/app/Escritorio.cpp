@@ -1,5 +1,6 @@
 #include "app/Escritorio.h"
 
+#include "analysis/Numeracion.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
 #include "shell/screens/DialogosQt.h"
@@ -25,6 +26,7 @@ int EjecutarEscritorio(int argc, char** argv) {
     DialogosQt d;
     PantallasEscritorio pantallas(s, p, d);
     VentanaPrincipal ventana(s, p, d, pantallas);
+    ventana.Logica().VerificarNumeracion = [&p, &d] { VerificarNumeracion(p, d); };
     pantallas.PonerVentana(&ventana);
     ventana.Arrancar();
     ventana.showMaximized();

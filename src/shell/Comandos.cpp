@@ -94,6 +94,8 @@ void MenuPrincipal::TanqueHidroneumatico() {
     // with what the model holds.
     if (!Trim(s_.NombreProyecto).isEmpty() && !CargarProyecto()) return;
     MostrarSiHay(Pantalla::Hidroneumatico);
+    // The screen may have opened another project.
+    TituloEdificio();
 }
 
 bool MenuPrincipal::CargarConProyecto() {
@@ -106,6 +108,7 @@ void MenuPrincipal::MostrarResultado(Pantalla p) {
     Ocupado(true);
     MostrarSiHay(p);
     s_.ConexionProyecto.Cerrar();
+    TituloEdificio();
     Ocupado(false);
 }
 

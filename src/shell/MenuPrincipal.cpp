@@ -2,10 +2,10 @@
 
 #include "base/Dialogos.h"
 #include "base/ErrorEjecucion.h"
+#include "shell/ErrorCalculo.h"
 #include "shell/Herramientas.h"
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
-
 
 MenuPrincipal::MenuPrincipal(Sesion& s, ProyectoEdificio& p, Dialogos& d, Pantallas& pantallas)
     : s_(s), p_(p), d_(d), pantallas_(pantallas) {
@@ -116,10 +116,7 @@ bool MenuPrincipal::Ejecutar(const QString& id) {
         }
     } catch (const ErrorEjecucion& e) {
         Ocupado(false);
-        d_.MostrarMensaje(QStringLiteral("Error ") + QString::number(e.numero()) + QStringLiteral(": ") +
-                              e.descripcion() +
-                              (e.detalle().isEmpty() ? QString() : QStringLiteral("\n") + e.detalle()),
-                          QStringLiteral("Error en el Cálculo..."), TituloProyectoFontaria());
+        MostrarErrorCalculo(d_, e);
     }
     return true;
 }

@@ -26,6 +26,7 @@ void Configurar(Grid& g, const QString& descripcion, const QString& cantidad, in
     g.Col(1).ancho = 45;
     g.Col(2).tipo = decimales == 0 ? TipoCelda::Entero : TipoCelda::Numero;
     g.Col(2).decimales = decimales;
+    g.Col(2).ancho = 14;
 }
 
 // Appends a row (text, number) to a grid.

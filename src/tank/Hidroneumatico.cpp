@@ -100,7 +100,15 @@ bool PantallaHidroneumatico::Abrir() {
     d_.CursorOcupado(true);
     Datos = DatosTanque();
     Datos.Porcentaje = Datos.Arranques = Datos.Succion = 0.0;
-    PrellenarDesdeProyecto(Datos, p_, s_, d_);
+    try {
+        PrellenarDesdeProyecto(Datos, p_, s_, d_);
+    } catch (const ErrorEjecucion&) {
+        // The new project stands: its boxes get their defaults and the
+        // pointer comes back before the fault is shown.
+        ValoresPorDefectoTanque(Datos);
+        d_.CursorOcupado(false);
+        throw;
+    }
     ValoresPorDefectoTanque(Datos);
     d_.CursorOcupado(false);
     return true;
@@ -155,6 +163,7 @@ Grid TablaPeerlees() {
         g.PonerEncabezados(c, QString::fromUtf8(rangos[c - 1]));
         g.Col(c).tipo = TipoCelda::Numero;
         g.Col(c).decimales = 2;
+        g.Col(c).ancho = 11;
     }
     g.Col(0).ancho = 40;
     g.PonerFilas(6);

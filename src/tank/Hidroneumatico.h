@@ -73,6 +73,8 @@ public:
     // Load: the pre-filling when a project is chosen, then the defaults.
     void Cargar();
     // "Abrir": another project; a cancel or a refused file changes nothing.
+    // A fault of the pre-filling leaves the new project loaded with the
+    // defaults in the boxes, and passes on as ErrorEjecucion.
     bool Abrir();
     HabilitacionTanque Habilitacion() const { return HabilitacionMetodo(Datos.NumeroMetodo); }
     // The factor captured from the Peerless table goes into its box.

@@ -134,19 +134,30 @@ EncabezadoDoble::EncabezadoDoble(QWidget* padre) : QHeaderView(Qt::Horizontal, p
 
 int EncabezadoDoble::AltoFila(int fila) const {
     int lineas = 1;
+    auto medir = [&](int ancho, const QString& texto) {
+        const QRect r = fontMetrics().boundingRect(QRect(0, 0, std::max(10, ancho - 6), 10000),
+                                                   Qt::AlignCenter | Qt::TextWordWrap, texto);
+        lineas = std::max(lineas, (r.height() + fontMetrics().height() - 1) / fontMetrics().height());
+    };
     auto* m = qobject_cast<ModeloGrid*>(model());
     if (m && m->grid()) {
         const Grid& g = *m->grid();
         for (int c = 1; c <= g.Columnas(); ++c) {
             if (isSectionHidden(c - 1)) continue;
-            // Texts of a joined cell have their width and height elsewhere.
+            // A joined cell is measured once, over its columns, below.
             bool unida = false;
             for (const Union& u : g.UnionesEncabezado())
                 unida = unida || (u.columna <= c && c < u.columna + u.columnas && u.fila <= fila && fila < u.fila + u.filas);
-            if (unida) continue;
-            const QRect r = fontMetrics().boundingRect(QRect(0, 0, std::max(10, sectionSize(c - 1) - 6), 10000),
-                                                       Qt::AlignCenter | Qt::TextWordWrap, g.Encabezado(fila, c));
-            lineas = std::max(lineas, (r.height() + fontMetrics().height() - 1) / fontMetrics().height());
+            if (!unida) medir(sectionSize(c - 1), g.Encabezado(fila, c));
+        }
+        // A group over the columns of one row; a cell over both rows has
+        // the height of the two.
+        for (const Union& u : g.UnionesEncabezado()) {
+            if (u.fila != fila || u.filas != 1) continue;
+            int ancho = 0;
+            for (int c = u.columna; c < u.columna + u.columnas && c <= g.Columnas(); ++c)
+                if (c >= 1 && !isSectionHidden(c - 1)) ancho += sectionSize(c - 1);
+            if (ancho > 0) medir(ancho, g.Encabezado(fila, u.columna));
         }
     }
     return std::min(lineas, 3) * fontMetrics().height() + 6;

@@ -166,3 +166,28 @@ TEST(Tanque, AbrirOtroProyecto) {
     EXPECT_EQ(pantalla.Datos.NumeroPiezas, 16);  // one sub-branch row per apartment
     EXPECT_EQ(d.ocupado, 0);
 }
+
+TEST(Tanque, UnaFallaAlAbrirDejaElProyectoNuevoConLosValoresPorDefecto) {
+    SesionPrueba sp;
+    DialogosFalsos d;
+    ProyectoEdificio p;
+    PantallaHidroneumatico pantalla(p, sp.s, d);
+    // The sample computes its losses by Hazen-Williams: a C of 0 divides by zero.
+    const QString ruta = sp.CopiaDeEjemplo(QStringLiteral("Edificio_MontantePH.nivo"), QStringLiteral("ph.plm"));
+    {
+        Conexion c;
+        ASSERT_TRUE(c.Abrir(ruta));
+        ASSERT_TRUE(c.Ejecutar(QStringLiteral("UPDATE DatosGenerales SET CoeficienteC=0")));
+    }
+    d.archivos = {ruta};
+    try {
+        pantalla.Abrir();
+        FAIL() << "sin falla";
+    } catch (const ErrorEjecucion& e) {
+        EXPECT_EQ(e.numero(), Error::DivisionPorCero);
+    }
+    EXPECT_EQ(sp.s.NombreProyecto, QStringLiteral("ph.plm"));
+    EXPECT_EQ(pantalla.Datos.Porcentaje, 50.0);
+    EXPECT_EQ(pantalla.Datos.Arranques, 6.0);
+    EXPECT_EQ(d.ocupado, 0);
+}

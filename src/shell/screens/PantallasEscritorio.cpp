@@ -1,17 +1,46 @@
 #include "shell/screens/PantallasEscritorio.h"
 
+#include "analysis/screens/AnalisisRed.h"
 #include "shell/screens/ConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/Sobre.h"
+#include "takeoff/screens/Computos.h"
+#include "tank/screens/Hidroneumatico.h"
 
 bool PantallasEscritorio::Disponible(Pantalla p) const {
-    return p == Pantalla::ConfigurarPrograma || p == Pantalla::Sobre;
+    switch (p) {
+    case Pantalla::AnalisisRed:
+    case Pantalla::Hidroneumatico:
+    case Pantalla::Computos:
+    case Pantalla::ConfigurarPrograma:
+    case Pantalla::Sobre:
+        return true;
+    default:
+        return false;
+    }
 }
 
 void PantallasEscritorio::Mostrar(Pantalla p) {
     // The screen waits for the engineer with the ordinary pointer.
     PunteroEnPausa pausa;
     switch (p) {
+    case Pantalla::AnalisisRed: {
+        VentanaAnalisisRed pantalla(p_, s_, d_, ventana_);
+        if (pantalla.Cargar()) pantalla.exec();
+        break;
+    }
+    case Pantalla::Hidroneumatico: {
+        Hidroneumatico pantalla(p_, s_, d_, ventana_);
+        // A fault in the pre-filling has been shown; the boxes can be typed.
+        pantalla.Cargar();
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::Computos: {
+        VentanaComputos pantalla(p_, s_, d_, false, ventana_);
+        if (pantalla.Cargar()) pantalla.exec();
+        break;
+    }
     case Pantalla::ConfigurarPrograma: {
         ConfigurarPrograma pantalla(s_, d_, ventana_);
         pantalla.exec();
@@ -25,5 +54,4 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     default:
         break;
     }
-    (void)p_;
 }

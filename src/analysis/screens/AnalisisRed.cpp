@@ -1,0 +1,187 @@
+#include "analysis/screens/AnalisisRed.h"
+
+#include "shell/Sesion.h"
+#include "widgets/NivoNumero.h"
+#include "widgets/NivoTab.h"
+#include "widgets/NivoToolTip.h"
+#include "widgets/Ventanas.h"
+#include "widgets/VistaGrid.h"
+
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QVBoxLayout>
+
+VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre)
+    : QDialog(padre), s_(s), d_(d), logica_(p, s, d) {
+    setObjectName(QStringLiteral("AnalisisRed"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    setSizeGripEnabled(true);
+    tip_ = new NivoToolTip(this);
+
+    auto* capa = new QVBoxLayout(this);
+    tab_ = new NivoTab(this);
+    tab_->setObjectName(QStringLiteral("Tab1"));
+    for (int t = 1; t <= 4; ++t) tab_->addTab(QStringLiteral("  ") + AnalisisRed::TituloPestana(t) + QStringLiteral("  "));
+    capa->addWidget(tab_);
+
+    pila_ = new QStackedWidget(this);
+    Grid* grids[4] = {&logica_.Spread4, &logica_.Spread1, &logica_.Spread2, &logica_.Spread3};
+    const char* nombres[4] = {"Spread4", "Spread1", "Spread2", "Spread3"};
+    for (int t = 0; t < 4; ++t) {
+        vistas_[t] = new VistaGrid(pila_);
+        vistas_[t]->setObjectName(QString::fromLatin1(nombres[t]));
+        vistas_[t]->MostrarGrid(grids[t]);
+        pila_->addWidget(vistas_[t]);
+    }
+    // The comment column takes the width left over.
+    vistas_[0]->horizontalHeader()->setStretchLastSection(true);
+    capa->addWidget(pila_, 1);
+    capa->addWidget(Botonera());
+
+    connect(tab_, &QTabBar::currentChanged, this, [this](int i) { CambiarTab(i + 1); });
+    vistas_[0]->AlEditar([this](int f, int c, const QString& t) { EditarSpread4(f, c, t); });
+    vistas_[3]->AlEditar([this](int f, int c, const QString& t) { EditarSpread3(f, c, t); });
+
+    for (const AyudaControl& a : AnalisisRed::AyudasControles())
+        if (QPushButton* b = Boton(a.control)) b->setToolTip(a.texto);
+    ConfigurarToolTips(this, tip_, s_.Tapiz);
+    // The tips with a title of their own.
+    for (const AyudaControl& a : AnalisisRed::AyudasControles())
+        if (!a.titulo.isEmpty()) tip_->Registrar(Boton(a.control), a.texto, a.titulo);
+
+    DimensionarVentana(this, 92, 86);
+}
+
+VentanaAnalisisRed::~VentanaAnalisisRed() {
+    for (VistaGrid* v : vistas_) v->MostrarGrid(nullptr);
+}
+
+QWidget* VentanaAnalisisRed::Botonera() {
+    auto* pie = new QWidget(this);
+    auto* capa = new QHBoxLayout(pie);
+    capa->setContentsMargins(0, 0, 0, 0);
+
+    auto* etiqueta = new QLabel(QStringLiteral("Número de Ramales:"), pie);
+    panel_ = new QLabel(pie);
+    panel_->setObjectName(QStringLiteral("SSPanel1"));
+    panel_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    panel_->setAlignment(Qt::AlignCenter);
+    panel_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 12);
+    capa->addWidget(etiqueta);
+    capa->addWidget(panel_, 0, Qt::AlignVCenter);
+
+    frame3_ = new QGroupBox(QStringLiteral("Altura del Tanque Elevado (m)"), pie);
+    frame3_->setObjectName(QStringLiteral("Frame3"));
+    auto* marco = new QHBoxLayout(frame3_);
+    marco->setContentsMargins(6, 2, 6, 4);
+    double1_ = new NivoDouble(frame3_);
+    double1_->setObjectName(QStringLiteral("Double1"));
+    double1_->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("00000.00")) + 16);
+    auto* b6 = BotonNivo(QStringLiteral("LSButton6"), QStringLiteral("Actualizar"), frame3_);
+    auto* b7 = BotonNivo(QStringLiteral("LSButton7"), QStringLiteral("Altura Inicial"), frame3_);
+    marco->addWidget(double1_);
+    marco->addWidget(b6);
+    marco->addWidget(b7);
+    capa->addSpacing(12);
+    capa->addWidget(frame3_);
+    capa->addStretch(1);
+
+    const struct {
+        const char* nombre;
+        const char* texto;
+        QStyle::StandardPixmap icono;
+    } botones[] = {
+        {"LSButton5", "Abrir", QStyle::SP_DialogOpenButton},
+        {"LSButton11", "Editar Red", QStyle::SP_FileDialogDetailedView},
+        {"LSButton2", "Igualar Diámetros", QStyle::SP_BrowserReload},
+        {"LSButton9", "Comentario", QStyle::SP_FileDialogInfoView},
+        {"LSButton8", "Listado", QStyle::SP_FileDialogListView},
+        {"LSButton3", "Imprimir", QStyle::SP_FileIcon},
+        {"LSButton4", "Excel", QStyle::SP_DialogSaveButton},
+        {"LSButton1", "Retorno", QStyle::SP_DialogCloseButton},
+    };
+    for (const auto& b : botones)
+        capa->addWidget(BotonNivo(QString::fromLatin1(b.nombre), QString::fromUtf8(b.texto), pie, b.icono));
+
+    // The screens of the comment, the listing, the reports, the workbook and
+    // the branch editor are still to come.
+    for (const char* n : {"LSButton3", "LSButton4", "LSButton8", "LSButton9", "LSButton11"})
+        Boton(QString::fromLatin1(n))->setEnabled(false);
+
+    connect(double1_, &NivoNumero::ValorCambiado, this, [this](double v) { logica_.Double1 = v; });
+    connect(double1_, &NivoNumero::Enter, b6, &QPushButton::click);
+    connect(b6, &QPushButton::clicked, this, [this] {
+        logica_.Double1 = double1_->Valor();
+        Evento([this] { logica_.LSButton6_Click(); }, {4, tab_->Tab()});
+    });
+    connect(b7, &QPushButton::clicked, this, [this] { Evento([this] { logica_.LSButton7_Click(); }, {4}); });
+    connect(Boton(QStringLiteral("LSButton2")), &QPushButton::clicked, this, [this] {
+        Evento([this] { logica_.LSButton2_Click(); }, {1, 3, 4});
+    });
+    connect(Boton(QStringLiteral("LSButton5")), &QPushButton::clicked, this, [this] {
+        Evento(
+            [this] {
+                CursorEspera espera;
+                logica_.LSButton5_Click();
+            },
+            {1, 2, 3, 4});
+    });
+    connect(Boton(QStringLiteral("LSButton1")), &QPushButton::clicked, this, &QDialog::accept);
+    return pie;
+}
+
+QPushButton* VentanaAnalisisRed::Boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
+
+bool VentanaAnalisisRed::Cargar() {
+    const bool bien = SinFallaDeCalculo(d_, [this] {
+        CursorEspera espera;
+        logica_.Cargar();
+    });
+    if (!bien) return false;
+    for (VistaGrid* v : vistas_) v->Refrescar();
+    tab_->PonerTab(logica_.Tab);
+    pila_->setCurrentIndex(logica_.Tab - 1);
+    MostrarEstado();
+    return true;
+}
+
+void VentanaAnalisisRed::MostrarEstado() {
+    setWindowTitle(logica_.Caption);
+    panel_->setText(logica_.SSPanel1);
+    frame3_->setVisible(logica_.Frame3Visible);
+    double1_->PonerValor(logica_.Double1);
+    Boton(QStringLiteral("LSButton2"))->setEnabled(logica_.LSButton2Disponible());
+}
+
+void VentanaAnalisisRed::CambiarTab(int tab) {
+    logica_.CambiarTab(tab);
+    pila_->setCurrentIndex(logica_.Tab - 1);
+    MostrarEstado();
+}
+
+void VentanaAnalisisRed::Evento(const std::function<void()>& f, std::initializer_list<int> tabs) {
+    if (!SinFallaDeCalculo(d_, f)) {
+        reject();
+        return;
+    }
+    for (int t : tabs) vistas_[t - 1]->Refrescar();
+    MostrarEstado();
+}
+
+void VentanaAnalisisRed::EditarSpread4(int fila, int columna, const QString& texto) {
+    if (columna != 7) return;
+    // Flows and the units of tab 2 stay: tabs 1, 3 and 4 change.
+    Evento([&] { logica_.EditarDiametroAsumido(fila, texto); }, {1, 3, 4});
+}
+
+void VentanaAnalisisRed::EditarSpread3(int fila, int columna, const QString& texto) {
+    if (columna != 14) return;
+    Evento([&] { logica_.EditarValvulaReductora(fila, texto); }, {4});
+    // The edited row stays in sight.
+    vistas_[3]->MostrarActiva();
+}

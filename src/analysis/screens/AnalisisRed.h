@@ -1,0 +1,65 @@
+#pragma once
+// The analysis screen "Resultado del Análisis": the four tabs of grids of the
+// analysis logic (AnalisisRed), the frame of the elevated tank's height, the
+// panel with the number of branches and the buttons.  Each edit and click
+// goes to the logic; the grids it changed are drawn again.
+
+#include "analysis/AnalisisRed.h"
+
+#include <QDialog>
+#include <functional>
+#include <initializer_list>
+
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+class NivoDouble;
+class NivoTab;
+class NivoToolTip;
+class VistaGrid;
+
+class VentanaAnalisisRed : public QDialog {
+    Q_OBJECT
+public:
+    VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre = nullptr);
+    // The views let go of the grids before the logic that owns them goes.
+    ~VentanaAnalisisRed() override;
+
+    // The load: caption, grids and the chain.  False when a fault of the
+    // calculation was shown: the screen is then not to be shown.
+    bool Cargar();
+
+    AnalisisRed& Logica() { return logica_; }
+    NivoTab* Tabs() const { return tab_; }
+    // The grid view of tab 1..4 (Spread4, Spread1, Spread2, Spread3).
+    VistaGrid* Vista(int tab) const { return vistas_[tab - 1]; }
+    NivoDouble* Double1() const { return double1_; }
+    QGroupBox* Frame3() const { return frame3_; }
+    QLabel* SSPanel1() const { return panel_; }
+    NivoToolTip* Tip() const { return tip_; }
+    // A button by its control name ("LSButton1" ...).
+    QPushButton* Boton(const QString& nombre) const;
+
+private:
+    QWidget* Botonera();
+    void CambiarTab(int tab);
+    void EditarSpread4(int fila, int columna, const QString& texto);
+    void EditarSpread3(int fila, int columna, const QString& texto);
+    // Runs an event of the logic and draws the grids of the tabs given; a
+    // fault of the calculation is shown and the screen closes.
+    void Evento(const std::function<void()>& f, std::initializer_list<int> tabs);
+    // Draws what the logic holds besides the grids.
+    void MostrarEstado();
+
+    Sesion& s_;
+    Dialogos& d_;
+    AnalisisRed logica_;
+    NivoTab* tab_;
+    QStackedWidget* pila_;
+    VistaGrid* vistas_[4];
+    QGroupBox* frame3_;
+    NivoDouble* double1_;
+    QLabel* panel_;
+    NivoToolTip* tip_;
+};

@@ -1,0 +1,11 @@
+#include "shell/ErrorCalculo.h"
+
+#include "base/Dialogos.h"
+#include "base/ErrorEjecucion.h"
+#include "shell/Titulos.h"
+
+void MostrarErrorCalculo(Dialogos& d, const ErrorEjecucion& e) {
+    d.MostrarMensaje(QStringLiteral("Error ") + QString::number(e.numero()) + QStringLiteral(": ") + e.descripcion() +
+                         (e.detalle().isEmpty() ? QString() : QStringLiteral("\n") + e.detalle()),
+                     QStringLiteral("Error en el Cálculo..."), TituloProyectoFontaria());
+}

@@ -1,0 +1,37 @@
+#pragma once
+// The screen "RESULTADOS DE CÁLCULO DEL TANQUE HIDRONEUMÁTICO": it sizes the
+// tank at its load and shows the seven results under the method's title, the
+// volumes in percent and a sketch of the tank.
+
+#include "tank/Hidroneumatico.h"
+
+#include <QDialog>
+#include <optional>
+
+class QGroupBox;
+class QLabel;
+class NivoToolTip;
+
+class ResultadosHidro : public QDialog {
+    Q_OBJECT
+public:
+    ResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* padre = nullptr);
+
+    // The sizing; a fault of it (ErrorEjecucion) leaves the screen unshown.
+    void Cargar();
+
+    // The seven values in their order, the percentages and the method's frame.
+    QLabel* Valor(int i) const { return valores_[i]; }
+    QLabel* PorcentajeMinimo() const { return porcentajes_[0]; }
+    QLabel* PorcentajeUtil() const { return porcentajes_[1]; }
+    QLabel* PorcentajeMaximo() const { return porcentajes_[2]; }
+    QGroupBox* Marco() const { return marco_; }
+    NivoToolTip* Tip() const { return tip_; }
+
+private:
+    DatosTanque datos_;
+    QGroupBox* marco_;
+    QLabel* valores_[7];
+    QLabel* porcentajes_[3];
+    NivoToolTip* tip_;
+};

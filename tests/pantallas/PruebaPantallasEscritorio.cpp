@@ -1,0 +1,108 @@
+// The result tools of the main window with the desktop's own screens: they
+// are enabled, each runs its screen on a sample chosen through the open
+// dialog, and a broken network is refused with its message before the
+// analysis screen shows.
+
+#include "ApoyoPantallas.h"
+#include "analysis/ApoyoAnalisis.h"
+#include "analysis/screens/AnalisisRed.h"
+#include "shell/screens/PantallasEscritorio.h"
+#include "shell/screens/VentanaPrincipal.h"
+#include "takeoff/screens/Computos.h"
+#include "tank/screens/Hidroneumatico.h"
+#include "widgets/NivoNumero.h"
+
+#include <QAction>
+
+namespace {
+
+struct Escritorio : ::testing::Test {
+    SesionPrueba sp;
+    ProyectoEdificio p;
+    DialogosPantalla d;
+    std::unique_ptr<PantallasEscritorio> pantallas;
+    std::unique_ptr<VentanaPrincipal> v;
+
+    void SetUp() override {
+        qputenv("FONTARIA_DATOS", sp.s.DirectorioDatos.toUtf8());
+        pantallas = std::make_unique<PantallasEscritorio>(sp.s, p, d);
+        v = std::make_unique<VentanaPrincipal>(sp.s, p, d, *pantallas);
+        // As the desktop program wires it.
+        v->Logica().VerificarNumeracion = [this] { VerificarNumeracion(p, d); };
+        pantallas->PonerVentana(v.get());
+        v->Arrancar(RutaProgramaPruebas());
+        v->show();
+    }
+    void TearDown() override { qunsetenv("FONTARIA_DATOS"); }
+    QString Muestra(const char* nombre) const {
+        return sp.Datos(QStringLiteral("Proyectos/") + QString::fromUtf8(nombre) + QStringLiteral(".plm"));
+    }
+    bool Activa(const char* id) const { return v->Accion(QString::fromLatin1(id))->isEnabled(); }
+};
+
+}  // namespace
+
+TEST_F(Escritorio, LasHerramientasDeResultadosEstanActivas) {
+    EXPECT_TRUE(Activa("ID_M2_AnalisisRed"));
+    EXPECT_TRUE(Activa("ID_M2_TanqueH"));
+    EXPECT_TRUE(Activa("ID_M2_Computos"));
+    // Tools of screens still to come stay disabled.
+    EXPECT_FALSE(Activa("ID_M1_Modificar"));
+    EXPECT_FALSE(Activa("ID_M3_Piezas"));
+}
+
+TEST_F(Escritorio, ElAnalisisDeUnEjemploDesdeLaVentana) {
+    d.archivos = {Muestra("Vivienda con Tanque Elevado")};
+    QString titulo, panel;
+    CuandoAbra<VentanaAnalisisRed>([&](VentanaAnalisisRed* a) {
+        titulo = a->windowTitle();
+        panel = a->SSPanel1()->text();
+        Tecla(a, Qt::Key_Escape);
+    });
+    v->EjecutarHerramienta(QStringLiteral("ID_M2_AnalisisRed"));
+    EXPECT_EQ(titulo, QStringLiteral("Resultado del Análisis  Proyecto: [ Vivienda con Tanque Elevado.plm ]"));
+    EXPECT_EQ(panel, QStringLiteral("8"));
+    EXPECT_EQ(v->windowTitle(), QStringLiteral("NIVO-FONTARIA 2024    PROYECTO: [ VIVIENDA CON TANQUE ELEVADO.PLM ]"));
+    // The command closes the project after its screen.
+    EXPECT_FALSE(sp.s.ConexionProyecto.Abierta());
+    EXPECT_FALSE(d.Ocupado());
+}
+
+TEST_F(Escritorio, UnaRedRotaNoLlegaALaPantalla) {
+    // Branch 3 leaves from X, where no branch ends.
+    ProyectoDeRamales(p, sp.s, {{"O", "A"}, {"A", "B"}, {"X", "C"}});
+    GuardarYAbrir(p, sp, QStringLiteral("Proyectos/rota.plm"));
+    sp.s.ConexionProyecto.Cerrar();
+    d.archivos = {sp.Datos(QStringLiteral("Proyectos/rota.plm"))};
+    sp.s.NombreProyecto.clear();
+    bool pantalla = false;
+    QTimer::singleShot(0, [&] { pantalla = qobject_cast<VentanaAnalisisRed*>(QApplication::activeModalWidget()); });
+    MensajeVisto visto;
+    ContestarCaja(visto, 0);
+    v->EjecutarHerramienta(QStringLiteral("ID_M2_AnalisisRed"));
+    EXPECT_EQ(visto.texto, QStringLiteral("El Nodo-> ( X  del Ramal: 3 )\n¡Este Nodo está Desconectado!\n"
+                                          "Debe Corregir el Error para Realizar el Análisis..."));
+    EXPECT_EQ(visto.encabezado, QStringLiteral("Error en la Numeración..."));
+    EXPECT_FALSE(pantalla);
+}
+
+TEST_F(Escritorio, ElTanqueYLosComputosDesdeLaVentana) {
+    d.archivos = {Muestra("Vivienda con Tanque Hidroneumatico")};
+    v->EjecutarHerramienta(QStringLiteral("ID_M1_Abrir"));
+    QString piezas;
+    CuandoAbra<Hidroneumatico>([&](Hidroneumatico* t) {
+        piezas = t->Caja(QStringLiteral("NumeroPiezas"))->text();
+        t->accept();
+    });
+    v->EjecutarHerramienta(QStringLiteral("ID_M2_TanqueH"));
+    EXPECT_EQ(piezas, QStringLiteral("17"));
+
+    int filas = -1;
+    CuandoAbra<VentanaComputos>([&](VentanaComputos* c) {
+        filas = c->Logica().Paginas.Piezas.Filas();
+        c->accept();
+    });
+    v->EjecutarHerramienta(QStringLiteral("ID_M2_Computos"));
+    EXPECT_GT(filas, 0);
+    EXPECT_FALSE(sp.s.ConexionProyecto.Abierta());
+}
