@@ -26,6 +26,7 @@ int EjecutarEscritorio(int argc, char** argv) {
     PantallasEscritorio pantallas(s, p, d);
     VentanaPrincipal ventana(s, p, d, pantallas);
     pantallas.PonerVentana(&ventana);
+    pantallas.PonerAcueducto(&ventana.Logica().Acueducto());
     ventana.Arrancar();
     ventana.showMaximized();
     return app.exec();

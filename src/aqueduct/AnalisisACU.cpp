@@ -7,9 +7,9 @@
 #include "aqueduct/SolverMalla.h"
 #include "base/Dialogos.h"
 #include "base/Nivo.h"
+#include "entry/BuscarPartida.h"
 #include "shell/Sesion.h"
 
-#include <algorithm>
 
 namespace {
 
@@ -247,9 +247,9 @@ void AnalisisACU::AbrirProyecto() {
 }
 
 void AnalisisACU::BuscarRamal(int numero, bool aceptado) {
-    if (!aceptado || numero == Spread1.FilaActiva() || Spread1.Filas() == 0) return;
-    const int fila = std::clamp(numero, 1, Spread1.Filas());
-    MoverRamal(fila);
+    BuscarPartida b(numero);
+    b.Aceptado = aceptado;
+    if (const auto fila = FilaBuscada(b, Spread1.FilaActiva(), Spread1.Filas())) MoverRamal(*fila);
 }
 
 void AnalisisACU::MoverRamal(int fila) {

@@ -1,6 +1,7 @@
 // The project commands of the main window: each picks a file, puts its path
 // in the session, loads the project and shows a screen modally.
 
+#include "aqueduct/ArchivoAcueducto.h"
 #include "base/Dialogos.h"
 #include "model/ArchivoEdificio.h"
 #include "model/ProyectoEdificio.h"
@@ -226,6 +227,72 @@ void MenuPrincipal::ACUAbrirProyecto() {
     s_.ArchivoProyectoACU = *ruta;
     TituloAcueducto();
     Habilitar(QStringLiteral("ID_A_Salvar"), true);
+}
+
+void MenuPrincipal::ACUNuevoProyecto() {
+    const auto ruta = d_.GuardarArchivo(QStringLiteral("Crear un Nuevo Proyecto"), FiltroAcu,
+                                        s_.RutaDatos(QStringLiteral("Redes")));
+    if (!ruta) {
+        Ocupado(false);
+        return;
+    }
+    // The blank network replaces an existing file in one step; a failed
+    // copy leaves both the old file and the chosen project as they were.
+    QString error;
+    if (!CopiarArchivo(s_.RutaImagen(QStringLiteral("Malla.nivo")), *ruta, &error)) {
+        d_.MostrarMensaje(error, QStringLiteral("Crear un Nuevo Proyecto..."), TituloProyectoFontaria());
+        return;
+    }
+    s_.NombreProyectoACU = TituloArchivo(*ruta);
+    s_.ArchivoProyectoACU = *ruta;
+    ValoresInicialesACU(acu_, s_);
+    s_.DatosModificados = 0;
+    TituloAcueducto();
+    Habilitar(QStringLiteral("ID_A_Salvar"), true);
+    if (!CargarAcueducto()) return;
+    s_.EdicionDesdeAnalisis = 0;
+    MostrarSiHay(Pantalla::DatosAcueducto);
+    Ocupado(false);
+}
+
+bool MenuPrincipal::PedirAcueductoSiFalta() {
+    if (Trim(s_.NombreProyectoACU).isEmpty()) ACUAbrirProyecto();
+    return !Trim(s_.NombreProyectoACU).isEmpty();
+}
+
+bool MenuPrincipal::CargarAcueducto() {
+    QString error;
+    if (CargarProyectoACU(acu_, s_, s_.ArchivoProyectoACU, error)) return true;
+    Ocupado(false);
+    d_.MostrarMensaje(error + QStringLiteral("\nRevise el Archivo de Datos..."),
+                      QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
+    return false;
+}
+
+void MenuPrincipal::ACUModificarProyecto() {
+    if (!PedirAcueductoSiFalta()) return;
+    if (!CargarAcueducto()) return;
+    s_.EdicionDesdeAnalisis = 0;
+    const QString nombre = s_.NombreProyectoACU;
+    MostrarSiHay(Pantalla::DatosAcueducto);
+    // The data screen's "Abrir" may have chosen another network.
+    if (s_.NombreProyectoACU != nombre) TituloAcueducto();
+    Ocupado(false);
+}
+
+void MenuPrincipal::ACUResultados() {
+    if (!PedirAcueductoSiFalta()) return;
+    Ocupado(true);
+    if (!CargarAcueducto()) return;
+    if (acu_.NumeroTramos != 0) {
+        MostrarSiHay(Pantalla::AnalisisACU);
+        Ocupado(false);
+        titulo_ = UCase(QStringLiteral("NIVO-REDES    Proyecto:[ ") + s_.NombreProyectoACU + QStringLiteral(" ]"));
+        return;
+    }
+    Ocupado(false);
+    s_.Mensaje = s_.NombreProyectoACU + QStringLiteral("\nNúmero de Ramales = 0\nRevise el Archivo de Datos...");
+    d_.MostrarMensaje(s_.Mensaje, QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
 }
 
 void MenuPrincipal::AbrirDocumento(const QString& ruta, const QString& mensaje, const QString& encabezado) {

@@ -4,6 +4,7 @@
 // commands every tool runs.  The Qt window draws this state and forwards its
 // events here; the tests drive it with a scripted Dialogos.
 
+#include "aqueduct/ProyectoAcueducto.h"
 #include "shell/Pantallas.h"
 #include "shell/Titulos.h"
 
@@ -12,6 +13,7 @@
 #include <functional>
 
 class Dialogos;
+class ErrorEjecucion;
 struct Sesion;
 struct ProyectoEdificio;
 
@@ -52,6 +54,10 @@ public:
     // exit tool, whose window must close.
     bool Ejecutar(const QString& id);
 
+    // The open aqueduct network, which its commands load and its screens
+    // read and write.
+    ProyectoAcueducto& Acueducto() { return acu_; }
+
     // --- The project commands.
     void NuevoProyecto();
     void AbrirProyecto();
@@ -62,7 +68,10 @@ public:
     void ResultadosAnalisis();
     void ComputosRed();
     void ImprimirDatos();
+    void ACUNuevoProyecto();
     void ACUAbrirProyecto();
+    void ACUModificarProyecto();
+    void ACUResultados();
     void SalvarComoACU();
     void ManualPrograma();
     void VerEjemplos();
@@ -89,6 +98,11 @@ private:
     void SalvarComoModo(bool acueducto);
     void AbrirDocumento(const QString& ruta, const QString& mensaje, const QString& encabezado);
     void MostrarSiHay(Pantalla p);
+    // The aqueduct commands' road: a network (asked for when none is
+    // chosen), then the load; false, with the message shown, when the file
+    // cannot be read.
+    bool PedirAcueductoSiFalta();
+    bool CargarAcueducto();
 
     Sesion& s_;
     ProyectoEdificio& p_;
@@ -100,6 +114,12 @@ private:
     int tab_ = 1;
     bool salidaConEscape_ = false;
     bool ocupado_ = false;
+    ProyectoAcueducto acu_;
 };
+
+// A run-time fault of a calculation as the engineer sees it: "Error N: text",
+// the place where it was met on the next line, under "Error en el
+// Cálculo...".  The main window and the screens that catch one show it so.
+void MostrarErrorEjecucion(Dialogos& d, const ErrorEjecucion& e);
 
 // Texts shared by the commands: TituloProyectoFontaria() is in shell/Titulos.h.

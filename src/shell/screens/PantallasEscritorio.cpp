@@ -1,11 +1,14 @@
 #include "shell/screens/PantallasEscritorio.h"
 
+#include "aqueduct/screens/VentanaAnalisisACU.h"
+#include "aqueduct/screens/VentanaDatosAcueducto.h"
 #include "shell/screens/ConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/Sobre.h"
 
 bool PantallasEscritorio::Disponible(Pantalla p) const {
-    return p == Pantalla::ConfigurarPrograma || p == Pantalla::Sobre;
+    return p == Pantalla::ConfigurarPrograma || p == Pantalla::Sobre || p == Pantalla::DatosAcueducto ||
+           p == Pantalla::AnalisisACU;
 }
 
 void PantallasEscritorio::Mostrar(Pantalla p) {
@@ -22,6 +25,18 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
         pantalla.exec();
         break;
     }
+    case Pantalla::DatosAcueducto:
+        if (acu_) {
+            VentanaDatosAcueducto pantalla(*acu_, s_, d_, ventana_);
+            pantalla.exec();
+        }
+        break;
+    case Pantalla::AnalisisACU:
+        if (acu_) {
+            VentanaAnalisisACU pantalla(*acu_, s_, d_, ventana_);
+            pantalla.exec();
+        }
+        break;
     default:
         break;
     }
