@@ -77,11 +77,11 @@ void AnalisisACU::ConfigurarSpread() {
     Spread2.PonerEncabezados(NDescripcion, QStringLiteral("Descripción"));
     FormatoColumna(Spread2, NNodo, TipoCelda::Texto, 0, 10);
     FormatoColumna(Spread2, NTerreno, TipoCelda::Numero, 2, 9);
-    FormatoColumna(Spread2, NReal, TipoCelda::Numero, 3, 9);
-    FormatoColumna(Spread2, NCalculo, TipoCelda::Numero, 3, 9);
-    FormatoColumna(Spread2, NPiezometrica, TipoCelda::Numero, 2, 11);
-    FormatoColumna(Spread2, NPresion, TipoCelda::Numero, 2, 9);
-    FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 9);
+    FormatoColumna(Spread2, NReal, TipoCelda::Numero, 3, 10);
+    FormatoColumna(Spread2, NCalculo, TipoCelda::Numero, 3, 11);
+    FormatoColumna(Spread2, NPiezometrica, TipoCelda::Numero, 2, 14);
+    FormatoColumna(Spread2, NPresion, TipoCelda::Numero, 2, 10);
+    FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 12);
     FormatoColumna(Spread2, NDescripcion, TipoCelda::Texto, 0, 40);
 }
 

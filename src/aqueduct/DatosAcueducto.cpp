@@ -103,7 +103,7 @@ void DatosAcueducto::ConfigurarSpread() {
     FormatoColumna(Spread2, NConsumo, TipoCelda::Numero, 3, 10, false);
     FormatoColumna(Spread2, NTerreno, TipoCelda::Numero, 2, 10, false);
     FormatoColumna(Spread2, NTanque, TipoCelda::Numero, 2, 10, false);
-    FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 9);
+    FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 12);
     FormatoColumna(Spread2, NDireccion, TipoCelda::Texto, 0, 40);
 }
 

@@ -122,6 +122,7 @@ QWidget* VentanaDatosAcueducto::Pagina1() {
     long1_ = new NivoLong(coeficiente);
     long1_->setObjectName(QStringLiteral("Long1"));
     long1_->PonerLimites(0, 32767);
+    long1_->setMaximumWidth(110);
     auto* hazen = BotonACU(QStringLiteral("Hazen-Williams"), QStringLiteral("Hazen-Williams"), coeficiente);
     cc->addWidget(new QLabel(QStringLiteral("Coeficiente  C ="), coeficiente), 0, 0);
     cc->addWidget(long1_, 0, 1);
