@@ -107,6 +107,11 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
     InstalarAyudas(this, tip_, s_.Tapiz, AyudasAnalisisACU());
 }
 
+VentanaAnalisisACU::~VentanaAnalisisACU() {
+    spread1_->MostrarGrid(nullptr);
+    spread2_->MostrarGrid(nullptr);
+}
+
 QPushButton* VentanaAnalisisACU::Boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
 
 void VentanaAnalisisACU::Refrescar() {

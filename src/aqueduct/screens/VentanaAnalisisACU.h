@@ -21,6 +21,8 @@ class VentanaAnalisisACU : public QDialog {
     Q_OBJECT
 public:
     VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos& d, QWidget* padre = nullptr);
+    // The views let go of the logic's grids before the logic goes.
+    ~VentanaAnalisisACU() override;
 
     AnalisisACU& Logica() { return logica_; }
     VistaGrid* Vista1() const { return spread1_; }

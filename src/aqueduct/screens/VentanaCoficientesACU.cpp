@@ -35,6 +35,10 @@ VentanaCoficientesACU::VentanaCoficientesACU(DatosAcueducto& datos, QWidget* pad
     resize(420, 330);
 }
 
+VentanaCoficientesACU::~VentanaCoficientesACU() {
+    spread1_->MostrarGrid(nullptr);
+}
+
 void VentanaCoficientesACU::Aceptar() {
     logica_.Aceptar(logica_.Spread1.FilaActiva());
     accept();

@@ -13,6 +13,8 @@ class VentanaCoficientesACU : public QDialog {
     Q_OBJECT
 public:
     VentanaCoficientesACU(DatosAcueducto& datos, QWidget* padre = nullptr);
+    // The views let go of the logic's grids before the logic goes.
+    ~VentanaCoficientesACU() override;
     CoficientesACU& Logica() { return logica_; }
     VistaGrid* Vista() const { return spread1_; }
 

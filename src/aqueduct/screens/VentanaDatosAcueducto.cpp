@@ -80,6 +80,11 @@ VentanaDatosAcueducto::VentanaDatosAcueducto(ProyectoAcueducto& p, Sesion& s, Di
     InstalarAyudas(this, tip_, s_.Tapiz, AyudasDatosAcueducto());
 }
 
+VentanaDatosAcueducto::~VentanaDatosAcueducto() {
+    spread1_->MostrarGrid(nullptr);
+    spread2_->MostrarGrid(nullptr);
+}
+
 QWidget* VentanaDatosAcueducto::Pagina1() {
     auto* pagina = new QWidget(this);
     auto* capa = new QVBoxLayout(pagina);

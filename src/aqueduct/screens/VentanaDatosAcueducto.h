@@ -24,6 +24,8 @@ class VentanaDatosAcueducto : public QDialog {
     Q_OBJECT
 public:
     VentanaDatosAcueducto(ProyectoAcueducto& p, Sesion& s, Dialogos& d, QWidget* padre = nullptr);
+    // The views let go of the logic's grids before the logic goes.
+    ~VentanaDatosAcueducto() override;
 
     DatosAcueducto& Logica() { return logica_; }
     VistaGrid* Vista1() const { return spread1_; }

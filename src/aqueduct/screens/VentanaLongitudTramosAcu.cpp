@@ -89,6 +89,10 @@ VentanaLongitudTramosAcu::VentanaLongitudTramosAcu(DatosAcueducto& datos, std::f
     InstalarAyudas(this, tip_, datos_.Sesion_().Tapiz, AyudasLongitudTramosAcu());
 }
 
+VentanaLongitudTramosAcu::~VentanaLongitudTramosAcu() {
+    spread1_->MostrarGrid(nullptr);
+}
+
 void VentanaLongitudTramosAcu::Mostrar() {
     mostrando_ = true;
     for (int i = 0; i < 6; ++i) double_[i]->PonerValor(logica_.Coordenada(i + 1));

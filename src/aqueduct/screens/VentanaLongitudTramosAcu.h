@@ -18,6 +18,8 @@ class VentanaLongitudTramosAcu : public QDialog {
     Q_OBJECT
 public:
     VentanaLongitudTramosAcu(DatosAcueducto& datos, std::function<void()> alMover, QWidget* padre = nullptr);
+    // The views let go of the logic's grids before the logic goes.
+    ~VentanaLongitudTramosAcu() override;
 
     LongitudTramosAcu& Logica() { return logica_; }
     NivoDouble* Caja(int i) const { return double_[i - 1]; }
