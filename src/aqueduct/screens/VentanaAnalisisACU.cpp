@@ -8,6 +8,7 @@
 #include "widgets/VistaGrid.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -48,6 +49,8 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread2_ = new VistaGrid(tab1_);
     spread2_->setObjectName(QStringLiteral("Spread2"));
+    // The list of sections at each node takes the width that is left.
+    spread2_->horizontalHeader()->setStretchLastSection(true);
     tab1_->addTab(spread1_, QStringLiteral("Resultados del Análisis de los Ramales"));
     tab1_->addTab(spread2_, QStringLiteral("Resultados del Análisis de los Nodos"));
     capa->addWidget(tab1_, 1);
@@ -59,7 +62,12 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
         connect(b, &QPushButton::clicked, this, accion);
         return b;
     };
-    boton("LSButton1", "Corregir Dirección", [this] { Accion([this] { logica_.CorregirDireccion(); }); });
+    boton("LSButton1", "Corregir Dirección", [this] {
+        // The sections tab is shown before the question.
+        logica_.Pestana = 0;
+        Refrescar();
+        Accion([this] { logica_.CorregirDireccion(); });
+    });
     boton("LSButton2", "Editar los Ramales", [this] { EditarRamales(); });
     boton("LSButton5", "Abrir Proyecto", [this] {
         Accion([this] { logica_.AbrirProyecto(); });

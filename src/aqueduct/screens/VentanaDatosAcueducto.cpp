@@ -104,6 +104,7 @@ QWidget* VentanaDatosAcueducto::Pagina1() {
     date1_ = new QDateEdit(generales);
     date1_->setObjectName(QStringLiteral("Date1"));
     date1_->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    date1_->setLocale(QLocale(QLocale::Spanish));
     auto* fecha = BotonACU(QStringLiteral("Fecha"), QStringLiteral("Fecha"), generales);
     g->addWidget(new QLabel(QStringLiteral("Fecha:"), generales), 1, 2);
     g->addWidget(date1_, 1, 3);
@@ -132,6 +133,7 @@ QWidget* VentanaDatosAcueducto::Pagina1() {
     cc->addWidget(new QLabel(QStringLiteral("Coeficiente  C ="), coeficiente), 0, 0);
     cc->addWidget(long1_, 0, 1);
     cc->addWidget(hazen, 1, 0, 1, 2);
+    cc->setColumnStretch(2, 1);
     connect(long1_, &NivoNumero::ValorCambiado, this, [this](double v) {
         if (!mostrando_) Proteger(d_, [&] { logica_.CambiarLong1(int(v)); });
     });
@@ -237,6 +239,8 @@ QWidget* VentanaDatosAcueducto::Pagina3() {
     spread2_ = new VistaGrid(marco);
     spread2_->setObjectName(QStringLiteral("Spread2"));
     spread2_->PermitirBloques();
+    // The list of sections at each node takes the width that is left.
+    spread2_->horizontalHeader()->setStretchLastSection(true);
     capa->addWidget(spread2_, 1);
     spread2_->AlEditar([this](int f, int c, const QString& t) { EditarCelda(2, f, c, t); });
     connect(spread2_, &VistaGrid::BloqueSeleccionado, this,
@@ -379,6 +383,7 @@ void VentanaDatosAcueducto::ElegirFecha() {
     calendario.setWindowTitle(QStringLiteral("Fecha"));
     auto* capa = new QVBoxLayout(&calendario);
     auto* mes = new QCalendarWidget(&calendario);
+    mes->setLocale(QLocale(QLocale::Spanish));
     mes->setSelectedDate(date1_->date());
     capa->addWidget(mes);
     connect(mes, &QCalendarWidget::activated, &calendario, &QDialog::accept);

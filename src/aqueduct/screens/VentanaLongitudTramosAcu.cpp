@@ -50,6 +50,7 @@ VentanaLongitudTramosAcu::VentanaLongitudTramosAcu(DatosAcueducto& datos, std::f
     spread1_ = new VistaGrid(this);
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread1_->setFocusPolicy(Qt::NoFocus);
+    spread1_->setSelectionMode(QAbstractItemView::NoSelection);
     spread1_->MostrarGrid(&logica_.Spread1);
     spread1_->setFixedHeight(spread1_->horizontalHeader()->sizeHint().height() +
                              spread1_->verticalHeader()->defaultSectionSize() + 6);
