@@ -57,6 +57,13 @@ inline void Procesar() {
     for (int i = 0; i < 3; ++i) QApplication::processEvents();
 }
 
+// The cell editor now open (a closed one waits hidden for its deletion).
+inline QLineEdit* EditorAbierto(VistaGrid* v) {
+    for (QLineEdit* e : v->viewport()->findChildren<QLineEdit*>())
+        if (e->isVisible()) return e;
+    return nullptr;
+}
+
 // Types `texto` into cell (fila, columna) of a grid view through the cell's
 // own editor and leaves the editor open, as a person who has not yet left
 // the cell.
@@ -64,7 +71,7 @@ inline void Escribir(VistaGrid* v, int fila, int columna, const QString& texto) 
     const QModelIndex i = v->model()->index(fila - 1, columna - 1);
     v->setCurrentIndex(i);
     v->edit(i);
-    auto* editor = v->viewport()->findChild<QLineEdit*>();
+    QLineEdit* editor = EditorAbierto(v);
     ASSERT_NE(editor, nullptr) << "no editor at " << fila << "," << columna;
     editor->setText(texto);
 }

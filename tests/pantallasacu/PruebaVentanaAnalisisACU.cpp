@@ -216,6 +216,7 @@ TEST_F(AnalisisPantalla, EditarLosRamalesYVolverConLosDatosSalvados) {
     bool abrirActivo = true;
     v->editarRamales = [&] {
         VentanaDatosAcueducto datos(p, s, falsos, v.get());
+        datos.show();
         abrirActivo = datos.Boton(QStringLiteral("Abrir"))->isEnabled();
         datos.Boton(QStringLiteral("Siguiente"))->click();
         // A narrower first pipe, still in its editor when "Salvar" is pressed.

@@ -20,6 +20,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStackedWidget>
+#include <QValidator>
 
 namespace {
 
@@ -74,6 +75,21 @@ TEST_F(DatosACU, ElEjemploLlenaLasTresPaginas) {
     EXPECT_EQ(Celda(v->Vista1(), 1, 4), QStringLiteral("150.000"));
     EXPECT_EQ(Celda(v->Vista1(), 1, 5), QStringLiteral("140"));
     EXPECT_EQ(Celda(v->Vista1(), 2, 6), QStringLiteral("0.400"));
+    // A node name fits the 20 characters of its record; a number cell takes
+    // the keys of a number only.
+    Escribir(v->Vista1(), 1, 1, QStringLiteral("Tanque"));
+    ASSERT_NE(EditorAbierto(v->Vista1()), nullptr);
+    EXPECT_EQ(EditorAbierto(v->Vista1())->maxLength(), 20);
+    v->TerminarEdicion();
+    Escribir(v->Vista1(), 1, 3, QStringLiteral("420"));
+    QLineEdit* numero = EditorAbierto(v->Vista1());
+    ASSERT_NE(numero, nullptr);
+    ASSERT_NE(numero->validator(), nullptr);
+    QString texto = QStringLiteral("12a");
+    int pos = 0;
+    EXPECT_EQ(numero->validator()->validate(texto, pos), QValidator::Invalid);
+    v->TerminarEdicion();
+    EXPECT_EQ(s.DatosModificados, -1);  // the same values, written again
 
     Boton("Siguiente")->click();
     EXPECT_EQ(Pagina(), 3);
