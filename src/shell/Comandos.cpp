@@ -29,17 +29,20 @@ bool EsProyectoEdificio(Conexion& c) {
 
 }  // namespace
 
+bool MenuPrincipal::CopiarPlantilla(const QString& plantilla, const QString& ruta) {
+    // The copy replaces an existing file in one step, so a failed copy
+    // leaves the old one whole.
+    QString error;
+    if (CopiarArchivo(s_.RutaImagen(plantilla), ruta, &error)) return true;
+    d_.MostrarMensaje(error, QStringLiteral("Crear un Nuevo Proyecto..."), TituloProyectoFontaria());
+    return false;
+}
+
 void MenuPrincipal::NuevoProyecto() {
     const auto ruta = d_.GuardarArchivo(QStringLiteral("Crear un Nuevo Proyecto"),
                                         QStringLiteral("Fontaria (*.plm)|*.plm"), s_.RutaDatos(QStringLiteral("Proyectos")));
     if (!ruta) return;
-    // The copy replaces an existing file in one step, so a failed copy
-    // leaves the old one whole.
-    QString error;
-    if (!CopiarArchivo(s_.RutaImagen(QStringLiteral("Proyecto.nivo")), *ruta, &error)) {
-        d_.MostrarMensaje(error, QStringLiteral("Crear un Nuevo Proyecto..."), TituloProyectoFontaria());
-        return;
-    }
+    if (!CopiarPlantilla(QStringLiteral("Proyecto.nivo"), *ruta)) return;
     s_.NombreProyecto = TituloArchivo(*ruta);
     s_.ArchivoProyecto = *ruta;
     TituloEdificio();
@@ -236,13 +239,8 @@ void MenuPrincipal::ACUNuevoProyecto() {
         Ocupado(false);
         return;
     }
-    // The blank network replaces an existing file in one step; a failed
-    // copy leaves both the old file and the chosen project as they were.
-    QString error;
-    if (!CopiarArchivo(s_.RutaImagen(QStringLiteral("Malla.nivo")), *ruta, &error)) {
-        d_.MostrarMensaje(error, QStringLiteral("Crear un Nuevo Proyecto..."), TituloProyectoFontaria());
-        return;
-    }
+    // A failed copy leaves the chosen network as it was too.
+    if (!CopiarPlantilla(QStringLiteral("Malla.nivo"), *ruta)) return;
     s_.NombreProyectoACU = TituloArchivo(*ruta);
     s_.ArchivoProyectoACU = *ruta;
     ValoresInicialesACU(acu_, s_);

@@ -102,6 +102,9 @@ private:
     // chosen), then the load; false, with the message shown, when the file
     // cannot be read.
     bool PedirAcueductoSiFalta();
+    // A new project: the blank template Imagen/`plantilla` copied to `ruta`;
+    // false, with the message shown, when the copy failed.
+    bool CopiarPlantilla(const QString& plantilla, const QString& ruta);
     bool CargarAcueducto();
 
     Sesion& s_;
