@@ -28,6 +28,7 @@ int EjecutarEscritorio(int argc, char** argv) {
     VentanaPrincipal ventana(s, p, d, pantallas);
     ventana.Logica().VerificarNumeracion = [&p, &d] { VerificarNumeracion(p, d); };
     pantallas.PonerVentana(&ventana);
+    pantallas.PonerAcueducto(&ventana.Logica().Acueducto());
     ventana.Arrancar();
     ventana.showMaximized();
     return app.exec();

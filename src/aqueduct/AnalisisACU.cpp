@@ -7,9 +7,9 @@
 #include "aqueduct/SolverMalla.h"
 #include "base/Dialogos.h"
 #include "base/Nivo.h"
+#include "entry/BuscarPartida.h"
 #include "shell/Sesion.h"
 
-#include <algorithm>
 
 namespace {
 
@@ -54,8 +54,8 @@ void AnalisisACU::ConfigurarSpread() {
     Spread1.PonerEncabezado(2, RVelocidad, QStringLiteral("m/s"));
     Spread1.PonerEncabezados(RPerdidas, QStringLiteral("Pérdidas"));
     Spread1.PonerEncabezados(RHF, QStringLiteral("HF / 1000"));
-    FormatoColumna(Spread1, RI, TipoCelda::Texto, 0, 10);
-    FormatoColumna(Spread1, RJ, TipoCelda::Texto, 0, 10);
+    FormatoColumna(Spread1, RI, TipoCelda::Texto, 0, 12);
+    FormatoColumna(Spread1, RJ, TipoCelda::Texto, 0, 12);
     FormatoColumna(Spread1, RLongitud, TipoCelda::Numero, 2, 9);
     FormatoColumna(Spread1, RLongitudCalculo, TipoCelda::Numero, 2, 9);
     FormatoColumna(Spread1, RDiametro, TipoCelda::Numero, 3, 9);
@@ -75,13 +75,13 @@ void AnalisisACU::ConfigurarSpread() {
     Spread2.PonerEncabezados(NPresion, QStringLiteral("Presión en\nel Nodo m"));
     Spread2.PonerEncabezados(NConectados, QStringLiteral("Ramales Conectados"));
     Spread2.PonerEncabezados(NDescripcion, QStringLiteral("Descripción"));
-    FormatoColumna(Spread2, NNodo, TipoCelda::Texto, 0, 10);
+    FormatoColumna(Spread2, NNodo, TipoCelda::Texto, 0, 12);
     FormatoColumna(Spread2, NTerreno, TipoCelda::Numero, 2, 9);
-    FormatoColumna(Spread2, NReal, TipoCelda::Numero, 3, 9);
-    FormatoColumna(Spread2, NCalculo, TipoCelda::Numero, 3, 9);
-    FormatoColumna(Spread2, NPiezometrica, TipoCelda::Numero, 2, 11);
-    FormatoColumna(Spread2, NPresion, TipoCelda::Numero, 2, 9);
-    FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 9);
+    FormatoColumna(Spread2, NReal, TipoCelda::Numero, 3, 10);
+    FormatoColumna(Spread2, NCalculo, TipoCelda::Numero, 3, 12);
+    FormatoColumna(Spread2, NPiezometrica, TipoCelda::Numero, 2, 14);
+    FormatoColumna(Spread2, NPresion, TipoCelda::Numero, 2, 10);
+    FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 12);
     FormatoColumna(Spread2, NDescripcion, TipoCelda::Texto, 0, 40);
 }
 
@@ -247,9 +247,9 @@ void AnalisisACU::AbrirProyecto() {
 }
 
 void AnalisisACU::BuscarRamal(int numero, bool aceptado) {
-    if (!aceptado || numero == Spread1.FilaActiva() || Spread1.Filas() == 0) return;
-    const int fila = std::clamp(numero, 1, Spread1.Filas());
-    MoverRamal(fila);
+    BuscarPartida b(numero);
+    b.Aceptado = aceptado;
+    if (const auto fila = FilaBuscada(b, Spread1.FilaActiva(), Spread1.Filas())) MoverRamal(*fila);
 }
 
 void AnalisisACU::MoverRamal(int fila) {

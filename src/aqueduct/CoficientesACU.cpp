@@ -18,7 +18,7 @@ CoficientesACU::CoficientesACU(DatosAcueducto& datos) : Spread1(2), datos_(datos
     Spread1.PonerEncabezados(1, QStringLiteral("Tipo de Tubería"));
     Spread1.PonerEncabezado(1, 2, QStringLiteral("Coeficiente"));
     Spread1.PonerEncabezado(2, 2, QStringLiteral("C"));
-    FormatoColumna(Spread1, 1, TipoCelda::Texto, 0, 20);
+    FormatoColumna(Spread1, 1, TipoCelda::Texto, 0, 24);
     FormatoColumna(Spread1, 2, TipoCelda::Entero, 0, 10);
     Spread1.PonerFilas(int(std::size(Tuberias)));
     int fila = 0;

@@ -18,6 +18,7 @@ enum ColNodo { NNo, NNodo, NConsumo, NTerreno, NTanque, NConectados, NDireccion 
 
 const QString TituloFontaria = QStringLiteral("Proyecto de Fontaria");
 const QString EncabezadoRamales = QStringLiteral("Datos de los Ramales...");
+QString MensajeErrorNumero() { return QStringLiteral("Error en el Número..."); }
 
 // A coefficient typed as a number becomes the 16-bit whole number the
 // column holds, halves to even as the older runtime assigned them.
@@ -79,9 +80,13 @@ void DatosAcueducto::ConfigurarSpread() {
     Spread1.PonerEncabezado(2, RConsumo, QStringLiteral("lps"));
     FormatoColumna(Spread1, RI, TipoCelda::Texto, 0, 12, false);
     FormatoColumna(Spread1, RJ, TipoCelda::Texto, 0, 12, false);
+    // A typed name fits the node record, so that the numbering finds it.
+    Spread1.Col(RI).largo = Spread1.Col(RJ).largo = LargoNombreNodo;
     FormatoColumna(Spread1, RLongitud, TipoCelda::Numero, 2, 10, false);
     FormatoColumna(Spread1, RDiametro, TipoCelda::Numero, 3, 10, false);
     FormatoColumna(Spread1, RC, TipoCelda::Entero, 0, 9, false);
+    Spread1.Col(RC).minimo = 0;
+    Spread1.Col(RC).maximo = 32767;
     FormatoColumna(Spread1, RConsumo, TipoCelda::Numero, 3, 10, false);
 
     Spread2 = Grid(NDireccion);
@@ -98,7 +103,7 @@ void DatosAcueducto::ConfigurarSpread() {
     FormatoColumna(Spread2, NConsumo, TipoCelda::Numero, 3, 10, false);
     FormatoColumna(Spread2, NTerreno, TipoCelda::Numero, 2, 10, false);
     FormatoColumna(Spread2, NTanque, TipoCelda::Numero, 2, 10, false);
-    FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 9);
+    FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 12);
     FormatoColumna(Spread2, NDireccion, TipoCelda::Texto, 0, 40);
 }
 
@@ -450,9 +455,19 @@ bool DatosAcueducto::EscribirNumeroNodo(int fila, int columna, double valor) {
 
 bool DatosAcueducto::EditarNodo(int fila, int columna, const QString& texto) {
     double v = 0.0;
-    if (!LeerNumero(texto, v) || !EscribirNumeroNodo(fila, columna, v)) return false;
+    return LeerNumero(texto, v) && EditarNodo(fila, columna, v);
+}
+
+bool DatosAcueducto::EditarNodo(int fila, int columna, double valor) {
+    if (!EscribirNumeroNodo(fila, columna, valor)) return false;
     MarcarModificado();
     return true;
+}
+
+void DatosAcueducto::NumeroRechazado(int grid, int columna) {
+    const Columna& c = (grid == 1 ? Spread1 : Spread2).Col(columna);
+    d_.MostrarMensaje(QStringLiteral("¡Debe Entrar un Número entre %1 y %2!").arg(c.minimo).arg(c.maximo),
+                      MensajeErrorNumero(), TituloFontaria);
 }
 
 void DatosAcueducto::LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2) {
@@ -467,8 +482,7 @@ void DatosAcueducto::LlenarBloque(int grid, int fila1, int fila2, int columna1, 
     double v = 0.0;
     int entero = 0;
     if (!LeerNumero(*respuesta, v) || (grid == 1 && columna1 == RC && !EnteroDe(RoundNivo(v, 3), entero))) {
-        d_.MostrarMensaje(QStringLiteral("¡Debe Entrar un Número!"), QStringLiteral("Error en el Número..."),
-                          TituloFontaria);
+        d_.MostrarMensaje(QStringLiteral("¡Debe Entrar un Número!"), MensajeErrorNumero(), TituloFontaria);
         return;
     }
     v = RoundNivo(v, 3);

@@ -111,6 +111,10 @@ public:
     // The same with a number, for the numeric columns 3 to 6.
     bool EditarRamal(int fila, int columna, double valor);
     bool EditarNodo(int fila, int columna, const QString& texto);
+    bool EditarNodo(int fila, int columna, double valor);
+    // A number the cell refused for its column's limits (the coefficient C
+    // is a 16-bit whole number from 0): the message, nothing changed.
+    void NumeroRechazado(int grid, int columna);
 
     // A block selected in one column of a grid (1 Spread1, 2 Spread2), rows
     // fila1..fila2: asks one value and writes it into every row of the block.

@@ -42,6 +42,7 @@ struct Columna {
     bool oculta = false;
     QStringList lista;
     double minimo = -1e300, maximo = 1e300;
+    int largo = 0;  // most characters a text cell takes when typed; 0 no limit
 };
 
 struct Union {

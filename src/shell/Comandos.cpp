@@ -1,6 +1,7 @@
 // The project commands of the main window: each picks a file, puts its path
 // in the session, loads the project and shows a screen modally.
 
+#include "aqueduct/ArchivoAcueducto.h"
 #include "base/Dialogos.h"
 #include "model/ArchivoEdificio.h"
 #include "model/ProyectoEdificio.h"
@@ -28,17 +29,20 @@ bool EsProyectoEdificio(Conexion& c) {
 
 }  // namespace
 
+bool MenuPrincipal::CopiarPlantilla(const QString& plantilla, const QString& ruta) {
+    // The copy replaces an existing file in one step, so a failed copy
+    // leaves the old one whole.
+    QString error;
+    if (CopiarArchivo(s_.RutaImagen(plantilla), ruta, &error)) return true;
+    d_.MostrarMensaje(error, QStringLiteral("Crear un Nuevo Proyecto..."), TituloProyectoFontaria());
+    return false;
+}
+
 void MenuPrincipal::NuevoProyecto() {
     const auto ruta = d_.GuardarArchivo(QStringLiteral("Crear un Nuevo Proyecto"),
                                         QStringLiteral("Fontaria (*.plm)|*.plm"), s_.RutaDatos(QStringLiteral("Proyectos")));
     if (!ruta) return;
-    // The copy replaces an existing file in one step, so a failed copy
-    // leaves the old one whole.
-    QString error;
-    if (!CopiarArchivo(s_.RutaImagen(QStringLiteral("Proyecto.nivo")), *ruta, &error)) {
-        d_.MostrarMensaje(error, QStringLiteral("Crear un Nuevo Proyecto..."), TituloProyectoFontaria());
-        return;
-    }
+    if (!CopiarPlantilla(QStringLiteral("Proyecto.nivo"), *ruta)) return;
     s_.NombreProyecto = TituloArchivo(*ruta);
     s_.ArchivoProyecto = *ruta;
     TituloEdificio();
@@ -229,6 +233,67 @@ void MenuPrincipal::ACUAbrirProyecto() {
     s_.ArchivoProyectoACU = *ruta;
     TituloAcueducto();
     Habilitar(QStringLiteral("ID_A_Salvar"), true);
+}
+
+void MenuPrincipal::ACUNuevoProyecto() {
+    const auto ruta = d_.GuardarArchivo(QStringLiteral("Crear un Nuevo Proyecto"), FiltroAcu,
+                                        s_.RutaDatos(QStringLiteral("Redes")));
+    if (!ruta) {
+        Ocupado(false);
+        return;
+    }
+    // A failed copy leaves the chosen network as it was too.
+    if (!CopiarPlantilla(QStringLiteral("Malla.nivo"), *ruta)) return;
+    s_.NombreProyectoACU = TituloArchivo(*ruta);
+    s_.ArchivoProyectoACU = *ruta;
+    ValoresInicialesACU(acu_, s_);
+    s_.DatosModificados = 0;
+    TituloAcueducto();
+    Habilitar(QStringLiteral("ID_A_Salvar"), true);
+    if (!CargarAcueducto()) return;
+    s_.EdicionDesdeAnalisis = 0;
+    MostrarSiHay(Pantalla::DatosAcueducto);
+    Ocupado(false);
+}
+
+bool MenuPrincipal::PedirAcueductoSiFalta() {
+    if (Trim(s_.NombreProyectoACU).isEmpty()) ACUAbrirProyecto();
+    return !Trim(s_.NombreProyectoACU).isEmpty();
+}
+
+bool MenuPrincipal::CargarAcueducto() {
+    QString error;
+    if (CargarProyectoACU(acu_, s_, s_.ArchivoProyectoACU, error)) return true;
+    Ocupado(false);
+    d_.MostrarMensaje(error + QStringLiteral("\nRevise el Archivo de Datos..."),
+                      QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
+    return false;
+}
+
+void MenuPrincipal::ACUModificarProyecto() {
+    if (!PedirAcueductoSiFalta()) return;
+    if (!CargarAcueducto()) return;
+    s_.EdicionDesdeAnalisis = 0;
+    const QString nombre = s_.NombreProyectoACU;
+    MostrarSiHay(Pantalla::DatosAcueducto);
+    // The data screen's "Abrir" may have chosen another network.
+    if (s_.NombreProyectoACU != nombre) TituloAcueducto();
+    Ocupado(false);
+}
+
+void MenuPrincipal::ACUResultados() {
+    if (!PedirAcueductoSiFalta()) return;
+    Ocupado(true);
+    if (!CargarAcueducto()) return;
+    if (acu_.NumeroTramos != 0) {
+        MostrarSiHay(Pantalla::AnalisisACU);
+        Ocupado(false);
+        titulo_ = UCase(QStringLiteral("NIVO-REDES    Proyecto:[ ") + s_.NombreProyectoACU + QStringLiteral(" ]"));
+        return;
+    }
+    Ocupado(false);
+    s_.Mensaje = s_.NombreProyectoACU + QStringLiteral("\nNúmero de Ramales = 0\nRevise el Archivo de Datos...");
+    d_.MostrarMensaje(s_.Mensaje, QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
 }
 
 void MenuPrincipal::AbrirDocumento(const QString& ruta, const QString& mensaje, const QString& encabezado) {

@@ -24,9 +24,6 @@ void MenuPrincipal::Preparar() {
     // Save-as needs a chosen project.
     Habilitar(QStringLiteral("ID_M1_SalvarComo"), false);
     Habilitar(QStringLiteral("ID_A_Salvar"), false);
-    // The aqueduct commands that load a network come with the aqueduct
-    // model; until then their tools stay disabled whatever the screens.
-    for (const char* id : {"ID_A_Nuevo", "ID_A_Modificar", "ID_A_Analisis"}) Habilitar(QString::fromLatin1(id), false);
     TituloEdificio();
 }
 
@@ -95,7 +92,10 @@ bool MenuPrincipal::Ejecutar(const QString& id) {
         {QStringLiteral("ID_M2_AnalisisRed"), &MenuPrincipal::ResultadosAnalisis},
         {QStringLiteral("ID_M2_TanqueH"), &MenuPrincipal::TanqueHidroneumatico},
         {QStringLiteral("ID_M2_Computos"), &MenuPrincipal::ComputosRed},
+        {QStringLiteral("ID_A_Nuevo"), &MenuPrincipal::ACUNuevoProyecto},
         {QStringLiteral("ID_A_Abrir"), &MenuPrincipal::ACUAbrirProyecto},
+        {QStringLiteral("ID_A_Modificar"), &MenuPrincipal::ACUModificarProyecto},
+        {QStringLiteral("ID_A_Analisis"), &MenuPrincipal::ACUResultados},
         {QStringLiteral("ID_A_Salvar"), &MenuPrincipal::SalvarComoACU},
         {QStringLiteral("ID_Explorador"), &MenuPrincipal::ExploradorWindows},
         {QStringLiteral("ID_TemasAyuda"), &MenuPrincipal::TemasAyuda},
@@ -120,3 +120,4 @@ bool MenuPrincipal::Ejecutar(const QString& id) {
     }
     return true;
 }
+

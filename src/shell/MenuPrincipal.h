@@ -4,6 +4,7 @@
 // commands every tool runs.  The Qt window draws this state and forwards its
 // events here; the tests drive it with a scripted Dialogos.
 
+#include "aqueduct/ProyectoAcueducto.h"
 #include "shell/Pantallas.h"
 #include "shell/Titulos.h"
 
@@ -12,6 +13,7 @@
 #include <functional>
 
 class Dialogos;
+class ErrorEjecucion;
 struct Sesion;
 struct ProyectoEdificio;
 
@@ -52,6 +54,10 @@ public:
     // exit tool, whose window must close.
     bool Ejecutar(const QString& id);
 
+    // The open aqueduct network, which its commands load and its screens
+    // read and write.
+    ProyectoAcueducto& Acueducto() { return acu_; }
+
     // --- The project commands.
     void NuevoProyecto();
     void AbrirProyecto();
@@ -62,7 +68,10 @@ public:
     void ResultadosAnalisis();
     void ComputosRed();
     void ImprimirDatos();
+    void ACUNuevoProyecto();
     void ACUAbrirProyecto();
+    void ACUModificarProyecto();
+    void ACUResultados();
     void SalvarComoACU();
     void ManualPrograma();
     void VerEjemplos();
@@ -89,6 +98,14 @@ private:
     void SalvarComoModo(bool acueducto);
     void AbrirDocumento(const QString& ruta, const QString& mensaje, const QString& encabezado);
     void MostrarSiHay(Pantalla p);
+    // The aqueduct commands' road: a network (asked for when none is
+    // chosen), then the load; false, with the message shown, when the file
+    // cannot be read.
+    bool PedirAcueductoSiFalta();
+    // A new project: the blank template Imagen/`plantilla` copied to `ruta`;
+    // false, with the message shown, when the copy failed.
+    bool CopiarPlantilla(const QString& plantilla, const QString& ruta);
+    bool CargarAcueducto();
 
     Sesion& s_;
     ProyectoEdificio& p_;
@@ -100,6 +117,7 @@ private:
     int tab_ = 1;
     bool salidaConEscape_ = false;
     bool ocupado_ = false;
+    ProyectoAcueducto acu_;
 };
 
 // Texts shared by the commands: TituloProyectoFontaria() is in shell/Titulos.h.

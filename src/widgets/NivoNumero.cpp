@@ -5,14 +5,17 @@
 #include <QKeyEvent>
 #include <QRegularExpressionValidator>
 
-NivoNumero::NivoNumero(int decimales, QWidget* padre) : QLineEdit(padre), decimales_(decimales) {
-    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+QRegularExpression ExpresionNumero() {
     const Separadores& sep = SeparadoresActuales();
     // Digits, a sign, the session's separators and the plain point.
-    const QString permitidos = QStringLiteral("[-+]?[0-9") + QRegularExpression::escape(QString(sep.miles)) +
-                               QStringLiteral("]*[") + QRegularExpression::escape(QString(sep.decimal)) +
-                               QStringLiteral(".]?[0-9]*");
-    setValidator(new QRegularExpressionValidator(QRegularExpression(permitidos), this));
+    return QRegularExpression(QStringLiteral("[-+]?[0-9") + QRegularExpression::escape(QString(sep.miles)) +
+                              QStringLiteral("]*[") + QRegularExpression::escape(QString(sep.decimal)) +
+                              QStringLiteral(".]?[0-9]*"));
+}
+
+NivoNumero::NivoNumero(int decimales, QWidget* padre) : QLineEdit(padre), decimales_(decimales) {
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setValidator(new QRegularExpressionValidator(ExpresionNumero(), this));
     connect(this, &QLineEdit::textEdited, this, &NivoNumero::AlEscribir);
     Mostrar();
 }

@@ -4,6 +4,11 @@
 // limits.  Enter is a signal of its own, as screens tie it to a button.
 
 #include <QLineEdit>
+#include <QRegularExpression>
+
+// What a number box takes as it is typed: a sign, digits, the session's
+// separators and the plain point.
+QRegularExpression ExpresionNumero();
 
 class NivoNumero : public QLineEdit {
     Q_OBJECT

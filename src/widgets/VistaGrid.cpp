@@ -2,12 +2,16 @@
 
 #include "base/Nivo.h"
 #include "widgets/Colores.h"
+#include "widgets/NivoNumero.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QRegularExpressionValidator>
 #include <QTimer>
 
 namespace {
@@ -94,7 +98,10 @@ bool ModeloGrid::setData(const QModelIndex& i, const QVariant& v, int rol) {
             return false;  // a number cell refuses other text, as the grid did
         }
         const Columna& col = grid_->Col(c);
-        if (numero < col.minimo || numero > col.maximo) return false;
+        if (numero < col.minimo || numero > col.maximo) {
+            if (alRechazar) QTimer::singleShot(0, this, [this, f, c, texto] { if (alRechazar) alRechazar(f, c, texto); });
+            return false;
+        }
         if (t == TipoCelda::Entero)
             grid_->PonerEntero(f, c, qRound64(numero));
         else
@@ -105,12 +112,17 @@ bool ModeloGrid::setData(const QModelIndex& i, const QVariant& v, int rol) {
     Q_EMIT dataChanged(i, i);
     // The handler may refill the grid: it runs once the editor is closed.
     if (alEditar) {
-        const QString final = grid_->Texto(f, c);
-        QTimer::singleShot(0, this, [this, f, c, final] {
-            if (alEditar) alEditar(f, c, final);
-        });
+        pendientes_.push_back({f, c, grid_->Texto(f, c)});
+        if (pendientes_.size() == 1) QTimer::singleShot(0, this, [this] { EntregarPendientes(); });
     }
     return true;
+}
+
+void ModeloGrid::EntregarPendientes() {
+    std::vector<Edicion> listas;
+    listas.swap(pendientes_);
+    for (const Edicion& e : listas)
+        if (alEditar) alEditar(e.fila, e.columna, e.texto);
 }
 
 void ModeloGrid::Reiniciar() {
@@ -237,7 +249,12 @@ QWidget* DelegadoGrid::createEditor(QWidget* padre, const QStyleOptionViewItem& 
     }
     auto* linea = new QLineEdit(padre);
     linea->setFrame(false);
-    if (g.Tipo(f, c) == TipoCelda::Numero || g.Tipo(f, c) == TipoCelda::Entero) linea->setAlignment(Qt::AlignRight);
+    if (g.Col(c).largo > 0) linea->setMaxLength(g.Col(c).largo);
+    if (g.Tipo(f, c) == TipoCelda::Numero || g.Tipo(f, c) == TipoCelda::Entero) {
+        linea->setAlignment(Qt::AlignRight);
+        // A number cell takes the keys of a number only.
+        linea->setValidator(new QRegularExpressionValidator(ExpresionNumero(), linea));
+    }
     return linea;
 }
 
@@ -358,6 +375,51 @@ void VistaGrid::MostrarActiva() {
                                         std::clamp(g->ColumnaActiva(), 1, g->Columnas()) - 1);
     setCurrentIndex(i);
     scrollTo(i);
+}
+
+void VistaGrid::TerminarEdicion() {
+    if (state() == QAbstractItemView::EditingState) {
+        // The open editor is the view's child on the viewport.
+        for (QWidget* w : viewport()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            if (!qobject_cast<QLineEdit*>(w) && !qobject_cast<QComboBox*>(w)) continue;
+            commitData(w);
+            closeEditor(w, QAbstractItemDelegate::NoHint);
+        }
+    }
+    modelo_.EntregarPendientes();
+}
+
+void VistaGrid::PermitirBloques() {
+    bloques_ = true;
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
+    // A click on a column's header selects the whole column.
+    horizontalHeader()->setSectionsClickable(true);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this] { AvisarBloque(); });
+}
+
+void VistaGrid::QuitarBloque() {
+    const QModelIndex actual = currentIndex();
+    clearSelection();
+    if (actual.isValid()) selectionModel()->select(actual, QItemSelectionModel::Select);
+}
+
+void VistaGrid::AvisarBloque() {
+    if (!bloques_ || !selectionModel()) return;
+    const QItemSelection seleccion = selectionModel()->selection();
+    if (seleccion.size() != 1) return;
+    const QItemSelectionRange& r = seleccion.first();
+    if (r.height() * r.width() <= 1) return;
+    Q_EMIT BloqueSeleccionado(r.top() + 1, r.bottom() + 1, r.left() + 1, r.right() + 1);
+}
+
+void VistaGrid::mouseReleaseEvent(QMouseEvent* e) {
+    QTableView::mouseReleaseEvent(e);
+    AvisarBloque();
+}
+
+void VistaGrid::keyReleaseEvent(QKeyEvent* e) {
+    QTableView::keyReleaseEvent(e);
+    if (e->key() == Qt::Key_Shift) AvisarBloque();
 }
 
 void VistaGrid::currentChanged(const QModelIndex& actual, const QModelIndex& anterior) {

@@ -37,9 +37,20 @@ public:
     void Repintar();
 
     std::function<void(int fila, int columna, const QString& texto)> alEditar;
+    // A number typed beyond its column's limits, which the cell refused.
+    std::function<void(int fila, int columna, const QString& texto)> alRechazar;
+    // Reports now the edits still waiting for their turn (they are reported
+    // once the editor has closed), so that nothing typed is missed by an
+    // action that follows at once.
+    void EntregarPendientes();
 
 private:
+    struct Edicion {
+        int fila, columna;
+        QString texto;
+    };
     Grid* grid_ = nullptr;
+    std::vector<Edicion> pendientes_;
 };
 
 // Both header rows painted over one header section each, joined cells
@@ -91,13 +102,31 @@ public:
     // The text of the corner cell (header row 1, column 0), as drawn.
     QString TextoEsquina() const;
 
+    // Closes an open editor keeping what it holds, and reports every edit
+    // at once: screens call it before any action that reads the grid or the
+    // model (a save, a page change, the closing).
+    void TerminarEdicion();
+
+    // Blocks of cells may be selected (by dragging, with Shift and the
+    // arrows, or a whole column by its header); each finished block of more
+    // than one cell is reported with its rows and columns (from 1).
+    void PermitirBloques();
+    void QuitarBloque();
+
+Q_SIGNALS:
+    void BloqueSeleccionado(int fila1, int fila2, int columna1, int columna2);
+
 protected:
     void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
     bool eventFilter(QObject* o, QEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void keyReleaseEvent(QKeyEvent* e) override;
 
 private:
     void AplicarForma();
+    void AvisarBloque();
     ModeloGrid modelo_;
+    bool bloques_ = false;
     QWidget* esquina_ = nullptr;
     int filas_ = -1, columnas_ = -1;
     std::vector<Union> uniones_;

@@ -79,8 +79,9 @@ TEST_F(Menu, LasHerramientasSinPantallaQuedanVisiblesYDesactivadas) {
     EXPECT_FALSE(m.Habilitada(QStringLiteral("ID_M1_SalvarComo")));
     EXPECT_FALSE(m.Visible(QStringLiteral("ID_M1_Visualizar")));
     EXPECT_FALSE(m.Visible(QStringLiteral("ID_Soporte")));
-    // The aqueduct tools that load a network wait for their commands.
-    EXPECT_FALSE(m.Habilitada(QStringLiteral("ID_A_Analisis")));
+    // The aqueduct tools follow their screens as the others do.
+    EXPECT_TRUE(m.Habilitada(QStringLiteral("ID_A_Analisis")));
+    EXPECT_TRUE(m.Habilitada(QStringLiteral("ID_A_Nuevo")));
     EXPECT_TRUE(m.Habilitada(QStringLiteral("ID_A_Abrir")));
     // A disabled tool runs nothing.
     EXPECT_TRUE(m.Ejecutar(QStringLiteral("ID_M2_AnalisisRed")));

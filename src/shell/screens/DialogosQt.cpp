@@ -11,6 +11,7 @@
 #include <QInputDialog>
 #include <QRegularExpression>
 #include <QUrl>
+#include <algorithm>
 
 namespace {
 
@@ -55,10 +56,14 @@ std::optional<QString> DialogosQt::GuardarArchivo(const QString& titulo, const Q
 
 std::optional<QString> DialogosQt::PedirTexto(const QString& texto, const QString& titulo, const QString& inicial) {
     PunteroEnPausa pausa;
-    bool ok = false;
-    const QString r = QInputDialog::getText(Padre(), titulo, texto, QLineEdit::Normal, inicial, &ok);
-    if (!ok) return std::nullopt;
-    return r;
+    QInputDialog caja(Padre());
+    caja.setWindowTitle(titulo);
+    caja.setLabelText(texto);
+    caja.setTextValue(inicial);
+    // Wide enough for its title.
+    caja.setMinimumWidth(std::max(360, caja.fontMetrics().horizontalAdvance(titulo) + 160));
+    if (caja.exec() != QDialog::Accepted) return std::nullopt;
+    return caja.textValue();
 }
 
 std::optional<int> DialogosQt::ElegirColor(int inicial) {

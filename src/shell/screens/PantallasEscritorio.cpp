@@ -1,6 +1,8 @@
 #include "shell/screens/PantallasEscritorio.h"
 
 #include "analysis/screens/AnalisisRed.h"
+#include "aqueduct/screens/VentanaAnalisisACU.h"
+#include "aqueduct/screens/VentanaDatosAcueducto.h"
 #include "shell/screens/ConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/Sobre.h"
@@ -12,6 +14,8 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::AnalisisRed:
     case Pantalla::Hidroneumatico:
     case Pantalla::Computos:
+    case Pantalla::DatosAcueducto:
+    case Pantalla::AnalisisACU:
     case Pantalla::ConfigurarPrograma:
     case Pantalla::Sobre:
         return true;
@@ -51,6 +55,18 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
         pantalla.exec();
         break;
     }
+    case Pantalla::DatosAcueducto:
+        if (acu_) {
+            VentanaDatosAcueducto pantalla(*acu_, s_, d_, ventana_);
+            pantalla.exec();
+        }
+        break;
+    case Pantalla::AnalisisACU:
+        if (acu_) {
+            VentanaAnalisisACU pantalla(*acu_, s_, d_, ventana_);
+            pantalla.exec();
+        }
+        break;
     default:
         break;
     }

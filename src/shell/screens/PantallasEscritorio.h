@@ -7,6 +7,7 @@
 
 class Dialogos;
 class QWidget;
+struct ProyectoAcueducto;
 struct ProyectoEdificio;
 struct Sesion;
 
@@ -14,6 +15,8 @@ class PantallasEscritorio : public Pantallas {
 public:
     PantallasEscritorio(Sesion& s, ProyectoEdificio& p, Dialogos& d) : s_(s), p_(p), d_(d) {}
     void PonerVentana(QWidget* ventana) { ventana_ = ventana; }
+    // The aqueduct network the aqueduct screens work on (the main window's).
+    void PonerAcueducto(ProyectoAcueducto* acueducto) { acu_ = acueducto; }
 
     bool Disponible(Pantalla p) const override;
     void Mostrar(Pantalla p) override;
@@ -23,4 +26,5 @@ private:
     ProyectoEdificio& p_;
     Dialogos& d_;
     QWidget* ventana_ = nullptr;
+    ProyectoAcueducto* acu_ = nullptr;
 };

@@ -1,0 +1,183 @@
+#include "aqueduct/screens/VentanaAnalisisACU.h"
+
+#include "aqueduct/screens/ComunACU.h"
+#include "aqueduct/screens/VentanaDatosAcueducto.h"
+#include "entry/screens/VentanaBuscarPartida.h"
+#include "shell/Sesion.h"
+#include "widgets/NivoToolTip.h"
+#include "widgets/VistaGrid.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos& d, QWidget* padre)
+    : QDialog(padre), logica_(p, s, d), p_(p), s_(s), d_(d) {
+    setObjectName(QStringLiteral("AnalisisACU"));
+    setWindowTitle(QStringLiteral("Análisis de la Malla de Acueductos"));
+    tip_ = new NivoToolTip(this);
+    auto* capa = new QVBoxLayout(this);
+
+    auto* arriba = new QHBoxLayout;
+    combo1_ = new QComboBox(this);
+    combo1_->setObjectName(QStringLiteral("Combo1"));
+    combo1_->setMinimumWidth(320);
+    lramal_ = new QPushButton(this);
+    lramal_->setObjectName(QStringLiteral("LRamal"));
+    lramal_->setAutoDefault(false);
+    lramal_->setMinimumWidth(120);
+    lnodo_ = new QLabel(this);
+    lnodo_->setObjectName(QStringLiteral("LNodo"));
+    lnodo_->setFrameShape(QFrame::Panel);
+    lnodo_->setFrameShadow(QFrame::Sunken);
+    lnodo_->setMinimumWidth(160);
+    arriba->addWidget(combo1_);
+    arriba->addSpacing(20);
+    arriba->addWidget(lramal_);
+    arriba->addWidget(lnodo_);
+    arriba->addStretch();
+    capa->addLayout(arriba);
+
+    tab1_ = new QTabWidget(this);
+    tab1_->setObjectName(QStringLiteral("Tab1"));
+    spread1_ = new VistaGrid(tab1_);
+    spread1_->setObjectName(QStringLiteral("Spread1"));
+    spread2_ = new VistaGrid(tab1_);
+    spread2_->setObjectName(QStringLiteral("Spread2"));
+    // The list of sections at each node takes the width that is left.
+    spread2_->horizontalHeader()->setStretchLastSection(true);
+    tab1_->addTab(spread1_, QStringLiteral("Resultados del Análisis de los Ramales"));
+    tab1_->addTab(spread2_, QStringLiteral("Resultados del Análisis de los Nodos"));
+    capa->addWidget(tab1_, 1);
+
+    auto* pie = new QHBoxLayout;
+    auto boton = [&](const char* nombre, const char* texto, const std::function<void()>& accion) {
+        auto* b = BotonACU(QString::fromLatin1(nombre), QString::fromUtf8(texto), this);
+        pie->addWidget(b);
+        connect(b, &QPushButton::clicked, this, accion);
+        return b;
+    };
+    boton("LSButton1", "Corregir Dirección", [this] {
+        // The sections tab is shown before the question.
+        logica_.Pestana = 0;
+        Refrescar();
+        Accion([this] { logica_.CorregirDireccion(); });
+    });
+    boton("LSButton2", "Editar los Ramales", [this] { EditarRamales(); });
+    boton("LSButton5", "Abrir Proyecto", [this] {
+        Accion([this] { logica_.AbrirProyecto(); });
+        CerrarSiHaceFalta();
+    });
+    // The workbook and the reports come with their own parts of the program.
+    boton("LSButton4", "Exportar a Excel", [] {})->setEnabled(false);
+    boton("LSButton8", "Imprimir el Análisis", [] {})->setEnabled(false);
+    pie->addStretch();
+    boton("LSButton3", "Retorno", [this] { reject(); });
+    capa->addLayout(pie);
+
+    connect(combo1_, &QComboBox::currentIndexChanged, this, [this](int fila) {
+        if (mostrando_ || fila < 0) return;
+        Accion([this, fila] { logica_.CambiarCaso(fila); });
+        EnfocarGrid();
+    });
+    connect(tab1_, &QTabWidget::currentChanged, this, [this](int pestana) {
+        if (mostrando_) return;
+        logica_.Pestana = pestana;
+        Refrescar();
+    });
+    connect(lramal_, &QPushButton::clicked, this, &VentanaAnalisisACU::BuscarRamal);
+    connect(spread1_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& i) {
+        if (mostrando_ || !i.isValid()) return;
+        logica_.MoverRamal(i.row() + 1);
+        lramal_->setText(logica_.LRamal);
+    });
+    connect(spread2_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& i) {
+        if (mostrando_ || !i.isValid()) return;
+        logica_.MoverNodo(i.row() + 1);
+        lnodo_->setText(logica_.LNodo);
+    });
+    editarRamales = [this] {
+        VentanaDatosAcueducto datos(p_, s_, d_, this);
+        datos.exec();
+        return datos.Logica().ProyectoSalvado();
+    };
+    resize(1180, 640);
+
+    Proteger(d_, [this] { logica_.Cargar(); });
+    spread1_->MostrarGrid(&logica_.Spread1);
+    spread2_->MostrarGrid(&logica_.Spread2);
+    Refrescar();
+    InstalarAyudas(this, tip_, s_.Tapiz, AyudasAnalisisACU());
+}
+
+VentanaAnalisisACU::~VentanaAnalisisACU() {
+    spread1_->MostrarGrid(nullptr);
+    spread2_->MostrarGrid(nullptr);
+}
+
+QPushButton* VentanaAnalisisACU::Boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
+
+void VentanaAnalisisACU::Refrescar() {
+    mostrando_ = true;
+    setWindowTitle(logica_.Titulo());
+    QStringList casos;
+    for (int i = 0; i < combo1_->count(); ++i) casos << combo1_->itemText(i);
+    if (casos != logica_.Combo1) {
+        combo1_->clear();
+        combo1_->addItems(logica_.Combo1);
+    }
+    combo1_->setCurrentIndex(logica_.FilaCombo);
+    tab1_->setCurrentIndex(logica_.Pestana);
+    lramal_->setText(logica_.LRamal);
+    lramal_->setEnabled(logica_.Pestana == 0);
+    lnodo_->setText(logica_.LNodo);
+    lnodo_->setEnabled(logica_.Pestana == 1);
+    for (VistaGrid* v : {spread1_, spread2_}) {
+        v->Refrescar();
+        v->MostrarActiva();
+    }
+    mostrando_ = false;
+}
+
+void VentanaAnalisisACU::Accion(const std::function<void()>& accion) {
+    Proteger(d_, accion);
+    Refrescar();
+}
+
+void VentanaAnalisisACU::EnfocarGrid() { (logica_.Pestana == 0 ? spread1_ : spread2_)->setFocus(); }
+
+void VentanaAnalisisACU::CerrarSiHaceFalta() {
+    if (logica_.cerrar) QDialog::reject();
+}
+
+void VentanaAnalisisACU::showEvent(QShowEvent* e) {
+    QDialog::showEvent(e);
+    if (activada_) return;
+    activada_ = true;
+    // The messages of a network that cannot be solved come once the screen
+    // is up, and close it.
+    QTimer::singleShot(0, this, [this] {
+        Accion([this] { logica_.PrimeraActivacion(); });
+        CerrarSiHaceFalta();
+    });
+}
+
+void VentanaAnalisisACU::BuscarRamal() {
+    const BuscarPartida b = VentanaBuscarPartida::Preguntar(logica_.Spread1.FilaActiva(), this);
+    Accion([&] { logica_.BuscarRamal(b.Numero, b.Aceptado); });
+    spread1_->setFocus();
+}
+
+void VentanaAnalisisACU::EditarRamales() {
+    logica_.AntesDeEditarRamales();
+    bool salvado = false;
+    Proteger(d_, [this, &salvado] { salvado = editarRamales(); });
+    Accion([this, salvado] { logica_.DespuesDeEditarRamales(salvado); });
+    EnfocarGrid();
+    CerrarSiHaceFalta();
+}
