@@ -69,8 +69,15 @@ void MenuPrincipal::Ocupado(bool si) {
     d_.CursorOcupado(si);
 }
 
-void MenuPrincipal::TituloEdificio() { titulo_ = ::TituloEdificio(s_); }
-void MenuPrincipal::TituloAcueducto() { titulo_ = ::TituloAcueducto(s_); }
+void MenuPrincipal::TituloEdificio() {
+    titulo_ = ::TituloEdificio(s_);
+    Avisar();
+}
+
+void MenuPrincipal::TituloAcueducto() {
+    titulo_ = ::TituloAcueducto(s_);
+    Avisar();
+}
 
 void MenuPrincipal::MostrarSiHay(Pantalla p) {
     if (pantallas_.Disponible(p)) pantallas_.Mostrar(p);

@@ -25,6 +25,9 @@ public:
     // it raises ProyectoEdificio::ErrorNumeracion on a broken list.  Empty
     // while the program has no analysis.
     std::function<void()> VerificarNumeracion;
+    // Called when the caption or a tool's state changes, so the window shows
+    // a project chosen by a command before that command opens its screen.
+    std::function<void()> AlCambiar;
 
     // --- State drawn by the window.
     const QString& Titulo() const { return titulo_; }
@@ -81,7 +84,13 @@ public:
     void RepararArchivos();
 
 private:
-    void Habilitar(const QString& id, bool si) { habilitadas_[id] = si; }
+    void Habilitar(const QString& id, bool si) {
+        habilitadas_[id] = si;
+        Avisar();
+    }
+    void Avisar() {
+        if (AlCambiar) AlCambiar();
+    }
     void Mostrar(const QString& id, bool si) { visibles_[id] = si; }
     void Ocupado(bool si);
     void TituloEdificio();

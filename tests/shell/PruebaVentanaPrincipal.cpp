@@ -105,3 +105,20 @@ TEST_F(Ventana, LaSalidaCierraSinPreguntar) {
     v->Accion(QStringLiteral("ID_M1_Salida"))->trigger();
     EXPECT_FALSE(v->isVisible());
 }
+
+TEST(VentanaConDialogosFalsos, ElTituloMuestraElProyectoElegidoAntesDeSuPantalla) {
+    SesionPrueba sp;
+    qputenv("FONTARIA_DATOS", sp.s.DirectorioDatos.toUtf8());
+    ProyectoEdificio p;
+    DialogosFalsos d;
+    PantallasFalsas pantallas;
+    VentanaPrincipal v(sp.s, p, d, pantallas);
+    v.Arrancar(RutaProgramaPruebas());
+    const QString plm = sp.CopiaDeEjemplo(QStringLiteral("Edificio_MontantePH.nivo"), QStringLiteral("Montante.plm"));
+    d.archivos.push_back(plm);
+    QString tituloAlMostrar;
+    pantallas.alMostrar = [&](Pantalla) { tituloAlMostrar = v.windowTitle(); };
+    v.Accion(QStringLiteral("ID_M2_Computos"))->trigger();
+    qunsetenv("FONTARIA_DATOS");
+    EXPECT_EQ(tituloAlMostrar, QStringLiteral("NIVO-FONTARIA 2024    PROYECTO: [ MONTANTE.PLM ]"));
+}

@@ -115,6 +115,7 @@ VentanaPrincipal::VentanaPrincipal(Sesion& s, ProyectoEdificio& p, Dialogos& d, 
     banner_->setFont(f);
     statusBar()->addPermanentWidget(banner_);
     statusBar()->setSizeGripEnabled(true);
+    logica_.AlCambiar = [this] { RefrescarEstado(); };
 }
 
 void VentanaPrincipal::CrearAcciones() {
@@ -195,6 +196,12 @@ void VentanaPrincipal::EjecutarHerramienta(const QString& id) {
 }
 
 void VentanaPrincipal::Refrescar() {
+    RefrescarEstado();
+    tapiz_->Aplicar(s_.Tapiz);
+    tip_->Aplicar(s_.Tapiz);
+}
+
+void VentanaPrincipal::RefrescarEstado() {
     for (auto it = acciones_.begin(); it != acciones_.end(); ++it) {
         it.value()->setVisible(logica_.Visible(it.key()));
         it.value()->setEnabled(logica_.Habilitada(it.key()));
@@ -202,8 +209,6 @@ void VentanaPrincipal::Refrescar() {
     for (auto it = menus_.begin(); it != menus_.end(); ++it) it.value()->menuAction()->setVisible(logica_.Visible(it.key()));
     tab_->PonerTab(logica_.TabActual());
     setWindowTitle(logica_.Titulo());
-    tapiz_->Aplicar(s_.Tapiz);
-    tip_->Aplicar(s_.Tapiz);
 }
 
 void VentanaPrincipal::keyPressEvent(QKeyEvent* e) {

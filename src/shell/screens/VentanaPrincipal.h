@@ -39,6 +39,8 @@ public:
     void EjecutarHerramienta(const QString& id);
     // Draws the logic's state: shown and enabled tools, caption, wallpaper.
     void Refrescar();
+    // Caption and tools only, as a command changes them.
+    void RefrescarEstado();
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;
