@@ -77,10 +77,18 @@ void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s) {
         vistos.insert(nombre, cuenta);
         registros.push_back(nombre.left(LargoNombreNodo));
     };
-    listar(p.Inicio[1]);
-    for (int t = 1; t <= tramos; ++t) {
-        listar(p.ExtremosTramo(1, t));
-        listar(p.ExtremosTramo(2, t));
+    // The file is opened anew before the first name and takes each record as
+    // its node is listed: a numbering that stops leaves the records up to
+    // there, not those of an earlier network.
+    try {
+        listar(p.Inicio[1]);
+        for (int t = 1; t <= tramos; ++t) {
+            listar(p.ExtremosTramo(1, t));
+            listar(p.ExtremosTramo(2, t));
+        }
+    } catch (const ErrorEjecucion&) {
+        EscribirNodosDat(s, registros);
+        throw;
     }
     p.NumeroNodosACU = cuenta;
     p.NodosTramo.Redim(2, tramos);

@@ -27,7 +27,8 @@ QString RutaNodosDat(const Sesion& s);
 // Nodos.Dat, and NodosTramo from the trimmed names of the records (the last
 // matching record wins).  Runs even without sections, where reading the
 // first section is a subscript error.  The scratch file is written when its
-// folder can be made; the numbering does not depend on it.
+// folder can be made (a numbering that stops leaves the records listed so
+// far); the numbering does not depend on it.
 void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s);
 
 // NumerarNodos: nothing without sections; otherwise NumerarExtremos,

@@ -89,6 +89,36 @@ TEST(NumerarNodos, MasNombresQueTramosMasDiezEsSubindice) {
     EXPECT_EQ(q.NumeroNodosACU, 20);
 }
 
+TEST(NumerarNodos, UnaNumeracionQueSeDetieneRehaceElArchivoHastaAhi) {
+    // The node file is emptied before the first name is listed and takes a
+    // record per node as it goes, so a numbering that stops leaves the
+    // records written up to there, never those of the network before.
+    SesionPrueba sp;
+    ProyectoAcueducto antes = Tramos({{"A", "B"}, {"B", "C"}});
+    NumerarNodos(antes, sp.s);
+    QFile f(RutaNodosDat(sp.s));
+    ASSERT_EQ(f.size(), 3 * 24);
+
+    // 11 separate sections: 22 names, room for 11 + 10 = 21.
+    std::vector<std::pair<QString, QString>> islas;
+    for (int k = 0; k < 11; ++k) islas.push_back({QStringLiteral("I%1").arg(k), QStringLiteral("J%1").arg(k)});
+    ProyectoAcueducto p = Tramos(islas);
+    EXPECT_THROW(NumerarNodos(p, sp.s), ErrorEjecucion);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QByteArray b = f.readAll();
+    f.close();
+    ASSERT_EQ(b.size(), 21 * 24);
+    EXPECT_EQ(b.mid(20 * 24, 20), QByteArray("I10                 "));
+    EXPECT_EQ(uint8_t(b[20 * 24 + 20]), 21);
+
+    // The solver's renumbering of a network without sections stops at the
+    // first section, with the file already opened anew and empty.
+    ProyectoAcueducto vacia;
+    EXPECT_THROW(RenumerarNodos(vacia, sp.s), ErrorEjecucion);
+    EXPECT_TRUE(f.exists());
+    EXPECT_EQ(f.size(), 0);
+}
+
 TEST(NumerarNodos, SinTramosNoHaceNada) {
     SesionPrueba sp;
     ProyectoAcueducto p;
