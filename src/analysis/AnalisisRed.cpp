@@ -388,9 +388,11 @@ void AnalisisRed::Reconstruir() {
     VaciarGrids();
     Frame3Visible = false;
     if (p_.NumeroRamales > 0) {
-        // A numbering fault has shown its message: the grids stay empty.
+        // A numbering fault shows its message and the rebuild goes on with
+        // the node numbers as they stand, so the engineer sees what the list
+        // gives; only the command refuses a broken list before the screen.
         VerificarNumeracion(p_, d_);
-        if (p_.ErrorNumeracion == 0) EjecutarCadena();
+        EjecutarCadena();
     }
     SSPanel1 = QString::number(int(p_.NumeroRamales));
 }

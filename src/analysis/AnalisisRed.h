@@ -120,7 +120,8 @@ public:
 
     // The return from the branch editor (LSButton11).  When the editor saved:
     // the file is read again, the grids emptied and, with branches, the
-    // network verified and the chain run.
+    // network verified and the chain run; a numbering fault is shown and the
+    // chain runs all the same on the node numbers as they stand.
     void RetornoEditorRamales(bool salvado);
 
     // ---- The chain -------------------------------------------------------

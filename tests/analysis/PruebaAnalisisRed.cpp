@@ -302,3 +302,28 @@ TEST_F(PantallaAnalisis, RetornoDelEditorSoloSiSeSalvo) {
     EXPECT_EQ(a.Spread4.Filas(), 5);
     EXPECT_EQ(a.SSPanel1, QStringLiteral("5"));
 }
+
+TEST_F(PantallaAnalisis, UnaNumeracionErradaAlVolverDelEditorMuestraSuMensajeYSigue) {
+    Pequeno();
+    AnalisisRed a(p, sp.s, d);
+    a.Cargar();
+    ASSERT_TRUE(d.mensajes.empty());
+    // The editor saved a third branch whose two ends are the same node.
+    ProyectoEdificio copia;
+    ProyectoDeRamales(copia, sp.s, {{"O", "A"}, {"A", "B"}, {"B", "B"}});
+    QString error;
+    ASSERT_TRUE(SalvarProyecto(copia, sp.s, error));
+    a.RetornoEditorRamales(true);
+    ASSERT_EQ(d.mensajes.size(), 1u);
+    EXPECT_EQ(d.Ultimo().texto, QStringLiteral("Existe un Error en la Numeración de los Ramales...\n"
+                                               "Ramal-> 3   ( I ) = B  ó   ( J ) = B\n"
+                                               "¡Debe Corregir el Error para realizar el Análisis!"));
+    // The rebuild goes on with the node numbers as they stand: branch 3
+    // hangs from the end of branch 2, and every tab shows the three branches.
+    EXPECT_EQ(a.Spread4.Filas(), 3);
+    EXPECT_EQ(a.Spread1.Filas(), 3);
+    EXPECT_EQ(a.Spread2.Filas(), 3);
+    EXPECT_EQ(a.Spread3.Filas(), 3);
+    EXPECT_EQ(a.Spread3.Texto(3, 2), QStringLiteral("B"));
+    EXPECT_EQ(a.SSPanel1, QStringLiteral("3"));
+}
