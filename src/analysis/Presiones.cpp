@@ -52,7 +52,7 @@ void TanqueElevado(ProyectoEdificio& p) {
         p.PerdidaRamal[1] = PerdidaDelMontante(p, p.Valor3 + s);
         // The branch number W stands as the node index here, on purpose.
         double t = p.Valor3 + s1 + p.PerdidaRamal[1] + p.CotaRelativa[w];
-        for (;;) {
+        for (int vuelta = 1;; ++vuelta) {
             const double antes = p.PerdidaRamal[1];
             const double nueva = PerdidaDelMontante(p, t);
             p.PerdidaRamal[1] = nueva;
@@ -60,6 +60,10 @@ void TanqueElevado(ProyectoEdificio& p) {
             // A loss that grows without end overflows, as the older runtime did.
             if (!std::isfinite(t)) throw ErrorEjecucion(Error::Desbordamiento);
             if (RoundNivo(nueva - antes, 2) < 0.01) break;
+            // Each round adds the last one's growth times the riser's unit
+            // loss: from 1 m/m up it never shrinks, and the height runs away.
+            if (vuelta > 1 && p.PerdidaUnitaria[1] >= 1.0)
+                throw ErrorEjecucion(Error::Desbordamiento, QStringLiteral("altura del tanque elevado"));
         }
         p.longitudReal[1] = t;
         p.PerdidaRamal[1] = PerdidaDelMontante(p, t);

@@ -118,6 +118,20 @@ TEST_F(Presiones, OpcionDosCalculaLaAlturaDelTanque) {
     EXPECT_NEAR(p.PresionRamal[2], 1.5, 1e-9);
 }
 
+TEST_F(Presiones, UnMontanteQuePierdeUnMetroPorMetroNoTieneAltura) {
+    // 1.7323 l/s in 1": (1.7323 / (1.5377 x 1.0488^2.5))^2 = 1.0000 m/m, so
+    // each round of the height adds again all that the last one added.
+    Red(5.0, {0, 0, 1.5, 0});
+    p.OpcionPresionInicial = 2;
+    p.Gasto[1] = 1.7323;
+    try {
+        CalcularPresiones(p);
+        FAIL() << "la altura no puede asentarse";
+    } catch (const ErrorEjecucion& e) {
+        EXPECT_EQ(e.numero(), Error::Desbordamiento);
+    }
+}
+
 TEST_F(Presiones, SumaTrayectoSinElPrimero) {
     Red(10.0, {0, 0, 3, 0});
     CalcularPresiones(p);
