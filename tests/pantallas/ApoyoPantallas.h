@@ -1,21 +1,17 @@
 #pragma once
 // Support of the screen tests: the desktop's dialogs with the file dialogs
-// scripted, a sample project loaded as the commands load it, a project
-// file's column read back, typing into a box, and acting on the next modal
-// window from inside its loop.
+// scripted, a sample project loaded as the commands load it, and a project
+// file's column read back.
 
 #include "analysis/CargaProyecto.h"
 #include "analysis/Numeracion.h"
 #include "model/ProyectoEdificio.h"
-#include "shell/EsperaModal.h"
 #include "shell/screens/DialogosQt.h"
 #include "store/Conexion.h"
 #include "support/Apoyo.h"
+#include "support/Modales.h"
 
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <deque>
 
 // The real message box (frmMsgBox) and busy pointer; the file dialogs
@@ -32,42 +28,6 @@ public:
         return r;
     }
 };
-
-// What a message box showed: body, head line and title.
-struct MensajeVisto {
-    QString texto, encabezado, titulo;
-};
-
-// Reads the next message box and answers it with its button `boton`
-// (0..2: Button1..Button3).
-inline void ContestarCaja(MensajeVisto& visto, int boton) {
-    CuandoAparezca([&visto, boton](frmMsgBox* c) {
-        visto.texto = c->findChild<QLabel*>(QStringLiteral("Label2"))->text();
-        visto.encabezado = c->findChild<QLabel*>(QStringLiteral("Label1"))->text();
-        visto.titulo = c->windowTitle();
-        c->Boton(boton)->click();
-    });
-}
-
-// Runs `f` on the next modal window of type T, from inside its loop.
-template <class T, class F>
-void CuandoAbra(F f) {
-    QTimer::singleShot(0, [f] {
-        auto* w = qobject_cast<T*>(QApplication::activeModalWidget());
-        ASSERT_NE(w, nullptr);
-        f(w);
-    });
-}
-
-// Types a text into a box as the keyboard would, replacing what it held.
-inline void Escribir(QLineEdit* caja, const QString& texto) {
-    caja->setFocus();
-    caja->selectAll();
-    for (const QChar c : texto) {
-        QKeyEvent e(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-        QApplication::sendEvent(caja, &e);
-    }
-}
 
 // A sample (Imagen/NAME.nivo) copied to Proyectos/NAME.plm, chosen, loaded
 // and verified as the result commands do.

@@ -170,14 +170,14 @@ TEST_F(PantallaAnalisis, UnaValvulaBajaLaPresionAguasAbajoYSeGuarda) {
 TEST_F(PantallaAnalisis, IgualarDiametrosPreguntaConLaCajaDelPrograma) {
     Editar(1, 8, 7, QStringLiteral("3/4\""));
     MensajeVisto visto;
-    ContestarCaja(visto, 0);  // "No"
+    Contestar(visto, 0);  // "No"
     v->Boton(QStringLiteral("LSButton2"))->click();
     EXPECT_EQ(visto.texto, QStringLiteral("Igualar el Diámetro Asumido en los Ramales al Diámetro de Cálculo?"));
     EXPECT_EQ(visto.encabezado, QStringLiteral("Diámetros de los Ramales..."));
     EXPECT_EQ(visto.titulo, QStringLiteral("Proyecto de Fontaria"));
     EXPECT_EQ(Texto(1, 8, 7), QStringLiteral("3/4\""));
 
-    ContestarCaja(visto, 1);  // "Sí"
+    Contestar(visto, 1);  // "Sí"
     v->Boton(QStringLiteral("LSButton2"))->click();
     EXPECT_EQ(Texto(1, 8, 7), QStringLiteral("1/2\""));
     EXPECT_EQ(Texto(1, 8, 8), QStringLiteral("1.02"));
@@ -265,7 +265,7 @@ TEST_F(PantallaAnalisis, UnaFallaDelCalculoSeMuestraYCierraLaPantalla) {
     ASSERT_TRUE(m.setData(m.index(1, 13), QStringLiteral("1"), Qt::EditRole));
     // The box opens inside the edit's handler, which runs first.
     MensajeVisto visto;
-    ContestarCaja(visto, 0);
+    Contestar(visto, 0);
     QApplication::processEvents();
     EXPECT_TRUE(visto.texto.startsWith(QStringLiteral("Error 11: División por cero"))) << visto.texto.toStdString();
     EXPECT_EQ(visto.encabezado, QStringLiteral("Error en el Cálculo..."));
@@ -280,7 +280,7 @@ TEST(PantallaAnalisisCarga, UnaFallaAlCargarNoMuestraLaPantalla) {
     p.CoeficienteC = 0.0;  // the sample computes its losses by Hazen-Williams
     VentanaAnalisisRed v(p, sp.s, d);
     MensajeVisto visto;
-    ContestarCaja(visto, 0);
+    Contestar(visto, 0);
     EXPECT_FALSE(v.Cargar());
     EXPECT_TRUE(visto.texto.startsWith(QStringLiteral("Error 11: División por cero"))) << visto.texto.toStdString();
     EXPECT_EQ(visto.titulo, QStringLiteral("Proyecto de Fontaria"));

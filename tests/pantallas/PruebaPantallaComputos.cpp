@@ -128,7 +128,7 @@ TEST_F(PantallaComputos_, UnaFallaDelAnalisisAlAbrirSeMuestraYCierra) {
     }
     d.archivos = {otro};
     MensajeVisto visto;
-    ContestarCaja(visto, 0);
+    Contestar(visto, 0);
     v->Boton(QStringLiteral("Abrir"))->click();
     EXPECT_TRUE(visto.texto.startsWith(QStringLiteral("Error 11: División por cero"))) << visto.texto.toStdString();
     EXPECT_EQ(visto.encabezado, QStringLiteral("Error en el Cálculo..."));

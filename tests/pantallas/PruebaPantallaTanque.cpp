@@ -115,7 +115,7 @@ TEST_F(PantallaTanque, UnaFallaDelCalculoSeMuestraYLasEntradasQuedan) {
     // A maximum pressure of -10 m divides by zero in the pressure ratio.
     Teclear("PresionMaxima", "-10");
     MensajeVisto visto;
-    ContestarCaja(visto, 0);
+    Contestar(visto, 0);
     v->Boton(QStringLiteral("Calcular"))->click();
     EXPECT_EQ(visto.texto, QStringLiteral("Error 11: División por cero"));
     EXPECT_EQ(visto.encabezado, QStringLiteral("Error en el Cálculo..."));

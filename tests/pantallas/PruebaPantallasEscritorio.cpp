@@ -78,7 +78,7 @@ TEST_F(Escritorio, UnaRedRotaNoLlegaALaPantalla) {
     bool pantalla = false;
     QTimer::singleShot(0, [&] { pantalla = qobject_cast<VentanaAnalisisRed*>(QApplication::activeModalWidget()); });
     MensajeVisto visto;
-    ContestarCaja(visto, 0);
+    Contestar(visto, 0);
     v->EjecutarHerramienta(QStringLiteral("ID_M2_AnalisisRed"));
     EXPECT_EQ(visto.texto, QStringLiteral("El Nodo-> ( X  del Ramal: 3 )\n¡Este Nodo está Desconectado!\n"
                                           "Debe Corregir el Error para Realizar el Análisis..."));

@@ -1,56 +1,16 @@
 #pragma once
 // Support of the aqueduct screen tests: a session with its Redes folder, the
-// samples loaded as the commands load them, the real message box answered
-// from inside its loop, and typing into a grid through its editor.
+// samples loaded as the commands load them, and typing into a grid through
+// its editor.
 
 #include "aqueduct/ArchivoAcueducto.h"
 #include "aqueduct/ProyectoAcueducto.h"
-#include "shell/EsperaModal.h"
 #include "shell/screens/DialogosQt.h"
 #include "support/Apoyo.h"
+#include "support/Modales.h"
 #include "widgets/VistaGrid.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTimer>
-#include <gtest/gtest.h>
-
-// What a message box showed.
-struct CajaVista {
-    QString texto, encabezado, titulo;
-};
-
-// The next message box: its texts are kept and the button `boton`
-// (0..2: Button1..Button3) is pressed.  Several answers may wait at once:
-// each takes a box not yet answered, in turn.
-inline void Contestar(CajaVista& vista, int boton, int intentos = 100) {
-    QTimer::singleShot(intentos == 100 ? 0 : 10, [&vista, boton, intentos] {
-        auto* caja = qobject_cast<frmMsgBox*>(QApplication::activeModalWidget());
-        if ((!caja || caja->property("contestada").toBool()) && intentos > 0) {
-            Contestar(vista, boton, intentos - 1);
-            return;
-        }
-        ASSERT_NE(caja, nullptr);
-        caja->setProperty("contestada", true);
-        vista.texto = caja->findChild<QLabel*>(QStringLiteral("Label2"))->text();
-        vista.encabezado = caja->findChild<QLabel*>(QStringLiteral("Label1"))->text();
-        vista.titulo = caja->windowTitle();
-        caja->Boton(boton)->click();
-    });
-}
-
-// Acts on the next modal dialog of type T from inside its loop.
-template <typename T>
-void CuandoAparezcaDialogo(std::function<void(T*)> f) {
-    QTimer::singleShot(0, [f] {
-        auto* d = qobject_cast<T*>(QApplication::activeModalWidget());
-        ASSERT_NE(d, nullptr);
-        f(d);
-    });
-}
 
 // Lets the queued reports of the grids and the screens run.
 inline void Procesar() {

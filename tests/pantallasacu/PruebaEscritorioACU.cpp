@@ -26,7 +26,7 @@ TEST_F(Escritorio, LasHerramientasDeAcueductosAbrenSusPantallas) {
     ruta = sp.CopiaDeEjemplo(QStringLiteral("EjemploRedA.nivo"), QStringLiteral("Redes/EjemploRedA.acu"));
     falsos.archivos.push_back(ruta);
     int filas = -1;
-    CuandoAparezcaDialogo<VentanaAnalisisACU>([&](VentanaAnalisisACU* a) {
+    CuandoAbra<VentanaAnalisisACU>([&](VentanaAnalisisACU* a) {
         filas = a->Vista1()->model()->rowCount();
         a->Boton(QStringLiteral("LSButton3"))->click();  // "Retorno"
     });
@@ -35,7 +35,7 @@ TEST_F(Escritorio, LasHerramientasDeAcueductosAbrenSusPantallas) {
     EXPECT_EQ(menu.Titulo(), QStringLiteral("NIVO-REDES    PROYECTO:[ EJEMPLOREDA.ACU ]"));
 
     QString pagina;
-    CuandoAparezcaDialogo<VentanaDatosAcueducto>([&](VentanaDatosAcueducto* d) {
+    CuandoAbra<VentanaDatosAcueducto>([&](VentanaDatosAcueducto* d) {
         pagina = d->windowTitle();
         d->reject();
     });

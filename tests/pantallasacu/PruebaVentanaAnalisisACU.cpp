@@ -35,7 +35,7 @@ struct AnalisisPantalla : PantallaACU {
     // says why it cannot be solved, and the screen closes with empty grids.
     void FallaAlAbrir(const QString& linea, const QString& encabezado) {
         Guardar();
-        CajaVista caja;
+        MensajeVisto caja;
         Contestar(caja, 0);
         Mostrar(qt);
         EXPECT_EQ(caja.texto, QStringLiteral("Proyecto: EjemploRedA.acu\n") + linea);
@@ -139,7 +139,7 @@ TEST_F(AnalisisPantalla, LasPestanasYLosClicsMuevenRamalYNodo) {
 TEST_F(AnalisisPantalla, BuscarUnRamalConElDialogoDelNumero) {
     Abrir("EjemploRedA", falsos);
     auto responder = [](int numero, bool aceptar) {
-        CuandoAparezcaDialogo<VentanaBuscarPartida>([numero, aceptar](VentanaBuscarPartida* b) {
+        CuandoAbra<VentanaBuscarPartida>([numero, aceptar](VentanaBuscarPartida* b) {
             EXPECT_EQ(b->windowTitle(), QStringLiteral("Buscar un Ramal"));
             b->Numero()->setText(QString::number(numero));
             Q_EMIT b->Numero()->textEdited(b->Numero()->text());
@@ -172,7 +172,7 @@ TEST_F(AnalisisPantalla, CorregirDireccionInvierteElRamalNegativoDelEjemploB) {
     for (int t : negativos) antes << p.Inicio[t] + QLatin1Char('-') + p.Final[t];
     v->Tabs()->setCurrentIndex(1);
 
-    CajaVista caja;
+    MensajeVisto caja;
     Contestar(caja, 1);  // "Sí"
     Boton("LSButton1")->click();
     EXPECT_EQ(caja.texto, QStringLiteral("Invertir la Dirección (I)<->(J) en los Ramales de los \nCaudales Negativos de la "

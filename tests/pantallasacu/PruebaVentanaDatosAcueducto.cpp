@@ -184,7 +184,7 @@ TEST_F(DatosACU, ElCierreConCambiosPreguntaEnLaCajaDelPrograma) {
     QApplication::sendEvent(text3, &tecla);
     EXPECT_EQ(p.Cliente, QStringLiteral("X"));
     EXPECT_EQ(s.DatosModificados, -1);
-    CajaVista caja;
+    MensajeVisto caja;
     Contestar(caja, 0);  // "Cancelar": the screen stays
     v->reject();
     EXPECT_TRUE(v->isVisible());
@@ -203,7 +203,7 @@ TEST_F(DatosACU, InsertarYEliminarConSusPreguntasYElCoeficiente) {
     Boton("Siguiente")->click();
     VistaGrid* g = v->Vista1();
     g->setCurrentIndex(g->model()->index(1, 2));
-    CajaVista caja;
+    MensajeVisto caja;
     Contestar(caja, 1);  // "Sí"
     Boton("Insertar")->click();
     EXPECT_EQ(caja.texto, QStringLiteral("Insertar un Nuevo Ramal en la Posición: ( 2 )"));
@@ -257,7 +257,7 @@ TEST_F(DatosACU, ElMenuDelBotonDerechoInsertaEnLaFilaPulsada) {
 TEST_F(DatosACU, CompatibilidadYSiguienteSenalanElDatoMalo) {
     Abrir("EjemploRedA", qt);
     Boton("Siguiente")->click();
-    CajaVista caja;
+    MensajeVisto caja;
     Contestar(caja, 0);
     Boton("Compatibilidad")->click();
     EXPECT_EQ(caja.texto, QStringLiteral("No Existen Errores en los Tramos..."));
@@ -279,7 +279,7 @@ TEST_F(DatosACU, CompatibilidadYSiguienteSenalanElDatoMalo) {
     EscribirYSalir(v->Vista1(), 25, 1, QStringLiteral("Isla-1"));
     EscribirYSalir(v->Vista1(), 25, 2, QStringLiteral("Isla-2"));
     Procesar();
-    CajaVista primera, segunda;
+    MensajeVisto primera, segunda;
     Contestar(primera, 0);
     Contestar(segunda, 0);
     Boton("Compatibilidad")->click();
@@ -334,7 +334,7 @@ TEST_F(DatosACU, UnBloqueDeUnaColumnaPideUnSoloValor) {
 TEST_F(DatosACU, UnCoeficienteFueraDeLosLimitesSeAvisa) {
     Abrir("EjemploRedA", qt);
     Boton("Siguiente")->click();
-    CajaVista caja;
+    MensajeVisto caja;
     Contestar(caja, 0);
     EscribirYSalir(v->Vista1(), 2, 5, QStringLiteral("40000"));
     Procesar();

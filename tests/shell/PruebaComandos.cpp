@@ -8,7 +8,6 @@
 #include "support/Apoyo.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <gtest/gtest.h>
 
@@ -40,12 +39,6 @@ struct Comandos : ::testing::Test {
     }
 };
 
-void EscribirTexto(const QString& ruta, const char* texto) {
-    QFile f(ruta);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(texto);
-}
-
 bool EsBaseDeProyecto(const QString& ruta) {
     Conexion c;
     return c.Abrir(ruta) && c.ExisteTabla(QStringLiteral("DatosRamales"));
@@ -55,7 +48,7 @@ bool EsBaseDeProyecto(const QString& ruta) {
 
 TEST_F(Comandos, NuevoProyectoCopiaLaPlantillaSobreElArchivoYMuestraElEditor) {
     const QString ruta = Proyectos(QStringLiteral("casa.plm"));
-    EscribirTexto(ruta, "un archivo anterior");
+    EscribirArchivo(ruta, "un archivo anterior");
     d.archivos.push_back(ruta);
     menu.NuevoProyecto();
     EXPECT_EQ(d.dialogosArchivo.value(0), Dialogo("Crear un Nuevo Proyecto", "Fontaria (*.plm)|*.plm", "Proyectos"));
@@ -75,14 +68,21 @@ TEST_F(Comandos, UnDialogoCanceladoNoCambiaNada) {
     menu.AbrirProyecto();
     menu.EliminarProyectos();
     menu.ACUAbrirProyecto();
-    EXPECT_EQ(d.dialogosArchivo.size(), 4);
+    menu.ModificarProyecto();  // asks once for the project, and the cancel ends it
+    EXPECT_EQ(d.dialogosArchivo.size(), 5);
     EXPECT_TRUE(s.NombreProyecto.isEmpty());
     EXPECT_TRUE(s.NombreProyectoACU.isEmpty());
     EXPECT_TRUE(pantallas.mostradas.empty());
     EXPECT_TRUE(d.mensajes.empty());
     EXPECT_FALSE(menu.Habilitada(QStringLiteral("ID_M1_SalvarComo")));
     EXPECT_FALSE(menu.Habilitada(QStringLiteral("ID_A_Salvar")));
+    EXPECT_EQ(int(p.NumeroRamales), 0);
     EXPECT_EQ(d.ocupado, 0);
+    // A cancelled save-as leaves the chosen project.
+    ElegirEjemplo();
+    menu.SalvarComo();
+    EXPECT_EQ(s.NombreProyecto, QStringLiteral("casa.plm"));
+    EXPECT_TRUE(d.mensajes.empty());
 }
 
 TEST_F(Comandos, AbrirProyectoSoloEligeElArchivo) {
@@ -94,13 +94,6 @@ TEST_F(Comandos, AbrirProyectoSoloEligeElArchivo) {
     EXPECT_EQ(p.Proyecto, QStringLiteral("sin tocar"));  // nothing loaded
     EXPECT_FALSE(s.ConexionProyecto.Abierta());
     EXPECT_TRUE(menu.Habilitada(QStringLiteral("ID_M1_SalvarComo")));
-}
-
-TEST_F(Comandos, ModificarSinProyectoPideUnoUnaVezYElCancelarTermina) {
-    menu.ModificarProyecto();
-    EXPECT_EQ(d.dialogosArchivo.size(), 1);
-    EXPECT_TRUE(pantallas.mostradas.empty());
-    EXPECT_EQ(int(p.NumeroRamales), 0);
 }
 
 TEST_F(Comandos, ModificarCargaElProyectoYMuestraElEditor) {
@@ -129,13 +122,6 @@ TEST_F(Comandos, SalvarComoRechazaSuPropioNombreEnCualquierCasoYVuelveAlDialogo)
     EXPECT_EQ(s.ArchivoProyecto, Proyectos(QStringLiteral("copia.plm")));
     EXPECT_EQ(menu.Titulo(), QStringLiteral("NIVO-FONTARIA 2024    PROYECTO: [ COPIA.PLM ]"));
     EXPECT_FALSE(s.ConexionProyecto.Abierta());
-}
-
-TEST_F(Comandos, SalvarComoCanceladoDejaElProyecto) {
-    ElegirEjemplo();
-    menu.SalvarComo();
-    EXPECT_EQ(s.NombreProyecto, QStringLiteral("casa.plm"));
-    EXPECT_TRUE(d.mensajes.empty());
 }
 
 TEST_F(Comandos, EliminarHaceDosPreguntasConSusDefectos) {
@@ -266,7 +252,7 @@ TEST_F(Comandos, ElTanqueNoPideProyecto) {
 
 TEST_F(Comandos, UnArchivoAjenoDaUnMensajeYNoMuestraPantalla) {
     const QString texto = Proyectos(QStringLiteral("notas.plm"));
-    EscribirTexto(texto, "esto no es una base de datos, sino un texto cualquiera con bastante longitud");
+    EscribirArchivo(texto, "esto no es una base de datos, sino un texto cualquiera con bastante longitud");
     d.archivos.push_back(texto);
     menu.ResultadosAnalisis();
     ASSERT_EQ(d.mensajes.size(), 1u);

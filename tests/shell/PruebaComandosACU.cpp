@@ -8,7 +8,6 @@
 #include "support/Apoyo.h"
 
 #include <QDir>
-#include <QFile>
 #include <gtest/gtest.h>
 
 namespace {
@@ -53,12 +52,7 @@ TEST_F(ComandosACU, LasHerramientasDeAcueductosCorrenSusOrdenes) {
 }
 
 TEST_F(ComandosACU, NuevoProyectoEmpiezaDeLaPlantillaConSusValores) {
-    const QString ruta = Redes(QStringLiteral("pueblo.acu"));
-    {
-        QFile f(ruta);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("un archivo anterior");
-    }
+    const QString ruta = EscribirArchivo(Redes(QStringLiteral("pueblo.acu")), "un archivo anterior");
     // What the previous network left in memory goes.
     acu.Proyecto = QStringLiteral("Otra red");
     acu.C = 90;
@@ -148,12 +142,7 @@ TEST_F(ComandosACU, ResultadosSinRamalesAvisaYNoMuestraPantalla) {
 }
 
 TEST_F(ComandosACU, UnArchivoAjenoSeAvisaYNoAbreNingunaPantalla) {
-    const QString ruta = Redes(QStringLiteral("ajena.acu"));
-    {
-        QFile f(ruta);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("no es una base de datos");
-    }
+    const QString ruta = EscribirArchivo(Redes(QStringLiteral("ajena.acu")), "no es una base de datos");
     d.archivos.push_back(ruta);
     menu.ACUAbrirProyecto();
     menu.ACUModificarProyecto();

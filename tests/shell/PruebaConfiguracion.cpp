@@ -6,18 +6,12 @@
 #include "support/Apoyo.h"
 
 #include <QCheckBox>
-#include <QFile>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QtEndian>
 #include <gtest/gtest.h>
 
 namespace {
-
-QByteArray Leer(const QString& ruta) {
-    QFile f(ruta);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 // The bytes of record n (1-based) of 128.
 QByteArray Registro(const QByteArray& datos, int n) { return datos.mid((n - 1) * 128, 128); }
@@ -84,13 +78,9 @@ TEST_F(Configuracion, LosColoresCanceladosSeConservan) {
 TEST_F(Configuracion, AceptarEscribeLosAnchosDeLaPantalla) {
     // Fill records 2, 3, 5 and 7 with a 16-bit pattern: a byte write keeps
     // the record's second byte.
-    QByteArray antes = Leer(Archivo());
+    QByteArray antes = LeerArchivo(Archivo());
     for (int n : {2, 3, 5, 7}) antes[(n - 1) * 128 + 1] = char(0x5A);
-    {
-        QFile f(Archivo());
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(antes);
-    }
+    EscribirArchivo(Archivo(), antes);
     ConfiguracionPrograma c(sp.s);
     c.PonerVertical(2);
     c.PonerHorizontal(1);
@@ -102,7 +92,7 @@ TEST_F(Configuracion, AceptarEscribeLosAnchosDeLaPantalla) {
     c.ElegirColorFondo(d);
     c.ElegirColorTexto(d);
     ASSERT_TRUE(c.Aceptar(sp.s, d));
-    const QByteArray b = Leer(Archivo());
+    const QByteArray b = LeerArchivo(Archivo());
     ASSERT_EQ(b.size(), 11 * 128);
     const QByteArray ruta = sp.Datos(QStringLiteral("Tapices/TapizNivo.jpg")).toUtf8();
     EXPECT_EQ(qFromLittleEndian<quint16>(Registro(b, 1).constData()), ruta.size());
@@ -118,19 +108,21 @@ TEST_F(Configuracion, AceptarEscribeLosAnchosDeLaPantalla) {
     EXPECT_EQ(Registro(b, 10).left(2), QByteArray("\xFF\xFF", 2));
     EXPECT_EQ(Registro(b, 11).left(2), QByteArray("\x00\x00", 2));
     EXPECT_EQ(sp.s.Tapiz.TamanoLetraTip, 4);
-    // The records of the same width read back as written.
+    // The records of the same width read back as written; record 2, read as
+    // 16 bits, carries the byte after it.
     const ConfiguracionTapiz r = LeerTapiz(Archivo());
     EXPECT_TRUE(r.ProporcionTapiz);
     EXPECT_EQ(r.ColorTextoTip, 0x7F102030);
+    EXPECT_EQ(r.PosicionVertical, 0x5A02);
 }
 
 TEST_F(Configuracion, LaPantallaCanceladaDejaElArchivo) {
-    const QByteArray antes = Leer(Archivo());
+    const QByteArray antes = LeerArchivo(Archivo());
     ConfigurarPrograma pantalla(sp.s, d);
     pantalla.findChild<QRadioButton*>(QStringLiteral("Option3"))->setChecked(true);
     EXPECT_EQ(pantalla.Logica().Valores().PosicionVertical, 2);
     pantalla.findChild<QPushButton*>(QStringLiteral("Command5"))->click();
-    EXPECT_EQ(Leer(Archivo()), antes);
+    EXPECT_EQ(LeerArchivo(Archivo()), antes);
     EXPECT_EQ(sp.s.Tapiz.PosicionVertical, 0);
 }
 

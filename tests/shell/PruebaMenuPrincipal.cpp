@@ -87,7 +87,6 @@ TEST_F(Menu, LasHerramientasSinPantallaQuedanVisiblesYDesactivadas) {
     EXPECT_TRUE(m.Ejecutar(QStringLiteral("ID_M2_AnalisisRed")));
     EXPECT_TRUE(d.dialogosArchivo.isEmpty());
     EXPECT_EQ(m.Titulo(), QStringLiteral("NIVO-FONTARIA 2024    PROYECTO: [  ]"));
-    EXPECT_EQ(MenuPrincipal::TextoRevision(), QStringLiteral("Revisión: ") + QStringLiteral(FONTARIA_VERSION));
 }
 
 TEST_F(Menu, EscPreguntaYLaCajaDeCierreNo) {

@@ -1,11 +1,14 @@
 #include "Apoyo.h"
 
+#include "base/ErrorEjecucion.h"
 #include "base/Nivo.h"
+#include "store/Conexion.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <gtest/gtest.h>
 
 QString RutaProgramaPruebas() { return QStringLiteral(FONTARIA_RUTA_PROGRAMA); }
 QString EjecutablePruebas() { return QStringLiteral(FONTARIA_EJECUTABLE); }
@@ -102,4 +105,32 @@ int EjecutarPrograma(const QStringList& args, QString* salida, QString* errores,
     if (salida) *salida = QString::fromUtf8(p.readAllStandardOutput());
     if (errores) *errores = QString::fromUtf8(p.readAllStandardError());
     return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+}
+
+int NumeroDeError(const std::function<void()>& f) {
+    try {
+        f();
+    } catch (const ErrorEjecucion& e) {
+        return e.numero();
+    }
+    return 0;
+}
+
+QString EscribirArchivo(const QString& ruta, const QByteArray& bytes) {
+    QFile f(ruta);
+    if (!f.open(QIODevice::WriteOnly)) ADD_FAILURE() << "no se puede escribir " << ruta.toStdString();
+    f.write(bytes);
+    return ruta;
+}
+
+QByteArray LeerArchivo(const QString& ruta) {
+    QFile f(ruta);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+bool EjecutarSql(const QString& ruta, const QString& sql) {
+    Conexion c;
+    const bool hecho = c.Abrir(ruta) && c.Ejecutar(sql);
+    if (!hecho) ADD_FAILURE() << sql.toStdString() << ": " << c.UltimoError().toStdString();
+    return hecho;
 }

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <deque>
+#include <functional>
 #include <ostream>
 #include <vector>
 
@@ -68,6 +69,18 @@ public:
 private:
     QTemporaryDir dir_;
 };
+
+// The number of the run-time error that `f` raises; 0 when it raises none.
+int NumeroDeError(const std::function<void()>& f);
+
+// Writes `bytes` as the whole file (a foreign or broken file for a test);
+// returns the path.
+QString EscribirArchivo(const QString& ruta, const QByteArray& bytes);
+QByteArray LeerArchivo(const QString& ruta);
+// Runs one statement on a database file through a connection of its own,
+// as another program would change the file; false with a test failure when
+// it cannot.
+bool EjecutarSql(const QString& ruta, const QString& sql);
 
 // Runs the built executable with arguments; returns the exit status and
 // fills the outputs.
