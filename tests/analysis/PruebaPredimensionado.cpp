@@ -82,12 +82,7 @@ TEST_F(Predimensionado, VelocidadEnElDiametroInterior) {
 TEST_F(Predimensionado, VelocidadCeroEsUnaDivisionPorCero) {
     Uno(1.0);
     p.Velocidad = 0.0;
-    try {
-        CalcularPredimensionado(p);
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), Error::DivisionPorCero);
-    }
+    EXPECT_EQ(NumeroDeError([&] { CalcularPredimensionado(p); }), Error::DivisionPorCero);
 }
 
 TEST_F(Predimensionado, ConvertirUnNombreFueraDeLaTablaTomaElTeorico) {

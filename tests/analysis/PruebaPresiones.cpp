@@ -124,12 +124,7 @@ TEST_F(Presiones, UnMontanteQuePierdeUnMetroPorMetroNoTieneAltura) {
     Red(5.0, {0, 0, 1.5, 0});
     p.OpcionPresionInicial = 2;
     p.Gasto[1] = 1.7323;
-    try {
-        CalcularPresiones(p);
-        FAIL() << "la altura no puede asentarse";
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), Error::Desbordamiento);
-    }
+    EXPECT_EQ(NumeroDeError([&] { CalcularPresiones(p); }), Error::Desbordamiento);
 }
 
 TEST_F(Presiones, SumaTrayectoSinElPrimero) {
@@ -145,10 +140,5 @@ TEST_F(Presiones, SumaTrayectoSinElPrimero) {
 TEST_F(Presiones, DiametroFueraDeTablaEsUnError) {
     Red(10.0, {0, 0, 0, 0});
     p.DiametroAsumido[2] = 0.0;
-    try {
-        CalcularPresiones(p);
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), Error::DivisionPorCero);
-    }
+    EXPECT_EQ(NumeroDeError([&] { CalcularPresiones(p); }), Error::DivisionPorCero);
 }

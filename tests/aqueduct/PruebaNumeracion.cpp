@@ -77,12 +77,7 @@ TEST(NumerarNodos, MasNombresQueTramosMasDiezEsSubindice) {
     std::vector<std::pair<QString, QString>> islas;
     for (int k = 0; k < 11; ++k) islas.push_back({QStringLiteral("I%1").arg(k), QStringLiteral("J%1").arg(k)});
     ProyectoAcueducto p = Tramos(islas);  // 22 names, room for 21
-    try {
-        NumerarNodos(p, sp.s);
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), Error::SubindiceFuera);
-    }
+    EXPECT_EQ(NumeroDeError([&] { NumerarNodos(p, sp.s); }), Error::SubindiceFuera);
     islas.pop_back();  // 20 names for 10 + 10
     ProyectoAcueducto q = Tramos(islas);
     NumerarNodos(q, sp.s);

@@ -61,12 +61,7 @@ TEST(ResolverBanda, PivoteNuloYSuSustituto) {
     d.Redim(1, 2);
     d(1, 2) = 2;
     std::vector<double> e{0, 3, 4};
-    try {
-        ResolverBanda(d, e, 2, 1.0);
-        FAIL();
-    } catch (const ErrorEjecucion& x) {
-        EXPECT_EQ(x.numero(), Error::DivisionPorCero);
-    }
+    EXPECT_EQ(NumeroDeError([&] { ResolverBanda(d, e, 2, 1.0); }), Error::DivisionPorCero);
 }
 
 TEST(AnalizarMalla, UnTanqueUnTuboUnNodo) {

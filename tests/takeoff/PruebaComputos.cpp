@@ -88,12 +88,7 @@ TEST_F(Computo, TotalMayorQueElEnteroDesborda) {
     PonerConexiones(p, 1, {{5, 30000, 0.0, "CODO"}, {5, 3000, 0.0, "CODO"}});
     GuardarYAbrir(p, sp);
     Grid g;
-    try {
-        CalculeComputosConexiones(g, sp.s.ConexionProyecto);
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), Error::Desbordamiento);
-    }
+    EXPECT_EQ(NumeroDeError([&] { CalculeComputosConexiones(g, sp.s.ConexionProyecto); }), Error::Desbordamiento);
 }
 
 TEST_F(Computo, PantallaAbreOtroProyectoYLoAnaliza) {

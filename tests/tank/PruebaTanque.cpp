@@ -59,12 +59,7 @@ TEST(Tanque, CasosLimite) {
     EXPECT_LT(CalcularTanque(t).VolumenTotal, 0.0);
 
     t.PresionMaxima = -10.0;
-    try {
-        CalcularTanque(t);
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), Error::DivisionPorCero);
-    }
+    EXPECT_EQ(NumeroDeError([&] { CalcularTanque(t); }), Error::DivisionPorCero);
 }
 
 TEST(Tanque, PantallaDeResultadosConSusFormatos) {
@@ -101,12 +96,7 @@ TEST(Tanque, TablaDePeerlessYCaptura) {
     EXPECT_EQ(g.Texto(6, 4), QStringLiteral("2.50"));
     EXPECT_EQ(CapturarFactorPeerlees(g, 6, 4), QStringLiteral("2.5"));
     EXPECT_EQ(CapturarFactorPeerlees(g, 1, 1), QStringLiteral("2.08"));
-    try {
-        CapturarFactorPeerlees(g, 0, 2);
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), Error::TiposNoCoinciden);
-    }
+    EXPECT_EQ(NumeroDeError([&] { CapturarFactorPeerlees(g, 0, 2); }), Error::TiposNoCoinciden);
 }
 
 TEST(Tanque, PrellenadoDesdeElProyectoHidroneumatico) {
@@ -180,12 +170,7 @@ TEST(Tanque, UnaFallaAlAbrirDejaElProyectoNuevoConLosValoresPorDefecto) {
         ASSERT_TRUE(c.Ejecutar(QStringLiteral("UPDATE DatosGenerales SET CoeficienteC=0")));
     }
     d.archivos = {ruta};
-    try {
-        pantalla.Abrir();
-        FAIL() << "sin falla";
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), Error::DivisionPorCero);
-    }
+    EXPECT_EQ(NumeroDeError([&] { pantalla.Abrir(); }), Error::DivisionPorCero);
     EXPECT_EQ(sp.s.NombreProyecto, QStringLiteral("ph.plm"));
     EXPECT_EQ(pantalla.Datos.Porcentaje, 50.0);
     EXPECT_EQ(pantalla.Datos.Arranques, 6.0);
