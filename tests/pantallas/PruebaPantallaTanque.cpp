@@ -51,7 +51,8 @@ TEST_F(PantallaTanque, AbreConElProyectoYSusValoresPorDefecto) {
     EXPECT_EQ(Caja("Porcentaje")->text(), QStringLiteral("50.00"));
     EXPECT_EQ(Caja("Arranques")->text(), QStringLiteral("6.00"));
     EXPECT_EQ(Caja("Succion")->text(), QStringLiteral("3.00"));
-    // The maximum pressure stands 14 m above the minimum.
+    // The minimum pressure is the head the origin needs; the maximum stands 14 m above it.
+    EXPECT_NEAR(Caja("PresionMinima")->Valor(), p.CargaOrigen, 0.005);
     EXPECT_NEAR(Caja("PresionMaxima")->Valor() - Caja("PresionMinima")->Valor(), 14.0, 1e-9);
     EXPECT_GT(Caja("Caudal")->Valor(), 0.0);
     EXPECT_DOUBLE_EQ(Caja("Caudal")->Valor(), p.Gasto[1]);
@@ -162,7 +163,6 @@ TEST_F(PantallaTanque, AbrirCambiaLosTitulosYVuelveAPrellenar) {
     EXPECT_EQ(v->windowTitle(), QStringLiteral("RESULTADO DEL ANÁLISIS     PROYECTO: [ CASA.PLM ]"));
     EXPECT_EQ(principal->windowTitle(), QStringLiteral("NIVO-FONTARIA 2024    PROYECTO: [ CASA.PLM ]"));
     EXPECT_EQ(Caja("NumeroPiezas")->text(), QStringLiteral("17"));
-    EXPECT_EQ(Caja("Porcentaje")->text(), QStringLiteral("50.00"));
     // A cancelled dialog leaves everything.
     Teclear("Caudal", "3");
     v->Boton(QStringLiteral("Abrir"))->click();

@@ -71,17 +71,6 @@ TEST_F(Computo, LasCuatroListas) {
                                               QStringLiteral("TUBERIA DE DIAMETRO = 2\"|4.50")}));
 }
 
-TEST_F(Computo, ProyectoSinAnalizarNoTieneTuberias) {
-    ProyectoDeRamales(p, sp.s, {{"O", "A"}});
-    PonerConexiones(p, 1, {{5, 1, 0.0, "CODO DE 90 GRADOS"}});
-    GuardarYAbrir(p, sp);
-    Computos c;
-    CalcularComputos(c, sp.s.ConexionProyecto);
-    EXPECT_EQ(c.Piezas.Filas(), 0);
-    EXPECT_EQ(c.Conexiones.Filas(), 0);
-    EXPECT_EQ(c.Tuberias.Filas(), 0);
-}
-
 TEST_F(Computo, TotalMayorQueElEnteroDesborda) {
     ProyectoDeRamales(p, sp.s, {{"O", "A"}});
     p.Predimensionado[1] = QStringLiteral("1");
@@ -89,16 +78,4 @@ TEST_F(Computo, TotalMayorQueElEnteroDesborda) {
     GuardarYAbrir(p, sp);
     Grid g;
     EXPECT_EQ(NumeroDeError([&] { CalculeComputosConexiones(g, sp.s.ConexionProyecto); }), Error::Desbordamiento);
-}
-
-TEST_F(Computo, PantallaAbreOtroProyectoYLoAnaliza) {
-    DialogosFalsos d;
-    PantallaComputos pantalla(p, sp.s, d);
-    d.archivos = {sp.CopiaDeEjemplo(QStringLiteral("Edificio_ApartamentoTipo.nivo"), QStringLiteral("apto.plm"))};
-    ASSERT_TRUE(pantalla.Abrir());
-    EXPECT_EQ(pantalla.Caption, QStringLiteral("CÓMPUTOS   PROYECTO: [ APTO.PLM ] "));
-    // The analysis has stored the sizes, so the pipes and the sized fittings are listed.
-    EXPECT_GT(pantalla.Paginas.Tuberias.Filas(), 0);
-    EXPECT_GT(pantalla.Paginas.Conexiones.Filas(), 0);
-    EXPECT_GT(pantalla.Paginas.Reducciones.Filas(), 0);
 }
