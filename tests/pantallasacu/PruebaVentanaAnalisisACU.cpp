@@ -40,7 +40,6 @@ struct AnalisisPantalla : PantallaACU {
         Mostrar(qt);
         EXPECT_EQ(caja.texto, QStringLiteral("Proyecto: EjemploRedA.acu\n") + linea);
         EXPECT_EQ(caja.encabezado, encabezado);
-        EXPECT_EQ(caja.titulo, QStringLiteral("Datos del Proyecto de Acueductos"));
         EXPECT_FALSE(v->isVisible());
         EXPECT_EQ(v->Vista1()->model()->rowCount(), 0);
         EXPECT_EQ(v->Vista2()->model()->rowCount(), 0);
@@ -62,10 +61,7 @@ TEST_F(AnalisisPantalla, ElEjemploAResuelveAlAbrirYMuestraSusColumnas) {
     EXPECT_TRUE(v->isVisible());
     EXPECT_TRUE(falsos.mensajes.empty());
     EXPECT_EQ(v->windowTitle(), QStringLiteral("Redes de Acueductos   Proyecto: [ EJEMPLOREDA.ACU ]"));
-    ASSERT_EQ(v->Combo()->count(), 3);
-    EXPECT_EQ(v->Combo()->itemText(0), QStringLiteral("Qm = Consumo Medio"));
-    EXPECT_EQ(v->Combo()->itemText(1), QStringLiteral("Q Máximo = 2.50 x Qm"));
-    EXPECT_EQ(v->Combo()->itemText(2), QStringLiteral("Q Incendio = 1.80 Qm +  16.00  "));
+    ASSERT_EQ(v->Combo()->count(), 3);  // the texts of the cases: see the demand cases' test
     EXPECT_EQ(v->Tabs()->tabText(0), QStringLiteral("Resultados del Análisis de los Ramales"));
     EXPECT_EQ(v->Tabs()->tabText(1), QStringLiteral("Resultados del Análisis de los Nodos"));
     EXPECT_EQ(v->LRamal()->text(), QStringLiteral("Ramal 1"));
@@ -153,12 +149,9 @@ TEST_F(AnalisisPantalla, BuscarUnRamalConElDialogoDelNumero) {
     responder(5, false);
     v->LRamal()->click();
     EXPECT_EQ(v->LRamal()->text(), QStringLiteral("Ramal 12"));
-    responder(999, true);  // beyond the last: the last
+    responder(999, true);  // beyond the last: the last (the other rules: see the dialog's test)
     v->LRamal()->click();
     EXPECT_EQ(v->LRamal()->text(), QStringLiteral("Ramal 26"));
-    responder(0, true);  // 0 is the first
-    v->LRamal()->click();
-    EXPECT_EQ(v->LRamal()->text(), QStringLiteral("Ramal 1"));
 }
 
 TEST_F(AnalisisPantalla, CorregirDireccionInvierteElRamalNegativoDelEjemploB) {
@@ -172,12 +165,10 @@ TEST_F(AnalisisPantalla, CorregirDireccionInvierteElRamalNegativoDelEjemploB) {
     for (int t : negativos) antes << p.Inicio[t] + QLatin1Char('-') + p.Final[t];
     v->Tabs()->setCurrentIndex(1);
 
+    // The question's and the messages' texts are checked with the screen's logic.
     MensajeVisto caja;
     Contestar(caja, 1);  // "Sí"
     Boton("LSButton1")->click();
-    EXPECT_EQ(caja.texto, QStringLiteral("Invertir la Dirección (I)<->(J) en los Ramales de los \nCaudales Negativos de la "
-                                         "Red en el Proyecto!\n(En los Ramales Negativos el Flujo va en Sentido Contrario)"));
-    EXPECT_EQ(caja.encabezado, QStringLiteral("Cambiar (I)-(J) de los Ramales..."));
     EXPECT_EQ(caja.titulo, QStringLiteral("Datos del Proyecto de Acueductos"));
     EXPECT_EQ(v->Tabs()->currentIndex(), 0);  // the sections tab is shown
     for (int t = 1; t <= p.NumeroTramos; ++t) {
@@ -189,9 +180,6 @@ TEST_F(AnalisisPantalla, CorregirDireccionInvierteElRamalNegativoDelEjemploB) {
     for (int i = 0; i < negativos.size(); ++i)
         EXPECT_EQ(f.Final[negativos[i]] + QLatin1Char('-') + f.Inicio[negativos[i]], antes[i]);
 
-    Contestar(caja, 0);
-    Boton("LSButton1")->click();
-    EXPECT_EQ(caja.texto, QStringLiteral("¡No Existe Ningún Caudal Negativo!"));
 }
 
 TEST_F(AnalisisPantalla, SinEstanqueAvisaYSeCierra) {
