@@ -25,15 +25,11 @@ const char* kJson = R"({
                 {"Clave": 21, "Pieza": "APTO 2", "UnidadesGasto": 12.25, "Cantidad": 1}],
      "Conexiones": []}
   ],
-  "Nodos": [{"Nodo": "T", "CotaPiso": 0}, {"Nodo": "1", "CotaPiso": 6}, {"Nodo": "2", "CotaPiso": 3}]
+  "Nodos": [{"Nodo": "T", "CotaPiso": 9}, {"Nodo": "1", "CotaPiso": 6}, {"Nodo": "2", "CotaPiso": 3}]
 })";
 
 QString Escribir(SesionPrueba& sp, const QString& nombre, const QByteArray& texto) {
-    const QString ruta = sp.Datos(nombre);
-    QFile f(ruta);
-    f.open(QIODevice::WriteOnly);
-    f.write(texto);
-    return ruta;
+    return EscribirArchivo(sp.Datos(nombre), texto);
 }
 
 }  // namespace
@@ -70,7 +66,7 @@ TEST(ProyectoJson, JsonPlmJsonConservaLoQueElArchivoGuarda) {
     EXPECT_EQ(n[2].toObject()[QStringLiteral("Nodo")].toString(), QStringLiteral("2"));
     // Elevated tank: node 2 is the reference, node 1 keeps its level.
     EXPECT_DOUBLE_EQ(n[2].toObject()[QStringLiteral("CotaRelativa")].toDouble(), -3.0);
-    EXPECT_DOUBLE_EQ(n[0].toObject()[QStringLiteral("CotaRelativa")].toDouble(), 0.0);
+    EXPECT_DOUBLE_EQ(n[0].toObject()[QStringLiteral("CotaRelativa")].toDouble(), 9.0);
 }
 
 TEST(ProyectoJson, DatosMalosDanUnMensajeYNoDejanArchivo) {
@@ -99,11 +95,9 @@ TEST(ProyectoJson, DatosMalosDanUnMensajeYNoDejanArchivo) {
     // An existing project is left untouched by a failed import.
     const QString bueno = Escribir(sp, QStringLiteral("e.json"), kJson);
     ASSERT_TRUE(ImportarProyecto(bueno, plm, sp.s, error));
-    const QByteArray antes = [&] { QFile f(plm); f.open(QIODevice::ReadOnly); return f.readAll(); }();
+    const QByteArray antes = LeerArchivo(plm);
     EXPECT_FALSE(ImportarProyecto(noNumero, plm, sp.s, error));
-    QFile f(plm);
-    f.open(QIODevice::ReadOnly);
-    EXPECT_EQ(f.readAll(), antes);
+    EXPECT_EQ(LeerArchivo(plm), antes);
 }
 
 TEST(ProyectoJson, ExportarUnArchivoAjenoEsUnError) {

@@ -26,11 +26,7 @@ TEST(AbrirConexion, ArchivoAjenoOAusenteDejaConexionFallida) {
     EXPECT_EQ(c.State(), 0);
     EXPECT_FALSE(QFile::exists(sp.Datos(QStringLiteral("no-existe.plm"))));  // never created
 
-    const QString ajeno = sp.Datos(QStringLiteral("ajeno.plm"));
-    QFile f(ajeno);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(QByteArray(4096, 'x'));
-    f.close();
+    const QString ajeno = EscribirArchivo(sp.Datos(QStringLiteral("ajeno.plm")), QByteArray(4096, 'x'));
     EXPECT_EQ(AbrirConexion(c, ajeno), -1);
     EXPECT_TRUE(c.UltimoError().contains(QStringLiteral("no es una base de datos")));
 
@@ -106,14 +102,9 @@ TEST(Transaccion, SinConfirmarNoQuedaNada) {
 
 TEST(CopiarArchivo, OrigenAusenteNoTocaElDestino) {
     SesionPrueba sp;
-    const QString destino = sp.Datos(QStringLiteral("destino.txt"));
-    QFile f(destino);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("original");
-    f.close();
+    const QString destino = EscribirArchivo(sp.Datos(QStringLiteral("destino.txt")), "original");
     QString error;
     EXPECT_FALSE(CopiarArchivo(sp.Datos(QStringLiteral("falta.txt")), destino, &error));
     EXPECT_FALSE(error.isEmpty());
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.readAll(), QByteArray("original"));
+    EXPECT_EQ(LeerArchivo(destino), QByteArray("original"));
 }
