@@ -18,12 +18,6 @@ constexpr double TolCaudal = 1e-5;
 constexpr double TolCaudal3 = 3e-5;
 constexpr double TolCota = 1e-4;
 
-int Tramo(const ProyectoAcueducto& p, const QString& i, const QString& j) {
-    for (int s = 1; s <= p.NumeroTramos; ++s)
-        if (p.Inicio[s] == i && p.Final[s] == j) return s;
-    return 0;
-}
-
 }  // namespace
 
 TEST(ResolverBanda, TridiagonalResueltaAMano) {

@@ -48,10 +48,6 @@ double Hf(double litros, double longitud, double diametro, double c) {
     return 10.675 * longitud * std::pow(litros / 1000.0, 1.852) / (std::pow(c, 1.852) * std::pow(diametro, 4.8704));
 }
 
-double QdeH(double h, double longitud, double diametro, double c) {
-    return 1000.0 * std::pow(h * std::pow(c, 1.852) * std::pow(diametro, 4.8704) / (10.675 * longitud), 1.0 / 1.852);
-}
-
 ProyectoAcueducto EnArchivo(const ProyectoAcueducto& red, SesionPrueba& sp, const QString& nombre) {
     ProyectoAcueducto p = red;
     sp.s.ArchivoProyectoACU = sp.AcueductoEnBlanco(nombre);

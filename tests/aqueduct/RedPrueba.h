@@ -36,8 +36,6 @@ int Nodo(const ProyectoAcueducto& p, const QString& nombre);
 // Head loss in m of a flow in l/s through a pipe (length m, diameter m),
 // h = 10.675 L Q^1.852 / (C^1.852 D^4.8704).
 double Hf(double litros, double longitud, double diametro, double c = 100.0);
-// The flow in l/s that a head loss drives through such a pipe.
-double QdeH(double h, double longitud, double diametro, double c = 100.0);
 
 // Saves the network to a blank .acu in the session's data folder and loads it
 // back as the commands do (the open project of the session).

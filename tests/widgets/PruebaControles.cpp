@@ -1,34 +1,19 @@
-// Number boxes with the session's separators and limits, the tab strip, and
-// the program's tool-tip with the settings of Tapiz.nivo.
+// Number boxes with the session's separators and limits, and the program's
+// tool-tip with the settings of Tapiz.nivo.  The tab strip counts from 1 in
+// every screen's test.
 
 #include "base/Nivo.h"
 #include "shell/Tapiz.h"
 #include "support/Apoyo.h"
+#include "support/Modales.h"
 #include "widgets/NivoNumero.h"
-#include "widgets/NivoTab.h"
 #include "widgets/NivoToolTip.h"
 
-#include <QApplication>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 namespace {
-
-void Escribir(QLineEdit& e, const QString& texto) {
-    e.selectAll();
-    e.del();
-    for (QChar c : texto) {
-        QKeyEvent k(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-        QApplication::sendEvent(&e, &k);
-    }
-}
-
-void Enter(QWidget& w) {
-    QKeyEvent k(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QApplication::sendEvent(&w, &k);
-}
 
 // Sets the session's separators for one test.
 struct ConSeparadores {
@@ -51,13 +36,13 @@ TEST(NivoNumero, MuestraYLeeConLosSeparadoresDeLaSesion) {
     int enter = 0;
     QObject::connect(&caja, &NivoNumero::ValorCambiado, [&](double v) { recibido = v; });
     QObject::connect(&caja, &NivoNumero::Enter, [&] { ++enter; });
-    Escribir(caja, QStringLiteral("7,25"));
+    Escribir(&caja, QStringLiteral("7,25"));
     EXPECT_DOUBLE_EQ(recibido, 7.25);
-    Enter(caja);
+    Tecla(&caja, Qt::Key_Return);
     EXPECT_EQ(enter, 1);
     EXPECT_EQ(caja.text(), QStringLiteral("7,25"));
     // Letters never get in.
-    Escribir(caja, QStringLiteral("a"));
+    Escribir(&caja, QStringLiteral("a"));
     EXPECT_TRUE(caja.text().isEmpty());
 }
 
@@ -65,29 +50,17 @@ TEST(NivoNumero, FueraDeLimitesVuelveAlUltimoValor) {
     NivoDouble caja(nullptr, 1);
     caja.PonerLimites(0.0, 100.0);
     caja.PonerValor(12.0);
-    Escribir(caja, QStringLiteral("150"));
-    Enter(caja);
+    Escribir(&caja, QStringLiteral("150"));
+    Tecla(&caja, Qt::Key_Return);
     EXPECT_DOUBLE_EQ(caja.Valor(), 12.0);
     EXPECT_EQ(caja.text(), QStringLiteral("12.0"));
     caja.PonerValor(-5);  // held at the limit
     EXPECT_DOUBLE_EQ(caja.Valor(), 0.0);
     NivoLong entero;
-    Escribir(entero, QStringLiteral("41.6"));
-    Enter(entero);
+    Escribir(&entero, QStringLiteral("41.6"));
+    Tecla(&entero, Qt::Key_Return);
     EXPECT_EQ(entero.ValorEntero(), 42);
     EXPECT_EQ(entero.text(), QStringLiteral("42"));
-}
-
-TEST(NivoTab, CuentaLasPestanasDesdeUno) {
-    NivoTab t;
-    t.addTab(QStringLiteral("uno"));
-    t.addTab(QStringLiteral("dos"));
-    int pulsada = 0;
-    QObject::connect(&t, &NivoTab::Click, [&](int n) { pulsada = n; });
-    Q_EMIT t.tabBarClicked(1);
-    EXPECT_EQ(pulsada, 2);
-    t.PonerTab(2);
-    EXPECT_EQ(t.Tab(), 2);
 }
 
 TEST(NivoToolTip, TomaLosTipsDeLaPantallaSalvoLosDeTab0YLosVacios) {
