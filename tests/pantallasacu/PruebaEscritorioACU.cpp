@@ -32,7 +32,6 @@ TEST_F(Escritorio, LasHerramientasDeAcueductosAbrenSusPantallas) {
     });
     EXPECT_TRUE(menu.Ejecutar(QStringLiteral("ID_A_Analisis")));
     EXPECT_EQ(filas, 26);
-    EXPECT_EQ(menu.Titulo(), QStringLiteral("NIVO-REDES    PROYECTO:[ EJEMPLOREDA.ACU ]"));
 
     QString pagina;
     CuandoAbra<VentanaDatosAcueducto>([&](VentanaDatosAcueducto* d) {

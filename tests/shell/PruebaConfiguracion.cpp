@@ -68,8 +68,6 @@ TEST_F(Configuracion, LosColoresCanceladosSeConservan) {
     c.ElegirColorTexto(d);
     EXPECT_EQ(c.Valores().ColorFondoTip, 0x112233);
     EXPECT_EQ(c.Valores().ColorTextoTip, 0x445566);
-    c.PonerColoresPredefinidos(3);
-    EXPECT_EQ(c.Valores().ColorFondoTip, ConfiguracionPrograma::ColoresPredefinidos()[3].fondo);
     c.Restaurar();
     EXPECT_EQ(c.Valores().ColorFondoTip, ColorFondoTipDefecto);
     EXPECT_EQ(c.Valores().RutaTapiz, sp.Datos(QStringLiteral("Tapices/TapizNivo.jpg")));
