@@ -68,6 +68,12 @@ TEST_F(Configuracion, LosColoresCanceladosSeConservan) {
     c.ElegirColorTexto(d);
     EXPECT_EQ(c.Valores().ColorFondoTip, 0x112233);
     EXPECT_EQ(c.Valores().ColorTextoTip, 0x445566);
+    // A preset sets both colours; an index beyond the five changes nothing.
+    c.PonerColoresPredefinidos(3);
+    const std::pair<int, int> par{c.Valores().ColorFondoTip, c.Valores().ColorTextoTip};
+    EXPECT_TRUE(par.first != 0x112233 && par.second != 0x445566);
+    c.PonerColoresPredefinidos(5);
+    EXPECT_EQ(std::make_pair(int(c.Valores().ColorFondoTip), int(c.Valores().ColorTextoTip)), par);
     c.Restaurar();
     EXPECT_EQ(c.Valores().ColorFondoTip, ColorFondoTipDefecto);
     EXPECT_EQ(c.Valores().RutaTapiz, sp.Datos(QStringLiteral("Tapices/TapizNivo.jpg")));

@@ -61,7 +61,7 @@ TEST_F(Ventana, ArrancaEnElModoDeEdificios) {
 }
 
 TEST_F(Ventana, LaPestanaDosMuestraLasHerramientasDeAcueductos) {
-    Q_EMIT v->Tabs()->Click(2);
+    Q_EMIT v->Tabs()->tabBarClicked(1);  // the strip counts its tabs from 1
     EXPECT_EQ(sp.s.TipoRed, 1);
     EXPECT_TRUE(Visible("ID_A_Nuevo"));
     EXPECT_FALSE(Activa("ID_A_Nuevo"));
