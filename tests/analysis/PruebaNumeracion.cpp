@@ -30,11 +30,11 @@ TEST_F(Numeracion, RamalConLosDosNodosIgualesSeRechazaConSuMensaje) {
     VerificarNumeracion(p, d);
     EXPECT_EQ(p.ErrorNumeracion, 1);
     ASSERT_EQ(d.mensajes.size(), 1u);
-    EXPECT_EQ(d.Ultimo().texto, QStringLiteral("Existe un Error en la Numeración de los Ramales...\n"
-                                               "Ramal-> 3   ( I ) = B  ó   ( J ) = B\n"
-                                               "¡Debe Corregir el Error para realizar el Análisis!"));
-    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en la Numeración..."));
-    EXPECT_EQ(d.Ultimo().titulo, QStringLiteral("Proyecto de Fontaria"));
+    MensajeEs(d.Ultimo(),
+              QStringLiteral("Existe un Error en la Numeración de los Ramales...\n"
+                             "Ramal-> 3   ( I ) = B  ó   ( J ) = B\n"
+                             "¡Debe Corregir el Error para realizar el Análisis!"),
+              QStringLiteral("Error en la Numeración..."));
 }
 
 TEST_F(Numeracion, NodoQueNadieTerminaEsDesconectado) {
@@ -42,10 +42,11 @@ TEST_F(Numeracion, NodoQueNadieTerminaEsDesconectado) {
     VerificarNumeracion(p, d);
     EXPECT_EQ(p.ErrorNumeracion, 1);
     ASSERT_EQ(d.mensajes.size(), 1u);
-    EXPECT_EQ(d.Ultimo().texto, QStringLiteral("El Nodo-> ( Q  del Ramal: 4 )\n"
-                                               "¡Este Nodo está Desconectado!\n"
-                                               "Debe Corregir el Error para Realizar el Análisis..."));
-    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en la Numeración..."));
+    MensajeEs(d.Ultimo(),
+              QStringLiteral("El Nodo-> ( Q  del Ramal: 4 )\n"
+                             "¡Este Nodo está Desconectado!\n"
+                             "Debe Corregir el Error para Realizar el Análisis..."),
+              QStringLiteral("Error en la Numeración..."));
 }
 
 TEST_F(Numeracion, SoloElRamalDosPuedeSalirDelOrigen) {

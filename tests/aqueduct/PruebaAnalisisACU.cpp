@@ -117,20 +117,20 @@ TEST(AnalisisACU, SinTanqueOConFallaSeCierra) {
     EXPECT_TRUE(t.a.PrimeraActivacion());
     EXPECT_TRUE(t.a.cerrar);
     EXPECT_EQ(t.a.Spread1.Filas(), 0);
-    EXPECT_EQ(t.d.Ultimo().texto,
-              "Proyecto: red.acu\n¡No se Puede Calcular la Malla sin la Existencia\nde al menos una Bomba ó un Estanque!");
-    EXPECT_EQ(t.d.Ultimo().encabezado, "Error en Datos del Proyecto...");
-    EXPECT_EQ(t.d.Ultimo().titulo, TituloDatos);
+    MensajeEs(
+        t.d.Ultimo(),
+        "Proyecto: red.acu\n¡No se Puede Calcular la Malla sin la Existencia\nde al menos una Bomba ó un Estanque!",
+        "Error en Datos del Proyecto...", TituloDatos);
 
     ProyectoAcueducto rota = Malla(sp.s);
     rota.Longitud[2] = 0;
     Pantalla f(rota);
     EXPECT_TRUE(f.a.PrimeraActivacion());
     EXPECT_EQ(f.a.Spread2.Filas(), 0);
-    EXPECT_EQ(f.d.Ultimo().texto,
-              "Proyecto: red.acu\n¡Existe un Error al Realizar el Análisis de la Red!\nRevise los Datos del Proyecto...");
-    EXPECT_EQ(f.d.Ultimo().encabezado, "Error al Realizar el Cálculo...");
-    EXPECT_EQ(f.d.Ultimo().titulo, TituloDatos);
+    MensajeEs(
+        f.d.Ultimo(),
+        "Proyecto: red.acu\n¡Existe un Error al Realizar el Análisis de la Red!\nRevise los Datos del Proyecto...",
+        "Error al Realizar el Cálculo...", TituloDatos);
 
     // A negative level passes the check (the solver then fixes nothing).
     ProyectoAcueducto negativo = Malla(sp.s);
@@ -146,10 +146,10 @@ TEST(AnalisisACU, CorregirDireccion) {
     t.d.respuestas = {Respuesta::No};
     t.a.CorregirDireccion();
     EXPECT_EQ(t.a.Pestana, 0);
-    EXPECT_EQ(t.d.Ultimo().texto,
+    MensajeEs(t.d.Ultimo(),
               "Invertir la Dirección (I)<->(J) en los Ramales de los \nCaudales Negativos de la Red en el Proyecto!\n"
-              "(En los Ramales Negativos el Flujo va en Sentido Contrario)");
-    EXPECT_EQ(t.d.Ultimo().encabezado, "Cambiar (I)-(J) de los Ramales...");
+              "(En los Ramales Negativos el Flujo va en Sentido Contrario)",
+              "Cambiar (I)-(J) de los Ramales...", TituloDatos);
     EXPECT_EQ(t.d.Ultimo().botones, Botones::SiNo);
     EXPECT_EQ(t.p.Inicio[3], "B");
 

@@ -12,8 +12,6 @@
 
 namespace {
 
-const QString Fontaria = QStringLiteral("Proyecto de Fontaria");
-
 struct Pantalla {
     SesionPrueba sp;
     DialogosFalsos d;
@@ -77,16 +75,13 @@ TEST(DatosAcueducto, VerificacionDeCeldasVacias) {
 
     // "Compatibilidad" then asks to correct; "Siguiente" stays on page 2.
     t.datos.Compatibilidad();
-    EXPECT_EQ(t.d.Ultimo().texto, "¡Corrija el Dato Seleccionado!");
-    EXPECT_EQ(t.d.Ultimo().encabezado, "Datos de los Ramales...");
-    EXPECT_EQ(t.d.Ultimo().titulo, Fontaria);
+    MensajeEs(t.d.Ultimo(), "¡Corrija el Dato Seleccionado!", "Datos de los Ramales...");
     t.datos.Siguiente();
     t.datos.Siguiente();
     EXPECT_EQ(t.datos.Pagina(), 2);
     t.p.Diametro[3] = 0.1;
     t.datos.Compatibilidad();
-    EXPECT_EQ(t.d.Ultimo().texto, "No Existen Errores en los Tramos...");
-    EXPECT_EQ(t.d.Ultimo().encabezado, "Verificando los Ramales...");
+    MensajeEs(t.d.Ultimo(), "No Existen Errores en los Tramos...", "Verificando los Ramales...");
     t.datos.Siguiente();
     EXPECT_EQ(t.datos.Pagina(), 3);
     EXPECT_FALSE(t.datos.Botones().Siguiente);
@@ -108,8 +103,8 @@ TEST(DatosAcueducto, IslasYBarridosAcotados) {
     t.p.Inicio[5] = "Y";
     t.p.Final[5] = "Z";
     EXPECT_TRUE(t.datos.VerifiqueRamales());
-    EXPECT_EQ(t.d.Ultimo().texto, "Existen Ramales Desconectados en la Red!\nVerifique el Tramo->( X - Y )");
-    EXPECT_EQ(t.d.Ultimo().encabezado, "Verificando la Red...");
+    MensajeEs(t.d.Ultimo(), "Existen Ramales Desconectados en la Red!\nVerifique el Tramo->( X - Y )",
+              "Verificando la Red...");
     EXPECT_EQ(t.datos.Spread1.FilaActiva(), 4);
 
     // A connected chain typed backwards: N0-N1 first, then N9-N10 down to
@@ -172,8 +167,7 @@ TEST(DatosAcueducto, LlenadoDeBloques) {
 
     t.d.textos = {QStringLiteral("cien")};
     t.datos.LlenarBloque(1, 1, 3, 5, 5);
-    EXPECT_EQ(t.d.Ultimo().texto, "¡Debe Entrar un Número!");
-    EXPECT_EQ(t.d.Ultimo().encabezado, "Error en el Número...");
+    MensajeEs(t.d.Ultimo(), "¡Debe Entrar un Número!", "Error en el Número...");
     t.d.textos = {QStringLiteral("0.0004"), QString(), std::nullopt};  // rounds to 0; empty; cancel
     for (int k = 0; k < 3; ++k) t.datos.LlenarBloque(1, 1, 3, 5, 5);
     EXPECT_EQ(t.p.CoeficienteC[1], 120);
@@ -200,9 +194,8 @@ TEST(DatosAcueducto, CerrarSalvarYAbrir) {
     EXPECT_EQ(t.p.Proyecto.size(), 140);
     t.d.respuestas = {Respuesta::Cancelar};
     EXPECT_FALSE(t.datos.PuedeCerrar());
-    EXPECT_EQ(t.d.Ultimo().texto, "Los Datos del Proyecto han sido Modificados...\n¿Desea Salvar los Cambios Realizados?");
-    EXPECT_EQ(t.d.Ultimo().encabezado, "Salvar las Modificaciones...");
-    EXPECT_EQ(t.d.Ultimo().titulo, Fontaria);
+    MensajeEs(t.d.Ultimo(), "Los Datos del Proyecto han sido Modificados...\n¿Desea Salvar los Cambios Realizados?",
+              "Salvar las Modificaciones...");
     EXPECT_EQ(t.d.Ultimo().botones, Botones::SiNoCancelar);
     t.d.respuestas = {Respuesta::Si};
     EXPECT_TRUE(t.datos.PuedeCerrar());

@@ -177,9 +177,8 @@ TEST_F(PantallaAnalisis, IgualarDiametrosPreguntaConLaCajaDelPrograma) {
     MensajeVisto visto;
     Contestar(visto, 0);  // "No"
     v->Boton(QStringLiteral("LSButton2"))->click();
-    EXPECT_EQ(visto.texto, QStringLiteral("Igualar el Diámetro Asumido en los Ramales al Diámetro de Cálculo?"));
-    EXPECT_EQ(visto.encabezado, QStringLiteral("Diámetros de los Ramales..."));
-    EXPECT_EQ(visto.titulo, QStringLiteral("Proyecto de Fontaria"));
+    MensajeEs(visto, QStringLiteral("Igualar el Diámetro Asumido en los Ramales al Diámetro de Cálculo?"),
+              QStringLiteral("Diámetros de los Ramales..."));
     EXPECT_EQ(Texto(1, 8, 7), QStringLiteral("3/4\""));
 
     Contestar(visto, 1);  // "Sí"

@@ -118,9 +118,7 @@ TEST_F(PantallaTanque, UnaFallaDelCalculoSeMuestraYLasEntradasQuedan) {
     MensajeVisto visto;
     Contestar(visto, 0);
     v->Boton(QStringLiteral("Calcular"))->click();
-    EXPECT_EQ(visto.texto, QStringLiteral("Error 11: División por cero"));
-    EXPECT_EQ(visto.encabezado, QStringLiteral("Error en el Cálculo..."));
-    EXPECT_EQ(visto.titulo, QStringLiteral("Proyecto de Fontaria"));
+    MensajeEs(visto, QStringLiteral("Error 11: División por cero"), QStringLiteral("Error en el Cálculo..."));
     EXPECT_TRUE(v->isVisible());
     EXPECT_EQ(Caja("PresionMaxima")->Valor(), -10.0);
 }

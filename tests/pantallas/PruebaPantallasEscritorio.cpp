@@ -78,9 +78,10 @@ TEST_F(Escritorio, UnaRedRotaNoLlegaALaPantalla) {
     MensajeVisto visto;
     Contestar(visto, 0);
     v->EjecutarHerramienta(QStringLiteral("ID_M2_AnalisisRed"));
-    EXPECT_EQ(visto.texto, QStringLiteral("El Nodo-> ( X  del Ramal: 3 )\n¡Este Nodo está Desconectado!\n"
-                                          "Debe Corregir el Error para Realizar el Análisis..."));
-    EXPECT_EQ(visto.encabezado, QStringLiteral("Error en la Numeración..."));
+    MensajeEs(visto,
+              QStringLiteral("El Nodo-> ( X  del Ramal: 3 )\n¡Este Nodo está Desconectado!\n"
+                             "Debe Corregir el Error para Realizar el Análisis..."),
+              QStringLiteral("Error en la Numeración..."));
     EXPECT_FALSE(pantalla);
 }
 

@@ -38,8 +38,8 @@ struct AnalisisPantalla : PantallaACU {
         MensajeVisto caja;
         Contestar(caja, 0);
         Mostrar(qt);
-        EXPECT_EQ(caja.texto, QStringLiteral("Proyecto: EjemploRedA.acu\n") + linea);
-        EXPECT_EQ(caja.encabezado, encabezado);
+        MensajeEs(caja, QStringLiteral("Proyecto: EjemploRedA.acu\n") + linea, encabezado,
+                  QStringLiteral("Datos del Proyecto de Acueductos"));
         EXPECT_FALSE(v->isVisible());
         EXPECT_EQ(v->Vista1()->model()->rowCount(), 0);
         EXPECT_EQ(v->Vista2()->model()->rowCount(), 0);

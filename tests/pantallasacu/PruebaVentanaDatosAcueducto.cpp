@@ -202,8 +202,8 @@ TEST_F(DatosACU, InsertarYEliminarConSusPreguntasYElCoeficiente) {
     MensajeVisto caja;
     Contestar(caja, 1);  // "Sí"
     Boton("Insertar")->click();
-    EXPECT_EQ(caja.texto, QStringLiteral("Insertar un Nuevo Ramal en la Posición: ( 2 )"));
-    EXPECT_EQ(caja.encabezado, QStringLiteral("Insertar Ramal en la Red..."));
+    MensajeEs(caja, QStringLiteral("Insertar un Nuevo Ramal en la Posición: ( 2 )"),
+              QStringLiteral("Insertar Ramal en la Red..."));
     EXPECT_EQ(p.NumeroTramos, 27);
     EXPECT_EQ(Caja("Long2")->text(), QStringLiteral("27"));
     EXPECT_EQ(Celda(g, 2, 1), QString());
@@ -214,8 +214,8 @@ TEST_F(DatosACU, InsertarYEliminarConSusPreguntasYElCoeficiente) {
 
     Contestar(caja, 1);
     Boton("Eliminar")->click();
-    EXPECT_EQ(caja.texto, QStringLiteral("El Ramal ( 2 ) Sera Eliminado...\nEsta Ustad Seguro de Eliminar el Ramal?"));
-    EXPECT_EQ(caja.encabezado, QStringLiteral("Eliminar el Ramal..."));
+    MensajeEs(caja, QStringLiteral("El Ramal ( 2 ) Sera Eliminado...\nEsta Ustad Seguro de Eliminar el Ramal?"),
+              QStringLiteral("Eliminar el Ramal..."));
     EXPECT_EQ(p.NumeroTramos, 26);
     EXPECT_EQ(Celda(g, 2, 1), QStringLiteral("Entrada"));
     // The new count goes to the coefficient box, and so to C; the box of
@@ -323,8 +323,7 @@ TEST_F(DatosACU, UnCoeficienteFueraDeLosLimitesSeAvisa) {
     Contestar(caja, 0);
     EscribirYSalir(v->Vista1(), 2, 5, QStringLiteral("40000"));
     Procesar();
-    EXPECT_EQ(caja.texto, QStringLiteral("¡Debe Entrar un Número entre 0 y 32767!"));
-    EXPECT_EQ(caja.encabezado, QStringLiteral("Error en el Número..."));
+    MensajeEs(caja, QStringLiteral("¡Debe Entrar un Número entre 0 y 32767!"), QStringLiteral("Error en el Número..."));
     EXPECT_EQ(p.CoeficienteC[2], 140);
     EXPECT_EQ(Celda(v->Vista1(), 2, 5), QStringLiteral("140"));
 }

@@ -110,10 +110,10 @@ TEST_F(Comandos, SalvarComoRechazaSuPropioNombreEnCualquierCasoYVuelveAlDialogo)
     d.archivos = {sp.Datos(QStringLiteral("otra/CASA.PLM")), Proyectos(QStringLiteral("copia.plm"))};
     menu.SalvarComo();
     ASSERT_EQ(d.mensajes.size(), 1u);
-    EXPECT_EQ(d.mensajes[0].texto, QStringLiteral("Proyecto Existente: Casa.plm\nSalvarlo Como: CASA.PLM\n"
-                                                  "No se Puede Salvar el Proyecto con el Mismo Nombre..."));
-    EXPECT_EQ(d.mensajes[0].encabezado, QStringLiteral("Salvar Proyecto Como..."));
-    EXPECT_EQ(d.mensajes[0].titulo, QStringLiteral("Proyecto de Fontaria"));
+    MensajeEs(d.mensajes[0],
+              QStringLiteral("Proyecto Existente: Casa.plm\nSalvarlo Como: CASA.PLM\n"
+                             "No se Puede Salvar el Proyecto con el Mismo Nombre..."),
+              QStringLiteral("Salvar Proyecto Como..."));
     EXPECT_EQ(d.dialogosArchivo.value(1), Dialogo("Casa.plm  Salvarlo como...", "*.plm|*.plm", "Proyectos"));
     EXPECT_EQ(d.dialogosArchivo.size(), 3);
     EXPECT_TRUE(EsBaseDeProyecto(Proyectos(QStringLiteral("copia.plm"))));
@@ -256,9 +256,10 @@ TEST_F(Comandos, UnArchivoAjenoDaUnMensajeYNoMuestraPantalla) {
     d.archivos.push_back(texto);
     menu.ResultadosAnalisis();
     ASSERT_EQ(d.mensajes.size(), 1u);
-    EXPECT_EQ(d.Ultimo().texto,
-              QStringLiteral("El archivo no es una base de datos del programa: ") + texto + QStringLiteral("\nRevise el Archivo de Datos..."));
-    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en Lectura de Datos..."));
+    MensajeEs(d.Ultimo(),
+              QStringLiteral("El archivo no es una base de datos del programa: ") + texto +
+                  QStringLiteral("\nRevise el Archivo de Datos..."),
+              QStringLiteral("Error en Lectura de Datos..."));
     // A database of another kind: it lacks the project's tables.
     const QString ajena = sp.AcueductoEnBlanco(QStringLiteral("Proyectos/ajena.plm"));
     d.archivos.push_back(ajena);
@@ -285,12 +286,11 @@ TEST_F(Comandos, ManualYEjemplosAbrenSuDocumentoOAvisan) {
 
     d.abrirConSistemaResulta = false;
     menu.ManualPrograma();
-    EXPECT_EQ(d.Ultimo().texto, manual + QStringLiteral("ManualFontaria24.pdf\nNo se Puede Abrir el Archivo:"));
-    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Manual del Programa..."));
+    MensajeEs(d.Ultimo(), manual + QStringLiteral("ManualFontaria24.pdf\nNo se Puede Abrir el Archivo:"),
+              QStringLiteral("Manual del Programa..."));
     menu.VerEjemplos();
-    EXPECT_EQ(d.Ultimo().texto, manual + QStringLiteral("Ejemplo Acueductos.pdf\nNo se Puede Abrir el Archivo: "));
-    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Manual del Usuario..."));
-    EXPECT_EQ(d.Ultimo().titulo, QStringLiteral("Proyecto de Fontaria"));
+    MensajeEs(d.Ultimo(), manual + QStringLiteral("Ejemplo Acueductos.pdf\nNo se Puede Abrir el Archivo: "),
+              QStringLiteral("Manual del Usuario..."));
     EXPECT_EQ(d.ocupado, 0);
 }
 
@@ -299,8 +299,7 @@ TEST_F(Comandos, UnErrorDeCalculoSeMuestraYLaVentanaSigue) {
     pantallas.alMostrar = [](Pantalla) { throw ErrorEjecucion(Error::DivisionPorCero); };
     EXPECT_TRUE(menu.Ejecutar(QStringLiteral("ID_M2_AnalisisRed")));
     ASSERT_EQ(d.mensajes.size(), 1u);
-    EXPECT_EQ(d.Ultimo().texto, QStringLiteral("Error 11: División por cero"));
-    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en el Cálculo..."));
+    MensajeEs(d.Ultimo(), QStringLiteral("Error 11: División por cero"), QStringLiteral("Error en el Cálculo..."));
     EXPECT_EQ(d.ocupado, 0);
     EXPECT_EQ(s.NombreProyecto, QStringLiteral("casa.plm"));
     EXPECT_FALSE(menu.Ejecutar(QStringLiteral("ID_M1_Salida")));

@@ -134,9 +134,8 @@ TEST_F(ComandosACU, ResultadosSinRamalesAvisaYNoMuestraPantalla) {
     menu.ACUResultados();
     EXPECT_TRUE(pantallas.mostradas.empty());
     ASSERT_EQ(d.mensajes.size(), 1u);
-    EXPECT_EQ(d.Ultimo().texto, QStringLiteral("vacia.acu\nNúmero de Ramales = 0\nRevise el Archivo de Datos..."));
-    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en Lectura de Datos..."));
-    EXPECT_EQ(d.Ultimo().titulo, QStringLiteral("Proyecto de Fontaria"));
+    MensajeEs(d.Ultimo(), QStringLiteral("vacia.acu\nNúmero de Ramales = 0\nRevise el Archivo de Datos..."),
+              QStringLiteral("Error en Lectura de Datos..."));
     EXPECT_EQ(d.ocupado, 0);
     EXPECT_EQ(menu.Titulo(), QStringLiteral("NIVO-FONTARIA 2024 (REDES)    PROYECTO: [ VACIA.ACU ]"));
 }

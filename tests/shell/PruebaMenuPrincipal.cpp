@@ -95,9 +95,8 @@ TEST_F(Menu, EscPreguntaYLaCajaDeCierreNo) {
     d.respuestas = {Respuesta::No};
     EXPECT_FALSE(m.PuedeCerrar());
     ASSERT_EQ(d.mensajes.size(), 1u);
-    EXPECT_EQ(d.Ultimo().texto, QStringLiteral("¿Desea Salir de Nivo-Fontaria y Acueductos 2024?"));
-    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Salir de Nivo-Fontaria..."));
-    EXPECT_EQ(d.Ultimo().titulo, QStringLiteral("Nivo-Fontaria y Acueductos 2024"));
+    MensajeEs(d.Ultimo(), QStringLiteral("¿Desea Salir de Nivo-Fontaria y Acueductos 2024?"),
+              QStringLiteral("Salir de Nivo-Fontaria..."), QStringLiteral("Nivo-Fontaria y Acueductos 2024"));
     EXPECT_EQ(d.Ultimo().botones, Botones::SiNo);
     // The close box afterwards closes without a question.
     EXPECT_TRUE(m.PuedeCerrar());

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <deque>
 #include <functional>
+#include <gtest/gtest.h>
 #include <ostream>
 #include <vector>
 
@@ -51,6 +52,16 @@ public:
 
     const Mensaje& Ultimo() const { return mensajes.back(); }
 };
+
+// A message's body, heading and title, each checked to the letter: a
+// DialogosFalsos::Mensaje or what the real box showed.
+template <class M>
+void MensajeEs(const M& m, const QString& texto, const QString& encabezado,
+               const QString& titulo = QStringLiteral("Proyecto de Fontaria")) {
+    EXPECT_EQ(m.texto, texto);
+    EXPECT_EQ(m.encabezado, encabezado);
+    EXPECT_EQ(m.titulo, titulo);
+}
 
 // A session whose data folder is a fresh temporary folder and whose program
 // folder is the build's; separators fixed to '.' and ','.
