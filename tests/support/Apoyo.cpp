@@ -13,6 +13,17 @@
 QString RutaProgramaPruebas() { return QStringLiteral(FONTARIA_RUTA_PROGRAMA); }
 QString EjecutablePruebas() { return QStringLiteral(FONTARIA_EJECUTABLE); }
 
+namespace {
+// The next scripted answer; none when the script is spent (a cancel).
+template <class T>
+T Siguiente(std::deque<T>& guion) {
+    if (guion.empty()) return T();
+    T r = guion.front();
+    guion.pop_front();
+    return r;
+}
+}  // namespace
+
 int DialogosFalsos::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo,
                                    int botones, int defecto, int icono, const QImage&) {
     mensajes.push_back({texto, encabezado, titulo, botones, defecto, icono});
@@ -21,18 +32,13 @@ int DialogosFalsos::MostrarMensaje(const QString& texto, const QString& encabeza
         if (botones == Botones::SiNo) return defecto == 0 ? Respuesta::No : Respuesta::Si;
         return defecto == 0 ? Respuesta::Cancelar : defecto == 1 ? Respuesta::No : Respuesta::Si;
     }
-    const int r = respuestas.front();
-    respuestas.pop_front();
-    return r;
+    return Siguiente(respuestas);
 }
 
 std::optional<QString> DialogosFalsos::AbrirArchivo(const QString& titulo, const QString& filtro,
                                                     const QString& carpeta) {
     dialogosArchivo << titulo + QLatin1Char('|') + filtro + QLatin1Char('|') + carpeta;
-    if (archivos.empty()) return std::nullopt;
-    auto r = archivos.front();
-    archivos.pop_front();
-    return r;
+    return Siguiente(archivos);
 }
 
 std::optional<QString> DialogosFalsos::GuardarArchivo(const QString& titulo, const QString& filtro,
@@ -43,18 +49,10 @@ std::optional<QString> DialogosFalsos::GuardarArchivo(const QString& titulo, con
 std::optional<QString> DialogosFalsos::PedirTexto(const QString& texto, const QString& titulo,
                                                   const QString& inicial) {
     preguntas << texto + QLatin1Char('|') + titulo + QLatin1Char('|') + inicial;
-    if (textos.empty()) return std::nullopt;
-    auto r = textos.front();
-    textos.pop_front();
-    return r;
+    return Siguiente(textos);
 }
 
-std::optional<int> DialogosFalsos::ElegirColor(int) {
-    if (colores.empty()) return std::nullopt;
-    auto r = colores.front();
-    colores.pop_front();
-    return r;
-}
+std::optional<int> DialogosFalsos::ElegirColor(int) { return Siguiente(colores); }
 
 bool DialogosFalsos::AbrirConSistema(const QString& ruta) {
     abiertos << ruta;
@@ -72,19 +70,11 @@ SesionPrueba::SesionPrueba() {
 }
 
 QString SesionPrueba::ProyectoEnBlanco(const QString& nombre) {
-    const QString ruta = Datos(nombre);
-    QFile::remove(ruta);
-    QFile::copy(s.RutaImagen(QStringLiteral("Proyecto.nivo")), ruta);
-    QFile(ruta).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    return ruta;
+    return CopiaDeEjemplo(QStringLiteral("Proyecto.nivo"), nombre);
 }
 
 QString SesionPrueba::AcueductoEnBlanco(const QString& nombre) {
-    const QString ruta = Datos(nombre);
-    QFile::remove(ruta);
-    QFile::copy(s.RutaImagen(QStringLiteral("Malla.nivo")), ruta);
-    QFile(ruta).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    return ruta;
+    return CopiaDeEjemplo(QStringLiteral("Malla.nivo"), nombre);
 }
 
 QString SesionPrueba::CopiaDeEjemplo(const QString& nivo, const QString& destino) {
