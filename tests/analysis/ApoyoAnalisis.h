@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <utility>
+#include <vector>
 
 struct FilaPrueba {
     int clave;
@@ -20,7 +21,7 @@ struct FilaPrueba {
 
 // A project of the listed branches (I, J) with 1 m each, floor levels 0.
 inline void ProyectoDeRamales(ProyectoEdificio& p, Sesion& s,
-                              std::initializer_list<std::pair<const char*, const char*>> ramales) {
+                              const std::vector<std::pair<const char*, const char*>>& ramales) {
     ValoresIniciales(p, s);
     const int n = int(ramales.size());
     p.NumeroRamales = n;

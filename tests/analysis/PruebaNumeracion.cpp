@@ -25,60 +25,46 @@ TEST_F(Numeracion, ListaEnProfundidadNumeraLosNodosDeSalida) {
     }
 }
 
-TEST_F(Numeracion, RamalConLosDosNodosIgualesSeRechazaConSuMensaje) {
-    ProyectoDeRamales(p, sp.s, {{"O", "A"}, {"A", "B"}, {"B", "B"}});
-    VerificarNumeracion(p, d);
-    EXPECT_EQ(p.ErrorNumeracion, 1);
-    ASSERT_EQ(d.mensajes.size(), 1u);
-    MensajeEs(d.Ultimo(),
-              QStringLiteral("Existe un Error en la Numeración de los Ramales...\n"
-                             "Ramal-> 3   ( I ) = B  ó   ( J ) = B\n"
-                             "¡Debe Corregir el Error para realizar el Análisis!"),
-              QStringLiteral("Error en la Numeración..."));
-}
-
-TEST_F(Numeracion, NodoQueNadieTerminaEsDesconectado) {
-    ProyectoDeRamales(p, sp.s, {{"O", "A"}, {"A", "B"}, {"B", "C"}, {"Q", "D"}});
-    VerificarNumeracion(p, d);
-    EXPECT_EQ(p.ErrorNumeracion, 1);
-    ASSERT_EQ(d.mensajes.size(), 1u);
-    MensajeEs(d.Ultimo(),
-              QStringLiteral("El Nodo-> ( Q  del Ramal: 4 )\n"
-                             "¡Este Nodo está Desconectado!\n"
-                             "Debe Corregir el Error para Realizar el Análisis..."),
-              QStringLiteral("Error en la Numeración..."));
-}
-
-TEST_F(Numeracion, SoloElRamalDosPuedeSalirDelOrigen) {
+TEST_F(Numeracion, ListasRechazadasYCasosSinPrueba) {
+    const QString iguales = QStringLiteral("Existe un Error en la Numeración de los Ramales...\n"
+                                           "Ramal-> 3   ( I ) = B  ó   ( J ) = B\n"
+                                           "¡Debe Corregir el Error para realizar el Análisis!");
+    const auto desconectado = [](const char* nodo, int ramal) {
+        return QStringLiteral("El Nodo-> ( %1  del Ramal: %2 )\n¡Este Nodo está Desconectado!\n"
+                              "Debe Corregir el Error para Realizar el Análisis...")
+            .arg(QLatin1String(nodo))
+            .arg(ramal);
+    };
+    const struct {
+        std::vector<std::pair<const char*, const char*>> ramales;
+        QString mensaje;  // empty: the list passes
+    } casos[] = {
+        {{{"O", "A"}, {"A", "B"}, {"B", "B"}}, iguales},
+        {{{"O", "A"}, {"A", "B"}, {"B", "C"}, {"Q", "D"}}, desconectado("Q", 4)},
+        // Only branch 2 may leave the origin again.
+        {{{"O", "A"}, {"O", "B"}}, {}},
+        {{{"O", "A"}, {"A", "B"}, {"O", "C"}}, desconectado("O", 3)},
+        // Names are compared with case.
+        {{{"O", "A"}, {"A", "B"}, {"a", "C"}}, desconectado("a", 3)},
+        // One branch: nothing is tested, not even equal names; branch 1 is
+        // never tested for equal ends; no branch: the fault inside is trapped.
+        {{{"A", "A"}}, {}},
+        {{{"A", "A"}, {"A", "B"}}, {}},
+        {{}, {}},
+    };
+    for (const auto& c : casos) {
+        d.mensajes.clear();
+        ProyectoDeRamales(p, sp.s, c.ramales);
+        VerificarNumeracion(p, d);
+        EXPECT_EQ(p.ErrorNumeracion, c.mensaje.isEmpty() ? 0 : 1) << c.ramales.size();
+        if (c.mensaje.isEmpty()) {
+            EXPECT_TRUE(d.mensajes.empty());
+            continue;
+        }
+        ASSERT_EQ(d.mensajes.size(), 1u);
+        MensajeEs(d.Ultimo(), c.mensaje, QStringLiteral("Error en la Numeración..."));
+    }
     ProyectoDeRamales(p, sp.s, {{"O", "A"}, {"O", "B"}});
     VerificarNumeracion(p, d);
-    EXPECT_EQ(p.ErrorNumeracion, 0);
     EXPECT_EQ(p.NumeroNodoI[2], 1);
-
-    ProyectoDeRamales(p, sp.s, {{"O", "A"}, {"A", "B"}, {"O", "C"}});
-    VerificarNumeracion(p, d);
-    EXPECT_EQ(p.ErrorNumeracion, 1);
-    EXPECT_TRUE(d.Ultimo().texto.startsWith(QStringLiteral("El Nodo-> ( O  del Ramal: 3 )")));
-}
-
-TEST_F(Numeracion, CasosSinPrueba) {
-    // One branch: nothing is tested, not even equal names.
-    ProyectoDeRamales(p, sp.s, {{"A", "A"}});
-    VerificarNumeracion(p, d);
-    EXPECT_EQ(p.ErrorNumeracion, 0);
-    // Branch 1 is never tested for equal ends.
-    ProyectoDeRamales(p, sp.s, {{"A", "A"}, {"A", "B"}});
-    VerificarNumeracion(p, d);
-    EXPECT_EQ(p.ErrorNumeracion, 0);
-    // No branch: the fault inside is trapped, no message.
-    ProyectoDeRamales(p, sp.s, {});
-    VerificarNumeracion(p, d);
-    EXPECT_EQ(p.ErrorNumeracion, 0);
-    EXPECT_TRUE(d.mensajes.empty());
-}
-
-TEST_F(Numeracion, LosNombresSeComparanConMayusculas) {
-    ProyectoDeRamales(p, sp.s, {{"O", "A"}, {"A", "B"}, {"a", "C"}});
-    VerificarNumeracion(p, d);
-    EXPECT_EQ(p.ErrorNumeracion, 1);
 }

@@ -18,41 +18,32 @@ struct Predimensionado : ::testing::Test {
 
 }  // namespace
 
-TEST_F(Predimensionado, GastoNuloDaElMenorDiametro) {
+TEST_F(Predimensionado, ElTramoDeLaTablaPorOpcion) {
+    // The first bracket's mean is 0.018365 m; nothing is larger than 12".
+    const struct {
+        double teorico;  // m
+        int opcion;
+        bool minimo;
+        double esperado;
+    } casos[] = {
+        {0.0, 0, false, 0.5},   {0.0, 0, true, 0.75},  {0.018, 0, false, 0.5}, {0.0184, 0, false, 0.75},
+        {0.02, 0, false, 0.75}, {0.0162, 0, false, 0.5},
+        {0.0183, 1, false, 0.75},  // the bracket overrides the small-diameter rule
+        {0.05, 2, false, 1.5},
+        {0.0157, 0, false, 0.5},  // below every bracket: the rule of the small ones
+        {0.4, 0, false, 12.0},
+    };
+    for (const auto& c : casos) {
+        Uno(GastoParaDiametro(c.teorico));
+        p.OpcionDiametro = uint8_t(c.opcion);
+        p.DiametroMinimo = c.minimo;
+        CalcularPredimensionado(p);
+        EXPECT_EQ(p.DiametroCalculo[1], c.esperado) << c.teorico << " " << c.opcion;
+    }
     Uno(0.0);
     CalcularPredimensionado(p);
-    EXPECT_EQ(p.DiametroCalculo[1], 0.5);
     EXPECT_EQ(p.DiametroCalculoTexto[1], QStringLiteral("1/2"));
     EXPECT_EQ(p.VelocidadCalculo[1], 0.0);
-    p.DiametroMinimo = true;
-    CalcularPredimensionado(p);
-    EXPECT_EQ(p.DiametroCalculo[1], 0.75);
-}
-
-TEST_F(Predimensionado, LaMitadDelTramoDecideConLaOpcionCero) {
-    // The first bracket's mean is 0.018365 m.
-    for (auto [d, esperado] : {std::pair{0.018, 0.5}, {0.0184, 0.75}, {0.02, 0.75}, {0.0162, 0.5}}) {
-        Uno(GastoParaDiametro(d));
-        CalcularPredimensionado(p);
-        EXPECT_EQ(p.DiametroCalculo[1], esperado) << d;
-    }
-}
-
-TEST_F(Predimensionado, OpcionesMayorYMenor) {
-    Uno(GastoParaDiametro(0.0183));
-    p.OpcionDiametro = 1;  // the bracket overrides the small-diameter rule
-    CalcularPredimensionado(p);
-    EXPECT_EQ(p.DiametroCalculo[1], 0.75);
-    Uno(GastoParaDiametro(0.05));
-    p.OpcionDiametro = 2;
-    CalcularPredimensionado(p);
-    EXPECT_EQ(p.DiametroCalculo[1], 1.5);
-    Uno(GastoParaDiametro(0.0157));  // below every bracket: the rule of the small ones
-    CalcularPredimensionado(p);
-    EXPECT_EQ(p.DiametroCalculo[1], 0.5);
-    Uno(GastoParaDiametro(0.4));  // nothing larger than 12
-    CalcularPredimensionado(p);
-    EXPECT_EQ(p.DiametroCalculo[1], 12.0);
 }
 
 TEST_F(Predimensionado, UbicarDiametroSubeElMedioConDiametroMinimo) {

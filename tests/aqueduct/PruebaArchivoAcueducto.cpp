@@ -16,14 +16,6 @@ ProyectoAcueducto Ejemplo(const Sesion& s) {
     ProyectoAcueducto p = Red({{"T", "A", 100.456, 0.1234, 120, 1.2345}, {"A", "B", 50, 0.1, 110, 0.5}},
                               {{"T", 0, 50.126, 80.004}, {"A", 1.23456, 40}, {"B", 0, 42}}, s);
     p.Proyecto = "Red de prueba";
-    p.Ubicacion = "Pueblo Nuevo";
-    p.Calculista = "Ing. Pérez";
-    p.Comentario = "Primera etapa";
-    p.Fecha = QDate(2024, 3, 9);
-    p.C = 120;
-    p.FactorQMax = 2.2;
-    p.FactorIncendio = 1.5;
-    p.LitrosIncendio = 10;
     p.Cliente = "Alcaldía";
     return p;
 }
@@ -38,26 +30,20 @@ TEST(ArchivoAcueducto, SalvarYLeerConRedondeos) {
     QString error;
     ASSERT_TRUE(SalvarProyectoACU(p, sp.s, error)) << error.toStdString();
 
+    // Each field's round trip is checked with the JSON export and import of
+    // a sample; here the roundings, the trims and what is never stored.
     ProyectoAcueducto q;
     ASSERT_TRUE(LeerProyectoACU(q, sp.s, error)) << error.toStdString();
     EXPECT_EQ(q.Proyecto, "Red de prueba");
-    EXPECT_EQ(q.Ubicacion, "Pueblo Nuevo");
-    EXPECT_EQ(q.Calculista, "Ing. Pérez");
-    EXPECT_EQ(q.Fecha, QDate(2024, 3, 9));
-    EXPECT_EQ(q.C, 120);
-    EXPECT_EQ(q.FactorQMax, 2.2);
     EXPECT_EQ(q.Cliente, "");  // the box's text is never stored
     EXPECT_EQ(q.CasoPorcentaje, 2);
     EXPECT_EQ(q.DeltaPorcentaje, 0.0);  // saved as 0 without the percentage option
     ASSERT_EQ(q.NumeroTramos, 2);
     EXPECT_EQ(q.Final[2], "B");
-    EXPECT_EQ(q.Nodos[3], "B");
     EXPECT_EQ(q.Longitud[1], 100.46);
     EXPECT_EQ(q.Diametro[1], 0.123);
-    EXPECT_EQ(q.CoeficienteC[1], 120);
     EXPECT_EQ(q.Demanda[1], 1.235);  // 1.2345 rounds half away from zero
     ASSERT_EQ(q.NumeroNodosACU, 3);
-    EXPECT_EQ(q.Nodos[2], "A");
     EXPECT_EQ(q.ConsumoMedio[2], 1.235);
     EXPECT_EQ(q.CotaTerreno[1], 50.13);
     EXPECT_EQ(q.CotaBombaEstanque[1], 80.0);

@@ -20,18 +20,20 @@ TEST(BuscarPartida, ElDialogoEmpiezaEnElRamalActivoYSinAceptar) {
     EXPECT_EQ(EtiquetaBuscarPartida(), QStringLiteral("Ramal Número:"));
 }
 
-TEST(BuscarPartida, SinAceptarOEnLaFilaActivaNoSeMueve) {
-    EXPECT_FALSE(Buscar(4, false, 2, 10));  // " Cancelar " only closes
-    EXPECT_FALSE(Buscar(2, true, 2, 10));   // the number of the active row
-    EXPECT_FALSE(Buscar(3, true, 1, 0));    // a grid without rows
-}
-
-TEST(BuscarPartida, ElCeroEsLaPrimeraFilaYLoQueSobraLaUltima) {
-    EXPECT_EQ(Buscar(5, true, 1, 10), 5);
-    EXPECT_EQ(Buscar(0, true, 4, 10), 1);
-    EXPECT_EQ(Buscar(-3, true, 4, 10), 1);
-    EXPECT_EQ(Buscar(11, true, 4, 10), 10);
-    EXPECT_EQ(Buscar(32767, true, 4, 10), 10);
-    // Beyond the last row while standing on it: the clamp lands where it was.
-    EXPECT_EQ(Buscar(99, true, 10, 10), 10);
+TEST(BuscarPartida, AdondeVaLaRejilla) {
+    const struct {
+        int numero;
+        bool aceptado;
+        int activa, filas;
+        std::optional<int> fila;
+    } casos[] = {
+        {4, false, 2, 10, {}},   // " Cancelar " only closes
+        {2, true, 2, 10, {}},    // the number of the active row
+        {3, true, 1, 0, {}},     // a grid without rows
+        {5, true, 1, 10, 5},     {0, true, 4, 10, 1},  // 0 is the first row, and what is below it
+        {-3, true, 4, 10, 1},    {11, true, 4, 10, 10},  // what is beyond the last, the last
+        {32767, true, 4, 10, 10},
+        {99, true, 10, 10, 10},  // beyond the last while standing on it: the clamp lands where it was
+    };
+    for (const auto& c : casos) EXPECT_EQ(Buscar(c.numero, c.aceptado, c.activa, c.filas), c.fila) << c.numero;
 }

@@ -134,30 +134,32 @@ ConfiguracionTapiz Tapiz(int vertical, int horizontal, bool ajustar = false, boo
 
 }  // namespace
 
-TEST(ColoqueImagen, SinAjustarSigueLosRegistrosDosYTres) {
+TEST(ColoqueImagen, PosicionAjusteYProporcion) {
     const QSize img(200, 100), panel(1000, 600);
-    // Record 2: 0 centre, 1 top, 2 bottom; record 3: 0 left, 1 centre, 2 right.
-    EXPECT_EQ(ColoqueImagen(img, panel, Tapiz(0, 0)).rect, QRect(0, 250, 200, 100));
-    EXPECT_EQ(ColoqueImagen(img, panel, Tapiz(1, 1)).rect, QRect(400, 0, 200, 100));
-    EXPECT_EQ(ColoqueImagen(img, panel, Tapiz(2, 2)).rect, QRect(800, 500, 200, 100));
-    EXPECT_FALSE(ColoqueImagen(img, panel, Tapiz(2, 2)).estirar);
-    // A picture larger than the panel goes off its edges the same way.
-    EXPECT_EQ(ColoqueImagen(QSize(1600, 1000), panel, Tapiz(0, 1)).rect, QRect(-300, -200, 1600, 1000));
-}
-
-TEST(ColoqueImagen, AjustadaSinProporcionLlenaElPanel) {
-    const auto c = ColoqueImagen(QSize(200, 100), QSize(1000, 600), Tapiz(2, 2, true, false));
-    EXPECT_TRUE(c.estirar);
-    EXPECT_EQ(c.rect, QRect(0, 0, 1000, 600));
-}
-
-TEST(ColoqueImagen, AjustadaConProporcionReduceYCentra) {
-    // Ratios 1000/800 = 1.25 and 1600/800 = 2: divided by 2 -> 800 x 500, centred.
-    const auto c = ColoqueImagen(QSize(1600, 1000), QSize(800, 800), Tapiz(1, 2, true, true));
-    EXPECT_TRUE(c.estirar);
-    EXPECT_EQ(c.rect, QRect(0, 150, 800, 500));
-    // 1000 x 333 in 300 x 300: ratio 3.333..., 333 / 3.333... = 99.9 drops to 99.
-    EXPECT_EQ(ColoqueImagen(QSize(1000, 333), QSize(300, 300), Tapiz(0, 0, true, true)).rect, QRect(0, 100, 300, 99));
-    // A smaller picture keeps its size, centred.
-    EXPECT_EQ(ColoqueImagen(QSize(200, 100), QSize(1000, 600), Tapiz(1, 0, true, true)).rect, QRect(400, 250, 200, 100));
+    const struct {
+        QSize imagen, panel;
+        ConfiguracionTapiz tapiz;
+        QRect rect;
+        bool estirar;
+    } casos[] = {
+        // Record 2: 0 centre, 1 top, 2 bottom; record 3: 0 left, 1 centre, 2 right.
+        {img, panel, Tapiz(0, 0), QRect(0, 250, 200, 100), false},
+        {img, panel, Tapiz(1, 1), QRect(400, 0, 200, 100), false},
+        {img, panel, Tapiz(2, 2), QRect(800, 500, 200, 100), false},
+        // A picture larger than the panel goes off its edges the same way.
+        {QSize(1600, 1000), panel, Tapiz(0, 1), QRect(-300, -200, 1600, 1000), false},
+        // Fitted without proportion it fills the panel.
+        {img, panel, Tapiz(2, 2, true, false), QRect(0, 0, 1000, 600), true},
+        // Ratios 1000/800 = 1.25 and 1600/800 = 2: divided by 2 -> 800 x 500, centred.
+        {QSize(1600, 1000), QSize(800, 800), Tapiz(1, 2, true, true), QRect(0, 150, 800, 500), true},
+        // 1000 x 333 in 300 x 300: ratio 3.333..., 333 / 3.333... = 99.9 drops to 99.
+        {QSize(1000, 333), QSize(300, 300), Tapiz(0, 0, true, true), QRect(0, 100, 300, 99), true},
+        // A smaller picture keeps its size, centred.
+        {img, panel, Tapiz(1, 0, true, true), QRect(400, 250, 200, 100), true},
+    };
+    for (const auto& c : casos) {
+        const auto r = ColoqueImagen(c.imagen, c.panel, c.tapiz);
+        EXPECT_EQ(r.rect, c.rect) << c.rect.x() << "," << c.rect.y();
+        EXPECT_EQ(r.estirar, c.estirar) << c.rect.x() << "," << c.rect.y();
+    }
 }
