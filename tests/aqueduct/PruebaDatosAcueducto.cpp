@@ -145,6 +145,13 @@ TEST(DatosAcueducto, InsertarConNoYEliminarSinFilas) {
     ASSERT_EQ(t.p.NumeroTramos, 4);
     EXPECT_EQ(t.datos.Spread1.Texto(4, 0), "4");
     EXPECT_EQ(t.sp.s.DatosModificados, -1);
+    // After a deletion the box of sections shows the old count until the pages are filled again.
+    t.d.respuestas = {Respuesta::Si};
+    t.datos.Eliminar();
+    EXPECT_EQ(t.p.NumeroTramos, 3);
+    EXPECT_EQ(t.datos.Long2(), 4);
+    t.datos.ColoquePantalla();
+    EXPECT_EQ(t.datos.Long2(), 3);
 
     Pantalla vacia;
     vacia.datos.Spread1.PonerFilas(0);

@@ -221,10 +221,14 @@ TEST_F(PantallaAnalisis, LosTipsConSuTitulo) {
 TEST_F(PantallaAnalisis, AlturaDelTanqueAManoYDeVuelta) {
     const auto calculada = Columna(4, 15);
     const double h = v->Double1()->Valor();
+    // The height shown leaves the pressures as they were, but for the rounding of the loop.
+    v->Boton(QStringLiteral("LSButton6"))->click();
+    for (int f = 1; f <= 8; ++f) EXPECT_NEAR(Spread(4).Valor(f, 15), calculada[size_t(f) - 1], 0.011) << "fila " << f;
     // One metre more: every node gains it, less the loss of that metre of
     // the tank's own pipe (branch 1's unit loss).
     Escribir(v->Double1(), QString::number(h + 1.0, 'f', 2));
     Tecla(v->Double1(), Qt::Key_Return);
+    EXPECT_NEAR(p.longitudReal[1], h + 1.0, 0.005);
     const double ganancia = 1.0 - p.PerdidaUnitaria[1];
     for (int f = 1; f <= 8; ++f)
         EXPECT_NEAR(Spread(4).Valor(f, 15), calculada[size_t(f) - 1] + ganancia, 0.011) << "fila " << f;

@@ -71,6 +71,15 @@ TEST_F(Computo, LasCuatroListas) {
                                               QStringLiteral("TUBERIA DE DIAMETRO = 2\"|4.50")}));
 }
 
+TEST_F(Computo, SinPiezasNiTamanosLasListasQuedanVacias) {
+    ProyectoDeRamales(p, sp.s, {{"O", "A"}});
+    PonerConexiones(p, 1, {{5, 1, 0.0, "CODO DE 90 GRADOS"}});
+    GuardarYAbrir(p, sp);
+    Computos c;
+    CalcularComputos(c, sp.s.ConexionProyecto);
+    EXPECT_EQ(c.Piezas.Filas() + c.Conexiones.Filas() + c.Tuberias.Filas(), 0);
+}
+
 TEST_F(Computo, TotalMayorQueElEnteroDesborda) {
     ProyectoDeRamales(p, sp.s, {{"O", "A"}});
     p.Predimensionado[1] = QStringLiteral("1");
