@@ -1,8 +1,12 @@
 #pragma once
 // Screens for the command tests: every screen is at hand unless marked
-// missing, each showing is recorded, and a screen can run a check or fault.
+// missing, each showing is recorded, and a screen can run a check or fault;
+// and the main window's logic over them with the scripted dialogs.
 
+#include "model/ProyectoEdificio.h"
+#include "shell/MenuPrincipal.h"
 #include "shell/Pantallas.h"
+#include "support/Apoyo.h"
 
 #include <QSet>
 #include <functional>
@@ -19,4 +23,13 @@ public:
         mostradas.push_back(p);
         if (alMostrar) alMostrar(p);
     }
+};
+
+struct MenuPrueba : ::testing::Test {
+    SesionPrueba sp;
+    Sesion& s = sp.s;
+    ProyectoEdificio p;
+    DialogosFalsos d;
+    PantallasFalsas pantallas;
+    MenuPrincipal menu{s, p, d, pantallas};
 };

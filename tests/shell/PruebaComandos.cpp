@@ -3,9 +3,6 @@
 
 #include "PantallasFalsas.h"
 #include "ProyectoMuestra.h"
-#include "model/ProyectoEdificio.h"
-#include "shell/MenuPrincipal.h"
-#include "support/Apoyo.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -13,14 +10,7 @@
 
 namespace {
 
-struct Comandos : ::testing::Test {
-    SesionPrueba sp;
-    Sesion& s = sp.s;
-    ProyectoEdificio p;
-    DialogosFalsos d;
-    PantallasFalsas pantallas;
-    MenuPrincipal menu{s, p, d, pantallas};
-
+struct Comandos : MenuPrueba {
     void SetUp() override {
         QDir().mkpath(sp.Datos(QStringLiteral("Proyectos")));
         QDir().mkpath(sp.Datos(QStringLiteral("Redes")));

@@ -3,22 +3,13 @@
 
 #include "PantallasFalsas.h"
 #include "aqueduct/ArchivoAcueducto.h"
-#include "model/ProyectoEdificio.h"
-#include "shell/MenuPrincipal.h"
-#include "support/Apoyo.h"
 
 #include <QDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct ComandosACU : ::testing::Test {
-    SesionPrueba sp;
-    Sesion& s = sp.s;
-    ProyectoEdificio p;
-    DialogosFalsos d;
-    PantallasFalsas pantallas;
-    MenuPrincipal menu{s, p, d, pantallas};
+struct ComandosACU : MenuPrueba {
     ProyectoAcueducto& acu = menu.Acueducto();
 
     void SetUp() override {
