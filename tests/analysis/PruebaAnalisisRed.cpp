@@ -2,7 +2,6 @@
 #include "analysis/AnalisisRed.h"
 #include "analysis/Numeracion.h"
 
-
 namespace {
 
 struct PantallaAnalisis : ::testing::Test {

@@ -21,7 +21,8 @@ TEST(LineaComandos, IniciarPreparaLaCarpetaYLaMuestra) {
 TEST(LineaComandos, ImportarYExportarIdaYVuelta) {
     SesionPrueba sp;
     // Each field's round trip is checked with the JSON import and export.
-    const QString json = EscribirArchivo(sp.Datos(QStringLiteral("p.json")), R"({"DatosGenerales":{"Proyecto":"Casa","Fecha":"01/02/2023","Velocidad":1.4},
+    const QString json = EscribirArchivo(sp.Datos(QStringLiteral("p.json")),
+                                         R"({"DatosGenerales":{"Proyecto":"Casa","Fecha":"01/02/2023","Velocidad":1.4},
                "Ramales":[{"NodoI":"A","Nodoj":"B","longitudReal":4.2,
                            "Piezas":[{"Clave":10,"Pieza":"LAVAMANOS","UnidadesGasto":1,"Cantidad":2}]}],
                "Nodos":[{"CotaPiso":1.5},{"CotaPiso":4.5}]})");

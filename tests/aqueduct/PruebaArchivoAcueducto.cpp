@@ -129,8 +129,8 @@ TEST(ArchivoAcueducto, ArchivosAjenosYDatosRotos) {
     EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
     EXPECT_TRUE(error.startsWith("No se encuentra el archivo")) << error.toStdString();
 
-    sp.s.ArchivoProyectoACU =
-        EscribirArchivo(sp.Datos("texto.acu"), "esto no es una base de datos, sino un texto cualquiera que ocupa espacio");
+    sp.s.ArchivoProyectoACU = EscribirArchivo(
+        sp.Datos("texto.acu"), "esto no es una base de datos, sino un texto cualquiera que ocupa espacio");
     EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
     EXPECT_TRUE(error.startsWith("El archivo no es una base de datos")) << error.toStdString();
 

@@ -20,7 +20,9 @@ struct Consola {
         return EjecutarPrograma(QStringList{QStringLiteral("acueducto")} + args, &salida, &errores, entorno);
     }
     QJsonObject Json() const { return QJsonDocument::fromJson(salida.toUtf8()).object(); }
-    QString Escribir(const QString& nombre, const QByteArray& texto) { return EscribirArchivo(sp.Datos(nombre), texto); }
+    QString Escribir(const QString& nombre, const QByteArray& texto) {
+        return EscribirArchivo(sp.Datos(nombre), texto);
+    }
     // A project made from JSON text through the command line.
     QString Proyecto(const QByteArray& json, const QString& nombre = QStringLiteral("red.acu")) {
         const QString destino = sp.Datos(nombre);

@@ -323,7 +323,8 @@ TEST_F(DatosACU, UnCoeficienteFueraDeLosLimitesSeAvisa) {
     Contestar(caja, 0);
     EscribirYSalir(v->Vista1(), 2, 5, QStringLiteral("40000"));
     Procesar();
-    MensajeEs(caja, QStringLiteral("¡Debe Entrar un Número entre 0 y 32767!"), QStringLiteral("Error en el Número..."));
+    MensajeEs(caja, QStringLiteral("¡Debe Entrar un Número entre 0 y 32767!"),
+              QStringLiteral("Error en el Número..."));
     EXPECT_EQ(p.CoeficienteC[2], 140);
     EXPECT_EQ(Celda(v->Vista1(), 2, 5), QStringLiteral("140"));
 }

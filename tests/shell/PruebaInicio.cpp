@@ -87,7 +87,9 @@ TEST_F(Arranque, UnTapizDeOtroTamanoSeReponePeroUnoParecidoSeConserva) {
     Sesion s;
     Iniciar(s);
     const qint64 instalado = QFileInfo(s.RutaImagen(QStringLiteral("TapizNivo.jpg"))).size();
-    auto reemplazar = [&](qint64 n) { EscribirArchivo(D(QStringLiteral("Tapices/TapizNivo.jpg")), QByteArray(int(n), 'x')); };
+    auto reemplazar = [&](qint64 n) {
+        EscribirArchivo(D(QStringLiteral("Tapices/TapizNivo.jpg")), QByteArray(int(n), 'x'));
+    };
     reemplazar(instalado + 10);  // within the range: kept
     VerificaTapizNivo(s);
     EXPECT_EQ(QFileInfo(D(QStringLiteral("Tapices/TapizNivo.jpg"))).size(), instalado + 10);
