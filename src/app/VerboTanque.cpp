@@ -58,7 +58,7 @@ QJsonObject EntradasComoJson(const DatosTanque& t) {
 const char* const NombresResultados[7] = {"QB", "VolumenTotal", "VolumenMinimo", "VolumenUtil",
                                           "VolumenMaximo", "PotenciaBomba", "PotenciaMotor"};
 
-void ImprimirTanque(const DatosTanque& t, const PantallaResultadosHidro& r, bool json) {
+void ImprimirTanque(const DatosTanque& t, const ResultadosHidro& r, bool json) {
     const ResultadoTanque& v = r.Resultado;
     const double numeros[7] = {v.QB, v.VolumenTotal, v.VolumenMinimo, v.VolumenUtil,
                                v.VolumenMaximo, v.PotenciaBomba, v.PotenciaMotor};
@@ -82,7 +82,7 @@ void ImprimirTanque(const DatosTanque& t, const PantallaResultadosHidro& r, bool
         return;
     }
     QString s = QStringLiteral("RESULTADOS DE CÁLCULO DEL TANQUE HIDRONEUMÁTICO\n") + r.Marco + QLatin1Char('\n');
-    const QStringList etiquetas = PantallaResultadosHidro::Etiquetas();
+    const QStringList etiquetas = ResultadosHidro::Etiquetas();
     for (int k = 0; k < 7; ++k) s += etiquetas[k] + QLatin1Char(' ') + r.Valores[k] + QLatin1Char('\n');
     s += QStringLiteral("Volumenes de Agua en Porcentaje\n");
     s += QStringLiteral("Volumen Mínimo: ") + r.PorcentajeMinimo + QLatin1Char('\n');
@@ -137,7 +137,7 @@ int VerboTanque(const QStringList& args) {
         t.PresionMaxima = t.PresionMinima + 14.0;
 
     try {
-        const PantallaResultadosHidro r(t);
+        const ResultadosHidro r(t);
         ImprimirTanque(t, r, json);
     } catch (const ErrorEjecucion& e) {
         return FallaDeCalculo(e, json);

@@ -88,12 +88,12 @@ HabilitacionTanque HabilitacionMetodo(int metodo) {
     }
 }
 
-void PantallaHidroneumatico::Cargar() {
+void Hidroneumatico::Cargar() {
     if (!Trim(s_.NombreProyecto).isEmpty()) PrellenarDesdeProyecto(Datos, p_, s_, d_);
     ValoresPorDefectoTanque(Datos);
 }
 
-bool PantallaHidroneumatico::Abrir() {
+bool Hidroneumatico::Abrir() {
     if (!AbrirOtroProyecto(p_, s_, d_)) return false;
     Caption = UCase(QStringLiteral("Resultado del Análisis     Proyecto: [ ") + s_.NombreProyecto +
                     QStringLiteral(" ]"));
@@ -114,19 +114,19 @@ bool PantallaHidroneumatico::Abrir() {
     return true;
 }
 
-void PantallaHidroneumatico::PonerFactorPeerlees(const QString& texto) {
+void Hidroneumatico::PonerFactorPeerlees(const QString& texto) {
     double v = 0.0;
     if (LeerNumero(texto, v)) Datos.FactorPeerlees = v;
 }
 
-QStringList PantallaResultadosHidro::Etiquetas() {
+QStringList ResultadosHidro::Etiquetas() {
     return {QStringLiteral("Caudal de Bombeo (l/s):"),      QStringLiteral("Voumen Total del Tanque (lts):"),
             QStringLiteral("Volumen Mínimo de Agua (lts):"), QStringLiteral("Volumen Util de Agua (lts):"),
             QStringLiteral("Voumen Máximo de Agua (lts):"),  QStringLiteral("Potencia de la Bomba (hp):"),
             QStringLiteral("Potencia del Motor (hp):")};
 }
 
-PantallaResultadosHidro::PantallaResultadosHidro(const DatosTanque& datos) : Resultado(CalcularTanque(datos)) {
+ResultadosHidro::ResultadosHidro(const DatosTanque& datos) : Resultado(CalcularTanque(datos)) {
     const ResultadoTanque& r = Resultado;
     Marco = r.Titulo;
     for (double v : {r.QB, r.VolumenTotal, r.VolumenMinimo, r.VolumenUtil, r.VolumenMaximo, r.PotenciaBomba,

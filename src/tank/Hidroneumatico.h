@@ -64,9 +64,9 @@ struct HabilitacionTanque {
 HabilitacionTanque HabilitacionMetodo(int metodo);
 
 // The screen Hidroneumatico: its inputs and the pre-filling at the load.
-class PantallaHidroneumatico {
+class Hidroneumatico {
 public:
-    PantallaHidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d) : p_(p), s_(s), d_(d) {}
+    Hidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d) : p_(p), s_(s), d_(d) {}
     DatosTanque Datos;
     QString Caption = QStringLiteral("CÁLCULO DE TANQUE HIDRONUEMÁTICO");
 
@@ -88,8 +88,8 @@ private:
 
 // The screen ResultadosHidro: computes at the load and shows the seven
 // values in "#,##0.00" and the percentages.
-struct PantallaResultadosHidro {
-    explicit PantallaResultadosHidro(const DatosTanque& datos);
+struct ResultadosHidro {
+    explicit ResultadosHidro(const DatosTanque& datos);
     ResultadoTanque Resultado;
     QString Marco;            // the frame's caption: the method title
     QStringList Valores;      // QB, VolumenTotal, VolumenMinimo, VolumenUtil, VolumenMaximo, PotenciaBomba, PotenciaMotor

@@ -44,13 +44,13 @@ TEST(Tanque, CasosLimite) {
     DatosTanque t;
     t.Caudal = 10.0;
     t.PresionMinima = t.PresionMaxima = 25.0;  // R of 1
-    PantallaResultadosHidro r(t);
+    ResultadosHidro r(t);
     EXPECT_EQ(r.Resultado.VolumenTotal, 0.0);
     EXPECT_EQ(r.Resultado.VolumenMaximo, r.Resultado.VolumenUtil);
     EXPECT_EQ(r.PorcentajeUtil, QStringLiteral("0.00%"));
     EXPECT_EQ(r.PorcentajeMaximo, QStringLiteral("0.00%"));
     EXPECT_EQ(r.PorcentajeMinimo, QStringLiteral("10%"));
-    EXPECT_EQ(PantallaResultadosHidro::Etiquetas()[1], QStringLiteral("Voumen Total del Tanque (lts):"));
+    EXPECT_EQ(ResultadosHidro::Etiquetas()[1], QStringLiteral("Voumen Total del Tanque (lts):"));
 
     t.Arranques = 0.0;  // no starts: no volumes
     EXPECT_EQ(CalcularTanque(t).VolumenUtil, 0.0);
@@ -76,7 +76,7 @@ TEST(Tanque, SinProyectoOConOtraOpcionLasCajasQuedan) {
     SesionPrueba sp;
     DialogosFalsos d;
     ProyectoEdificio p;
-    PantallaHidroneumatico sin(p, sp.s, d);
+    Hidroneumatico sin(p, sp.s, d);
     sin.Datos.Caudal = 4.0;
     sin.Cargar();
     EXPECT_EQ(sin.Datos.Caudal, 4.0);
@@ -84,7 +84,7 @@ TEST(Tanque, SinProyectoOConOtraOpcionLasCajasQuedan) {
     const QString ruta = sp.CopiaDeEjemplo(QStringLiteral("Vivienda con Tanque Elevado.nivo"), QStringLiteral("t.plm"));
     QString error;
     ASSERT_TRUE(CargarProyectoEdificio(p, sp.s, ruta, error));
-    PantallaHidroneumatico otra(p, sp.s, d);
+    Hidroneumatico otra(p, sp.s, d);
     otra.Cargar();
     EXPECT_EQ(otra.Datos.Caudal, 0.0);
     EXPECT_EQ(otra.Datos.PresionMinima, 0.0);
@@ -94,7 +94,7 @@ TEST(Tanque, AbrirOtroProyecto) {
     SesionPrueba sp;
     DialogosFalsos d;
     ProyectoEdificio p;
-    PantallaHidroneumatico pantalla(p, sp.s, d);
+    Hidroneumatico pantalla(p, sp.s, d);
     EXPECT_FALSE(pantalla.Abrir());
     d.archivos = {sp.CopiaDeEjemplo(QStringLiteral("Edificio_MontantePH.nivo"), QStringLiteral("ph.plm"))};
     pantalla.Datos.NumeroMetodo = 3;
@@ -110,7 +110,7 @@ TEST(Tanque, UnaFallaAlAbrirDejaElProyectoNuevoConLosValoresPorDefecto) {
     SesionPrueba sp;
     DialogosFalsos d;
     ProyectoEdificio p;
-    PantallaHidroneumatico pantalla(p, sp.s, d);
+    Hidroneumatico pantalla(p, sp.s, d);
     // The sample computes its losses by Hazen-Williams: a C of 0 divides by zero.
     const QString ruta = sp.CopiaDeEjemplo(QStringLiteral("Edificio_MontantePH.nivo"), QStringLiteral("ph.plm"));
     ASSERT_TRUE(EjecutarSql(ruta, QStringLiteral("UPDATE DatosGenerales SET CoeficienteC=0")));

@@ -7,7 +7,7 @@
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/Sobre.h"
 #include "takeoff/screens/Computos.h"
-#include "tank/screens/Hidroneumatico.h"
+#include "tank/screens/VentanaHidroneumatico.h"
 
 bool PantallasEscritorio::Disponible(Pantalla p) const {
     switch (p) {
@@ -34,7 +34,7 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
         break;
     }
     case Pantalla::Hidroneumatico: {
-        Hidroneumatico pantalla(p_, s_, d_, ventana_);
+        VentanaHidroneumatico pantalla(p_, s_, d_, ventana_);
         // A fault in the pre-filling has been shown; the boxes can be typed.
         pantalla.Cargar();
         pantalla.exec();

@@ -12,10 +12,10 @@ class QGroupBox;
 class QLabel;
 class NivoToolTip;
 
-class ResultadosHidro : public QDialog {
+class VentanaResultadosHidro : public QDialog {
     Q_OBJECT
 public:
-    ResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* padre = nullptr);
+    VentanaResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* padre = nullptr);
 
     // The sizing; a fault of it (ErrorEjecucion) leaves the screen unshown.
     void Cargar();
