@@ -51,9 +51,9 @@ QString NombreTipoConexion(int tipo) {
     return tipo >= 1 && tipo <= 10 ? QString::fromLatin1(TiposConexion[tipo - 1]) : QString();
 }
 
-Computos::Computos() { ConfigurarSpread(*this); }
+PaginasComputos::PaginasComputos() { ConfigurarSpread(*this); }
 
-QString Computos::TituloPagina(int pagina) {
+QString PaginasComputos::TituloPagina(int pagina) {
     switch (pagina) {
     case 1: return QStringLiteral("Piezas Sanitarias");
     case 2: return QStringLiteral("Conexiones");
@@ -63,7 +63,7 @@ QString Computos::TituloPagina(int pagina) {
     }
 }
 
-void ConfigurarSpread(Computos& c) {
+void ConfigurarSpread(PaginasComputos& c) {
     Configurar(c.Piezas, QStringLiteral("Piezas Sanitarias"), QStringLiteral("Piezas"), 0);
     Configurar(c.Conexiones, QStringLiteral("Conexiones en Tuberías"), QStringLiteral("Conexiones"), 0);
     Configurar(c.Reducciones, QStringLiteral("Reducciones (Piezas)"), QStringLiteral("Reduciones"), 0);
@@ -127,20 +127,20 @@ void CalculeComputosTuberias(Grid& g, Conexion& c) {
              2, [](const QString& t) { return QStringLiteral("TUBERIA DE DIAMETRO = ") + t + MarcaPulgada(); });
 }
 
-void CalcularComputos(Computos& computos, Conexion& c) {
+void CalcularComputos(PaginasComputos& computos, Conexion& c) {
     CalculeComputosPiezas(computos.Piezas, c);
     CalculeComputosConexiones(computos.Conexiones, c);
     CalculeComputosReducciones(computos.Reducciones, c);
     CalculeComputosTuberias(computos.Tuberias, c);
 }
 
-void PantallaComputos::Cargar() {
+void Computos::Cargar() {
     ConfigurarSpread(Paginas);
     CalcularComputos(Paginas, s_.ConexionProyecto);
     Pagina = 1;
 }
 
-bool PantallaComputos::Abrir() {
+bool Computos::Abrir() {
     if (!AbrirOtroProyecto(p_, s_, d_)) return false;
     Caption = UCase(QStringLiteral("Cómputos   Proyecto: [ ") + s_.NombreProyecto + QStringLiteral(" ] "));
     if (p_.NumeroRamales > 0) {

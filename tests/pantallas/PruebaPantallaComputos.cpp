@@ -5,7 +5,7 @@
 // hose): see the analysis screen's test for how those sizes come.
 
 #include "ApoyoPantallas.h"
-#include "takeoff/screens/Computos.h"
+#include "takeoff/screens/VentanaComputos.h"
 #include "widgets/NivoTab.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/VistaGrid.h"

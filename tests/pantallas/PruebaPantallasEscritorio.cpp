@@ -8,7 +8,7 @@
 #include "analysis/screens/AnalisisRed.h"
 #include "shell/screens/PantallasEscritorio.h"
 #include "shell/screens/VentanaPrincipal.h"
-#include "takeoff/screens/Computos.h"
+#include "takeoff/screens/VentanaComputos.h"
 #include "tank/screens/VentanaHidroneumatico.h"
 #include "widgets/NivoNumero.h"
 

@@ -37,7 +37,7 @@ struct Computo : ::testing::Test {
 }  // namespace
 
 TEST_F(Computo, EncabezadosDeLasCuatroPaginas) {
-    Computos c;
+    PaginasComputos c;
     EXPECT_EQ(c.Piezas.Encabezado(1, 1), QStringLiteral("Piezas Sanitarias"));
     EXPECT_EQ(c.Piezas.Encabezado(1, 2), QStringLiteral("Cantidad"));
     EXPECT_EQ(c.Piezas.Encabezado(2, 2), QStringLiteral("Piezas"));
@@ -45,12 +45,12 @@ TEST_F(Computo, EncabezadosDeLasCuatroPaginas) {
     EXPECT_EQ(c.Reducciones.Encabezado(2, 2), QStringLiteral("Reduciones"));
     EXPECT_EQ(c.Tuberias.Encabezado(1, 1), QStringLiteral("Tuberías en el Proyecto"));
     EXPECT_EQ(c.Tuberias.Encabezado(2, 2), QStringLiteral("Long. (m)"));
-    EXPECT_EQ(Computos::TituloPagina(4), QStringLiteral("Tuberías"));
+    EXPECT_EQ(PaginasComputos::TituloPagina(4), QStringLiteral("Tuberías"));
 }
 
 TEST_F(Computo, LasCuatroListas) {
     Proyecto();
-    Computos c;
+    PaginasComputos c;
     CalcularComputos(c, sp.s.ConexionProyecto);
     // Fixtures by name: the sub-branch and key 0 are left out; keys 10 and 99 share a name.
     EXPECT_EQ(Filas(c.Piezas), "LAVAMANOS|6");
@@ -75,7 +75,7 @@ TEST_F(Computo, SinPiezasNiTamanosLasListasQuedanVacias) {
     ProyectoDeRamales(p, sp.s, {{"O", "A"}});
     PonerConexiones(p, 1, {{5, 1, 0.0, "CODO DE 90 GRADOS"}});
     GuardarYAbrir(p, sp);
-    Computos c;
+    PaginasComputos c;
     CalcularComputos(c, sp.s.ConexionProyecto);
     EXPECT_EQ(c.Piezas.Filas() + c.Conexiones.Filas() + c.Tuberias.Filas(), 0);
 }

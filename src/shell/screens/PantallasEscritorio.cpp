@@ -6,7 +6,7 @@
 #include "shell/screens/ConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/Sobre.h"
-#include "takeoff/screens/Computos.h"
+#include "takeoff/screens/VentanaComputos.h"
 #include "tank/screens/VentanaHidroneumatico.h"
 
 bool PantallasEscritorio::Disponible(Pantalla p) const {
