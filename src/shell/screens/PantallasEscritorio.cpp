@@ -3,7 +3,7 @@
 #include "analysis/screens/AnalisisRed.h"
 #include "aqueduct/screens/VentanaAnalisisACU.h"
 #include "aqueduct/screens/VentanaDatosAcueducto.h"
-#include "shell/screens/ConfigurarPrograma.h"
+#include "shell/screens/VentanaConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/Sobre.h"
 #include "takeoff/screens/VentanaComputos.h"
@@ -46,7 +46,7 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
         break;
     }
     case Pantalla::ConfigurarPrograma: {
-        ConfigurarPrograma pantalla(s_, d_, ventana_);
+        VentanaConfigurarPrograma pantalla(s_, d_, ventana_);
         pantalla.exec();
         break;
     }
