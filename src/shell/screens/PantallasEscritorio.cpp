@@ -5,7 +5,7 @@
 #include "aqueduct/screens/VentanaDatosAcueducto.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
-#include "shell/screens/Sobre.h"
+#include "shell/screens/VentanaSobre.h"
 #include "takeoff/screens/VentanaComputos.h"
 #include "tank/screens/VentanaHidroneumatico.h"
 
@@ -51,7 +51,7 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
         break;
     }
     case Pantalla::Sobre: {
-        Sobre pantalla(ventana_);
+        VentanaSobre pantalla(ventana_);
         pantalla.exec();
         break;
     }

@@ -3,7 +3,7 @@
 #include "shell/Herramientas.h"
 #include "shell/Inicio.h"
 #include "shell/Sesion.h"
-#include "shell/screens/frmMsgBox.h"
+#include "shell/screens/VentanaMsgBox.h"
 #include "widgets/NivoTab.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/PanelTapiz.h"
