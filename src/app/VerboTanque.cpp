@@ -55,6 +55,13 @@ QJsonObject EntradasComoJson(const DatosTanque& t) {
     return o;
 }
 
+// A refusal of the data, for a reader of the JSON output.
+void ImprimirMensajeJson(const QString& texto) {
+    QJsonObject o;
+    o[QStringLiteral("mensaje")] = texto;
+    ImprimirJson(o);
+}
+
 const char* const NombresResultados[7] = {"QB", "VolumenTotal", "VolumenMinimo", "VolumenUtil",
                                           "VolumenMaximo", "PotenciaBomba", "PotenciaMotor"};
 
@@ -111,11 +118,7 @@ int VerboTanque(const QStringList& args) {
         if (!a.archivo.isEmpty()) {
             if (!c.Cargar(a.archivo)) return Salida::Falla;
             if (p.OpcionPresionInicial == 0 && p.NumeroRamales >= 1 && !PrellenarDesdeProyecto(t, p, c.s, c.d)) {
-                if (json) {
-                    QJsonObject o;
-                    o[QStringLiteral("mensaje")] = c.d.ultimoTexto;
-                    ImprimirJson(o);
-                }
+                if (json) ImprimirMensajeJson(c.d.ultimoTexto);
                 return Salida::DatosInvalidos;
             }
         }
@@ -135,6 +138,11 @@ int VerboTanque(const QStringList& args) {
     // A minimum typed without a maximum takes the range of the pre-filling.
     if (a.Valor(QStringLiteral("pmax")).isNull() && !a.Valor(QStringLiteral("pmin")).isNull())
         t.PresionMaxima = t.PresionMinima + 14.0;
+    const QString rechazo = RechazoPresiones(t);
+    if (!rechazo.isEmpty()) {
+        if (json) ImprimirMensajeJson(rechazo);
+        return Fallar(rechazo, Salida::DatosInvalidos);
+    }
 
     try {
         const ResultadosHidro r(t);

@@ -12,6 +12,7 @@
 #include "base/Nivo.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
+#include "shell/Titulos.h"
 
 void ValoresPorDefectoTanque(DatosTanque& t) {
     t.Porcentaje = 50.0;
@@ -79,6 +80,11 @@ ResultadoTanque CalcularTanque(const DatosTanque& t) {
     return r;
 }
 
+QString RechazoPresiones(const DatosTanque& t) {
+    if (t.PresionMaxima > t.PresionMinima) return QString();
+    return QStringLiteral("La presión máxima debe ser mayor que la mínima.");
+}
+
 HabilitacionTanque HabilitacionMetodo(int metodo) {
     switch (metodo) {
     case 1: return {true, true, false, false, false, false};
@@ -112,6 +118,13 @@ bool Hidroneumatico::Abrir() {
     ValoresPorDefectoTanque(Datos);
     d_.CursorOcupado(false);
     return true;
+}
+
+bool Hidroneumatico::Calcular() {
+    const QString rechazo = RechazoPresiones(Datos);
+    if (!rechazo.isEmpty())
+        d_.MostrarMensaje(rechazo, QStringLiteral("Error en Datos del Sistema..."), TituloProyectoFontaria());
+    return rechazo.isEmpty();
 }
 
 void Hidroneumatico::PonerFactorPeerlees(const QString& texto) {

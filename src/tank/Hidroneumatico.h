@@ -57,6 +57,10 @@ QString TextoMetodoReporte(int metodo);
 // The sizing.  PresionMaxima of -10 divides by zero (error 11).
 ResultadoTanque CalcularTanque(const DatosTanque& t);
 
+// A maximum pressure not above the minimum would size no tank or a negative
+// one: the text of its refusal, empty when the pressures can be sized.
+QString RechazoPresiones(const DatosTanque& t);
+
 // Which boxes of the screen are enabled for a method.
 struct HabilitacionTanque {
     bool Caudal, Porcentaje, Dotacion, NumeroPiezas, FactorPeerlees, BotonPeerless;
@@ -77,6 +81,9 @@ public:
     // defaults in the boxes, and passes on as ErrorEjecucion.
     bool Abrir();
     HabilitacionTanque Habilitacion() const { return HabilitacionMetodo(Datos.NumeroMetodo); }
+    // "Calcular": true when the results screen is to open; a refusal of the
+    // pressures is shown instead.
+    bool Calcular();
     // The factor captured from the Peerless table goes into its box.
     void PonerFactorPeerlees(const QString& texto);
 

@@ -114,6 +114,7 @@ TEST_F(PantallaTanque, LosResultadosDelMetodoUnoCalculadosAMano) {
 TEST_F(PantallaTanque, UnaFallaDelCalculoSeMuestraYLasEntradasQuedan) {
     Abrir(false);
     // A maximum pressure of -10 m divides by zero in the pressure ratio.
+    Teclear("PresionMinima", "-20");
     Teclear("PresionMaxima", "-10");
     MensajeVisto visto;
     Contestar(visto, 0);
@@ -121,6 +122,30 @@ TEST_F(PantallaTanque, UnaFallaDelCalculoSeMuestraYLasEntradasQuedan) {
     MensajeEs(visto, QStringLiteral("Error 11: División por cero"), QStringLiteral("Error en el Cálculo..."));
     EXPECT_TRUE(v->isVisible());
     EXPECT_EQ(Caja("PresionMaxima")->Valor(), -10.0);
+}
+
+TEST_F(PantallaTanque, UnaPresionMaximaIgualALaMinimaSeRechazaSinResultados) {
+    Abrir(false);
+    Teclear("Caudal", "10");
+    Teclear("PresionMinima", "20");
+    Teclear("PresionMaxima", "20");
+    // Whichever opens, the box or the results, is seen and closed.
+    QString visto;
+    bool resultados = false;
+    QTimer::singleShot(0, [&] {
+        QWidget* w = QApplication::activeModalWidget();
+        if (auto* caja = qobject_cast<VentanaMsgBox*>(w)) {
+            visto = caja->findChild<QLabel*>(QStringLiteral("Label2"))->text();
+            caja->Boton(0)->click();
+        } else if (auto* r = qobject_cast<VentanaResultadosHidro*>(w)) {
+            resultados = true;
+            r->reject();
+        }
+    });
+    v->Boton(QStringLiteral("Calcular"))->click();
+    EXPECT_EQ(visto, QStringLiteral("La presión máxima debe ser mayor que la mínima."));
+    EXPECT_FALSE(resultados);
+    EXPECT_EQ(Caja("PresionMaxima")->text(), QStringLiteral("20.00"));
 }
 
 TEST_F(PantallaTanque, LaTablaDePeerlessDevuelveElFactor) {

@@ -56,11 +56,33 @@ TEST(Tanque, CasosLimite) {
     EXPECT_EQ(CalcularTanque(t).VolumenUtil, 0.0);
 
     t.Arranques = 6.0;
-    t.PresionMaxima = 20.0;  // below the minimum: a negative total, shown as it is
-    EXPECT_LT(CalcularTanque(t).VolumenTotal, 0.0);
-
+    t.PresionMinima = -20.0;
     t.PresionMaxima = -10.0;
     EXPECT_EQ(NumeroDeError([&] { CalcularTanque(t); }), Error::DivisionPorCero);
+}
+
+TEST(Tanque, CalcularRechazaUnaPresionMaximaQueNoSuperaLaMinima) {
+    // Not above the minimum, R = (Pmin + 10) / (Pmax + 10) is 1 or more: no
+    // tank, or a negative one.
+    const struct {
+        double minima, maxima;
+        bool calcula;
+    } casos[] = {{20.0, 20.0, false}, {0.0, 0.0, false},      {20.0, 19.99, false},
+                 {20.0, 5.0, false},  {20.0, 20.01, true},    {-20.0, -15.0, true}};
+    SesionPrueba sp;
+    ProyectoEdificio p;
+    for (const auto& c : casos) {
+        DialogosFalsos d;
+        Hidroneumatico pantalla(p, sp.s, d);
+        pantalla.Datos.PresionMinima = c.minima;
+        pantalla.Datos.PresionMaxima = c.maxima;
+        EXPECT_EQ(pantalla.Calcular(), c.calcula) << c.minima << " " << c.maxima;
+        ASSERT_EQ(d.mensajes.size(), c.calcula ? 0u : 1u);
+        if (!c.calcula)
+            MensajeEs(d.Ultimo(), QStringLiteral("La presión máxima debe ser mayor que la mínima."),
+                      QStringLiteral("Error en Datos del Sistema..."));
+        EXPECT_EQ(pantalla.Datos.PresionMaxima, c.maxima);
+    }
 }
 
 TEST(Tanque, TablaDePeerlessYCaptura) {

@@ -209,6 +209,7 @@ bool VentanaHidroneumatico::Cargar() {
 }
 
 void VentanaHidroneumatico::Calcular() {
+    if (!logica_.Calcular()) return;
     VentanaResultadosHidro resultados(logica_.Datos, s_, this);
     // A fault of the sizing ends the calculation; the inputs stay.
     if (SinFallaDeCalculo(d_, [&] { resultados.Cargar(); })) resultados.exec();
