@@ -88,3 +88,24 @@ TEST_F(Computo, TotalMayorQueElEnteroDesborda) {
     Grid g;
     EXPECT_EQ(NumeroDeError([&] { CalculeComputosConexiones(g, sp.s.ConexionProyecto); }), Error::Desbordamiento);
 }
+
+TEST_F(Computo, LosNombresSeAgrupanSinMayusculasNiAcentosEnOrdenEspanol) {
+    // One row per name whatever its case or accents, under its spelling first
+    // written; "Á" sorts with "A", before "Z".
+    ProyectoDeRamales(p, sp.s, {{"O", "A"}, {"A", "B"}});
+    p.Predimensionado[1] = p.Predimensionado[2] = QStringLiteral("1");
+    p.Reduccion[1] = QStringLiteral("reducción de 1\" a 3/4\"");
+    p.Reduccion[2] = QStringLiteral("REDUCCION DE 1\" A 3/4\"");
+    PonerPiezas(p, 1, {{10, 1, 1.0, "Lavamanos"}, {10, 1, 1.0, "Zanja"}, {10, 2, 1.0, "LAVAMANOS"}});
+    PonerPiezas(p, 2, {{10, 3, 1.0, "lavamanos"}, {10, 1, 1.0, "Ázotea"}});
+    PonerConexiones(p, 1, {{12, 1, 1.0, "Ángulo especial"}, {5, 1, 0.0, "CODO DE 90 GRADOS"}});
+    PonerConexiones(p, 2, {{12, 2, 1.0, "ANGULO ESPECIAL"}});
+    GuardarYAbrir(p, sp);
+    PaginasComputos c;
+    CalcularComputos(c, sp.s.ConexionProyecto);
+    EXPECT_EQ(Filas(c.Piezas), Lineas({QStringLiteral("Ázotea|1"), QStringLiteral("Lavamanos|6"),
+                                       QStringLiteral("Zanja|1")}));
+    EXPECT_EQ(Filas(c.Conexiones), Lineas({QStringLiteral("Ángulo especial|3"),
+                                           QStringLiteral("CODO DE 90 GRADOS DE  1\"|1")}));
+    EXPECT_EQ(Filas(c.Reducciones), "REDUCCIÓN DE 1\" A 3/4\"|2");
+}
