@@ -2,7 +2,7 @@
 #include "app/SalidaEdificio.h"
 #include "base/ErrorEjecucion.h"
 #include "base/Nivo.h"
-#include "tank/Hidroneumatico.h"
+#include "tank/ResultadosHidro.h"
 
 #include <cmath>
 

@@ -2,10 +2,7 @@
 // Sizing of a hydropneumatic tank and its pump on top of the building
 // chain: the inputs and their defaults, the pre-filling from an open project,
 // the three methods of the pump flow and the sizing formulas; and the logic
-// of the screens Hidroneumatico (inputs), Peerlees (the table of consumption
-// factors) and ResultadosHidro (results), for the Qt screens to show.
-
-#include "base/Grid.h"
+// of the screen Hidroneumatico (inputs), for its Qt screen to show.
 
 #include <QString>
 #include <QStringList>
@@ -92,23 +89,3 @@ private:
     Sesion& s_;
     Dialogos& d_;
 };
-
-// The screen ResultadosHidro: computes at the load and shows the seven
-// values in "#,##0.00" and the percentages.
-struct ResultadosHidro {
-    explicit ResultadosHidro(const DatosTanque& datos);
-    ResultadoTanque Resultado;
-    QString Marco;            // the frame's caption: the method title
-    QStringList Valores;      // QB, VolumenTotal, VolumenMinimo, VolumenUtil, VolumenMaximo, PotenciaBomba, PotenciaMotor
-    QString PorcentajeMinimo = QStringLiteral("10%");
-    QString PorcentajeUtil, PorcentajeMaximo;
-    static QStringList Etiquetas();
-};
-
-// The table of the screen Peerlees: six building classes by seven ranges of
-// fixtures, factors in litres per minute per fixture; read-only.
-Grid TablaPeerlees();
-// "Capturar Factor Consumo": the active cell's text as a number and back to
-// text ("2.50" gives "2.5").  A header or a text that is not a number is a
-// type mismatch (error 13).
-QString CapturarFactorPeerlees(const Grid& tabla, int fila, int columna);

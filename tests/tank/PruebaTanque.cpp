@@ -1,6 +1,8 @@
 #include "analysis/ApoyoAnalisis.h"
 #include "analysis/CargaProyecto.h"
 #include "tank/Hidroneumatico.h"
+#include "tank/Peerlees.h"
+#include "tank/ResultadosHidro.h"
 
 #include <cmath>
 

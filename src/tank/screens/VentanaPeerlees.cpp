@@ -1,7 +1,7 @@
 #include "tank/screens/VentanaPeerlees.h"
 
 #include "shell/Sesion.h"
-#include "tank/Hidroneumatico.h"
+#include "tank/Peerlees.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
 #include "widgets/VistaGrid.h"

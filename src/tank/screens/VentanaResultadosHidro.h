@@ -3,7 +3,7 @@
 // tank at its load and shows the seven results under the method's title, the
 // volumes in percent and a sketch of the tank.
 
-#include "tank/Hidroneumatico.h"
+#include "tank/ResultadosHidro.h"
 
 #include <QDialog>
 #include <optional>
