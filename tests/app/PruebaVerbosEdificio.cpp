@@ -130,9 +130,15 @@ TEST_F(Verbos, TanqueSinProyecto) {
                       QStringLiteral("diez")}),
               1);
     EXPECT_TRUE(errores.contains(QStringLiteral("--caudal no es un número")));
-    EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("2"), QStringLiteral("--pmax"),
-                      QStringLiteral("-10"), QStringLiteral("--json")}),
+    EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("2"), QStringLiteral("--pmin"),
+                      QStringLiteral("-20"), QStringLiteral("--pmax"), QStringLiteral("-10"), QStringLiteral("--json")}),
               3);
+    // A maximum not above the minimum is refused as data.
+    EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1"), QStringLiteral("--pmin"),
+                      QStringLiteral("20"), QStringLiteral("--pmax"), QStringLiteral("20")}),
+              2);
+    EXPECT_EQ(errores.trimmed(), QStringLiteral("La presión máxima debe ser mayor que la mínima."));
+    EXPECT_TRUE(salida.isEmpty());
 }
 
 TEST_F(Verbos, TanqueConElProyectoHidroneumatico) {

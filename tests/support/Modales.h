@@ -2,7 +2,7 @@
 // Screen tests: act on the next modal window from inside its loop, read and
 // answer the program's message box, press keys and type into boxes.
 
-#include "shell/screens/frmMsgBox.h"
+#include "shell/screens/VentanaMsgBox.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -32,7 +32,7 @@ struct MensajeVisto {
 // once: each takes a box in turn.
 inline void Contestar(MensajeVisto& visto, int boton, int intentos = 100) {
     QTimer::singleShot(intentos == 100 ? 0 : 10, [&visto, boton, intentos] {
-        auto* caja = qobject_cast<frmMsgBox*>(QApplication::activeModalWidget());
+        auto* caja = qobject_cast<VentanaMsgBox*>(QApplication::activeModalWidget());
         if ((!caja || caja->property("contestada").toBool()) && intentos > 0) {
             Contestar(visto, boton, intentos - 1);
             return;
