@@ -5,8 +5,10 @@
 #include "widgets/NivoNumero.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QComboBox>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QLineEdit>
@@ -28,6 +30,21 @@ bool MismasUniones(const std::vector<Union>& a, const std::vector<Union>& b) {
             a[i].columnas != b[i].columnas)
             return false;
     return true;
+}
+
+// Under a joined cell but not its top-left: the cell is not shown.
+bool Tapada(const Grid& g, int f, int c) {
+    for (const Union& u : g.Uniones())
+        if (f >= u.fila && f < u.fila + u.filas && c >= u.columna && c < u.columna + u.columnas &&
+            (f != u.fila || c != u.columna))
+            return true;
+    return false;
+}
+
+// Enter or Shift+Enter (of either keyboard block), with no other modifier.
+bool EsEnter(const QKeyEvent* k) {
+    return (k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter) &&
+           !(k->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
 }
 
 }  // namespace
@@ -284,13 +301,30 @@ void DelegadoGrid::setModelData(QWidget* editor, QAbstractItemModel* m, const QM
     QStyledItemDelegate::setModelData(editor, m, i);
 }
 
+bool DelegadoGrid::eventFilter(QObject* o, QEvent* e) {
+    auto* editor = qobject_cast<QWidget*>(o);
+    if (editor && e->type() == QEvent::KeyPress && EsEnter(static_cast<QKeyEvent*>(e))) {
+        // The value goes through the same commit as leaving the cell, then
+        // the next row's cell is current, ready for the next number.
+        const bool arriba = static_cast<QKeyEvent*>(e)->modifiers() & Qt::ShiftModifier;
+        Q_EMIT commitData(editor);
+        Q_EMIT closeEditor(editor, QAbstractItemDelegate::NoHint);
+        Q_EMIT Avanzar(arriba ? -1 : 1);
+        return true;
+    }
+    return QStyledItemDelegate::eventFilter(o, e);
+}
+
 // ---------------------------------------------------------------- view
 
 VistaGrid::VistaGrid(QWidget* padre) : QTableView(padre) {
     setHorizontalHeader(new EncabezadoDoble(this));
-    setItemDelegate(new DelegadoGrid(this));
+    auto* delegado = new DelegadoGrid(this);
+    setItemDelegate(delegado);
+    connect(delegado, &DelegadoGrid::Avanzar, this, [this](int paso) { Avanzar(paso); });
     setModel(&modelo_);
-    setSelectionMode(QAbstractItemView::SingleSelection);
+    // A block may be selected everywhere, for copying.
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
     setSelectionBehavior(QAbstractItemView::SelectItems);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                     QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
@@ -342,10 +376,9 @@ void VistaGrid::AplicarForma() {
     columnas_ = g ? g->Columnas() : 0;
     uniones_ = g ? g->Uniones() : std::vector<Union>();
     if (!g) return;
-    const int caracter = fontMetrics().averageCharWidth();
     for (int c = 1; c <= columnas_; ++c) {
         setColumnHidden(c - 1, g->Col(c).oculta);
-        setColumnWidth(c - 1, g->Col(c).ancho * caracter + 12);
+        setColumnWidth(c - 1, AnchoFijado(c));
     }
     for (const Union& u : uniones_)
         if (u.columna >= 1 && u.fila >= 1 && u.fila <= filas_) setSpan(u.fila - 1, u.columna - 1, u.filas, u.columnas);
@@ -366,6 +399,10 @@ void VistaGrid::Refrescar() {
         modelo_.Repintar();
     }
     horizontalHeader()->viewport()->update();
+}
+
+int VistaGrid::AnchoFijado(int columna) const {
+    return grid()->Col(columna).ancho * fontMetrics().averageCharWidth() + 12;
 }
 
 void VistaGrid::MostrarActiva() {
@@ -410,6 +447,95 @@ void VistaGrid::AvisarBloque() {
     const QItemSelectionRange& r = seleccion.first();
     if (r.height() * r.width() <= 1) return;
     Q_EMIT BloqueSeleccionado(r.top() + 1, r.bottom() + 1, r.left() + 1, r.right() + 1);
+}
+
+void VistaGrid::Avanzar(int paso) {
+    const QModelIndex actual = currentIndex();
+    if (!actual.isValid()) return;
+    // The table's own move steps over joined cells and hidden rows.
+    const QModelIndex destino = moveCursor(paso > 0 ? MoveDown : MoveUp, Qt::NoModifier);
+    if (destino.isValid() && destino != actual) setCurrentIndex(destino);
+}
+
+QString VistaGrid::TextoSeleccion() const {
+    const Grid* g = grid();
+    if (!g || g->Filas() == 0) return QString();
+    int f1 = 0, f2 = 0, c1 = 0, c2 = 0;
+    const QItemSelection seleccion = selectionModel() ? selectionModel()->selection() : QItemSelection();
+    if (seleccion.size() == 1) {
+        const QItemSelectionRange& r = seleccion.first();
+        f1 = r.top() + 1, f2 = r.bottom() + 1, c1 = r.left() + 1, c2 = r.right() + 1;
+    } else if (currentIndex().isValid()) {
+        f1 = f2 = currentIndex().row() + 1;
+        c1 = c2 = currentIndex().column() + 1;
+    } else {
+        return QString();
+    }
+    const int ancho = c2 - c1 + 1;
+    std::vector<char> tapada(size_t((f2 - f1 + 1) * ancho), 0);
+    for (const Union& u : g->Uniones())
+        for (int f = std::max(u.fila, f1); f < u.fila + u.filas && f <= f2; ++f)
+            for (int c = std::max(u.columna, c1); c < u.columna + u.columnas && c <= c2; ++c)
+                if (f != u.fila || c != u.columna) tapada[size_t((f - f1) * ancho + c - c1)] = 1;
+    QStringList lineas;
+    for (int f = f1; f <= f2; ++f) {
+        if (isRowHidden(f - 1)) continue;
+        QStringList celdas;
+        for (int c = c1; c <= c2; ++c)
+            if (!isColumnHidden(c - 1)) celdas << (tapada[size_t((f - f1) * ancho + c - c1)] ? QString() : g->Texto(f, c));
+        lineas << celdas.join(QLatin1Char('\t'));
+    }
+    return lineas.join(QLatin1Char('\n'));
+}
+
+void VistaGrid::Copiar() { QGuiApplication::clipboard()->setText(TextoSeleccion()); }
+
+void VistaGrid::Pegar() { Pegar(QGuiApplication::clipboard()->text()); }
+
+void VistaGrid::Pegar(const QString& texto) {
+    const QModelIndex inicio = currentIndex();
+    if (!grid() || !inicio.isValid() || texto.isEmpty()) return;
+    QString limpio = texto;
+    limpio.remove(QLatin1Char('\r'));
+    QStringList lineas = limpio.split(QLatin1Char('\n'));
+    // A spreadsheet ends its last row with a line feed too.
+    if (lineas.size() > 1 && lineas.last().isEmpty()) lineas.removeLast();
+    int f = inicio.row() + 1;
+    for (const QString& linea : lineas) {
+        while (grid() && f <= grid()->Filas() && isRowHidden(f - 1)) ++f;
+        if (!grid() || f > grid()->Filas()) return;
+        int c = inicio.column() + 1;
+        for (const QString& valor : linea.split(QLatin1Char('\t'))) {
+            while (c <= grid()->Columnas() && isColumnHidden(c - 1)) ++c;
+            if (c > grid()->Columnas()) break;
+            const QModelIndex i = modelo_.index(f - 1, c - 1);
+            if ((modelo_.flags(i) & Qt::ItemIsEditable) && !Tapada(*grid(), f, c)) {
+                if (!modelo_.setData(i, valor, Qt::EditRole)) {
+                    setCurrentIndex(i);
+                    return;
+                }
+                // The logic acts on each cell before the next, as after typing it.
+                modelo_.EntregarPendientes();
+                if (!grid()) return;
+            }
+            ++c;
+        }
+        ++f;
+    }
+}
+
+void VistaGrid::keyPressEvent(QKeyEvent* e) {
+    if (e->matches(QKeySequence::Copy)) {
+        Copiar();
+    } else if (e->matches(QKeySequence::Paste)) {
+        Pegar();
+    } else if (EsEnter(e) && state() != EditingState) {
+        Avanzar(e->modifiers() & Qt::ShiftModifier ? -1 : 1);
+    } else {
+        QTableView::keyPressEvent(e);
+        return;
+    }
+    e->accept();
 }
 
 void VistaGrid::mouseReleaseEvent(QMouseEvent* e) {

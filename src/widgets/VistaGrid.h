@@ -5,6 +5,11 @@
 // session's separators, drop-down list cells, joined body cells and the
 // active cell.  Each edit lands in the Grid and is reported as
 // (row, column, text) for the screen logic to act on.
+//
+// It behaves as a spreadsheet: Enter commits and moves down (Shift+Enter
+// up), Ctrl+C copies the selected block as tab-separated lines of the texts
+// shown, Ctrl+V pastes such a block cell by cell through the same commit as
+// typing.
 
 #include "base/Grid.h"
 
@@ -78,6 +83,14 @@ public:
     QWidget* createEditor(QWidget* padre, const QStyleOptionViewItem& o, const QModelIndex& i) const override;
     void setEditorData(QWidget* editor, const QModelIndex& i) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* m, const QModelIndex& i) const override;
+
+Q_SIGNALS:
+    // Enter in an open editor: the value was committed and the editor
+    // closed; the view moves `paso` rows (1 down, -1 up).
+    void Avanzar(int paso);
+
+protected:
+    bool eventFilter(QObject* editor, QEvent* e) override;
 };
 
 class VistaGrid : public QTableView {
@@ -113,6 +126,18 @@ public:
     void PermitirBloques();
     void QuitarBloque();
 
+    // The selected block (or the current cell) as the texts shown: cells by
+    // tabs, rows by line feeds, hidden columns left out, a joined cell's text
+    // once in its top-left.  Copiar puts it on the clipboard (Ctrl+C).
+    QString TextoSeleccion() const;
+    void Copiar();
+    // Ctrl+V: the clipboard's block from the current cell on, each cell
+    // committed as if typed.  Locked cells, cells under a join and cells
+    // past the grid's edge are skipped, their values dropped; a value the
+    // cell refuses stops the paste there, on that cell.
+    void Pegar(const QString& texto);
+    void Pegar();
+
 Q_SIGNALS:
     void BloqueSeleccionado(int fila1, int fila2, int columna1, int columna2);
 
@@ -121,10 +146,13 @@ protected:
     bool eventFilter(QObject* o, QEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     void keyReleaseEvent(QKeyEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
 
 private:
     void AplicarForma();
     void AvisarBloque();
+    void Avanzar(int paso);
+    int AnchoFijado(int columna) const;
     ModeloGrid modelo_;
     bool bloques_ = false;
     QWidget* esquina_ = nullptr;

@@ -3,9 +3,11 @@
 
 #include "base/Nivo.h"
 #include "support/Apoyo.h"
+#include "support/Modales.h"
 #include "widgets/VistaGrid.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <gtest/gtest.h>
@@ -160,4 +162,131 @@ TEST(VistaGrid, RefrescarRehaceLasUnionesSoloCuandoCambian) {
     g.Vaciar();
     v.Refrescar();
     EXPECT_EQ(v.Modelo().rowCount(), 0);
+}
+
+namespace {
+
+// Three rows of a text column (1) and a number column from 0 (2), both
+// open, and a locked number column (3).
+Grid Planilla() {
+    Grid g(3);
+    g.Col(1).bloqueada = false;
+    g.Col(2).tipo = g.Col(3).tipo = TipoCelda::Numero;
+    g.Col(2).bloqueada = false;
+    g.Col(2).minimo = 0.0;
+    g.PonerFilas(3);
+    for (int f = 1; f <= 3; ++f) {
+        g.PonerTexto(f, 1, QStringLiteral("x%1").arg(f));
+        g.PonerNumero(f, 2, 0, 2);
+        g.PonerNumero(f, 3, 0, 2);
+    }
+    return g;
+}
+
+using Ediciones = std::vector<std::tuple<int, int, QString>>;
+
+}  // namespace
+
+TEST(VistaGrid, EnterConfirmaYBajaUnaFila) {
+    struct Caso {
+        int fila;              // where the typing starts, column 2
+        const char* teclas;    // '\n' is Enter, '^' Shift+Enter
+        double valores[3];     // column 2 afterwards
+        int ediciones, filaFinal;
+    };
+    const Caso casos[] = {
+        {1, "2.5\n", {2.5, 0, 0}, 1, 2},
+        {1, "7\n8\n9\n", {7, 8, 9}, 3, 3},  // the last row keeps the cell
+        {3, "4^", {0, 0, 4}, 1, 2},
+        {1, "\n\n", {0, 0, 0}, 0, 3},       // Enter alone walks down
+    };
+    for (const Caso& caso : casos) {
+        Grid g = Planilla();
+        VistaGrid v;
+        v.MostrarGrid(&g);
+        v.show();
+        Ediciones ediciones;
+        v.AlEditar([&](int f, int c, const QString& t) { ediciones.emplace_back(f, c, t); });
+        v.setCurrentIndex(v.Modelo().index(caso.fila - 1, 1));
+        for (const char* k = caso.teclas; *k; ++k) {
+            if (*k != '^') {
+                TeclearEnVista(&v, QString(QLatin1Char(*k)));
+                continue;
+            }
+            QWidget* editor = v.viewport()->focusWidget() ? v.viewport()->focusWidget() : &v;
+            for (QLineEdit* e : v.viewport()->findChildren<QLineEdit*>())
+                if (e->isVisible()) editor = e;
+            QTest::keyClick(editor, Qt::Key_Return, Qt::ShiftModifier);
+            QApplication::processEvents();
+        }
+        for (int f = 1; f <= 3; ++f) EXPECT_DOUBLE_EQ(g.Valor(f, 2), caso.valores[f - 1]) << caso.teclas << f;
+        EXPECT_EQ(int(ediciones.size()), caso.ediciones) << caso.teclas;
+        EXPECT_EQ(v.currentIndex().row() + 1, caso.filaFinal) << caso.teclas;
+        EXPECT_EQ(v.currentIndex().column(), 1) << caso.teclas;
+    }
+}
+
+TEST(VistaGrid, CopiarDaLosTextosVistosPorTabuladoresYLineas) {
+    // Ejemplo(): N1 joined over rows 1-2 of column 1, column 2 empty,
+    // flows 0.25 0.50 0.75, diameters 3/4", velocities 1.00.
+    struct Caso {
+        int f1, f2, c1, c2;
+        bool ocultarColumna2;
+        const char* esperado;
+    };
+    const Caso casos[] = {
+        {2, 2, 3, 3, false, "0.50"},
+        {1, 3, 1, 3, false, "N1\t\t0.25\n\t\t0.50\nN3\t\t0.75"},  // N2 lies under the join
+        {1, 1, 1, 5, true, "N1\t0.25\t3/4\"\t1.00"},
+        {2, 3, 4, 5, false, "3/4\"\t1.00\n3/4\"\t1.00"},
+    };
+    for (const Caso& caso : casos) {
+        Grid g = Ejemplo();
+        VistaGrid v;
+        v.MostrarGrid(&g);
+        v.setColumnHidden(1, caso.ocultarColumna2);
+        v.setCurrentIndex(v.Modelo().index(caso.f1 - 1, caso.c1 - 1));
+        v.selectionModel()->select(QItemSelection(v.Modelo().index(caso.f1 - 1, caso.c1 - 1),
+                                                  v.Modelo().index(caso.f2 - 1, caso.c2 - 1)),
+                                   QItemSelectionModel::ClearAndSelect);
+        QTest::keyClick(&v, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), QString::fromUtf8(caso.esperado)) << caso.esperado;
+    }
+}
+
+TEST(VistaGrid, PegarPasaCadaCeldaPorLaMismaEntrada) {
+    struct Caso {
+        const char* nombre;
+        int fila, columna;  // the current cell
+        const char* texto;
+        Ediciones ediciones;
+        int filaFinal, columnaFinal;
+    };
+    const Caso casos[] = {
+        {"bloque con salto final", 1, 1, "A\t1.5\nB\t2\n", {{1, 1, "A"}, {1, 2, "1.50"}, {2, 1, "B"}, {2, 2, "2.00"}}, 1, 1},
+        {"fines de línea de Windows", 2, 1, "A\t1.5\r\nB\t2\r\n", {{2, 1, "A"}, {2, 2, "1.50"}, {3, 1, "B"}, {3, 2, "2.00"}}, 2, 1},
+        // The locked column 3 and the column past the edge drop their values.
+        {"bloqueadas y fuera", 1, 2, "5\t9\tZ", {{1, 2, "5.00"}}, 1, 2},
+        {"filas de más", 2, 2, "7\n8\n9\n", {{2, 2, "7.00"}, {3, 2, "8.00"}}, 2, 2},
+        // Below the column's limit: the paste stops on that cell.
+        {"rechazo", 1, 2, "1\n-4\n6", {{1, 2, "1.00"}}, 2, 2},
+        {"texto en un número", 1, 1, "A\tuno\nB\t2", {{1, 1, "A"}}, 1, 2},
+    };
+    for (const Caso& caso : casos) {
+        Grid g = Planilla();
+        VistaGrid v;
+        v.MostrarGrid(&g);
+        Ediciones ediciones;
+        v.AlEditar([&](int f, int c, const QString& t) { ediciones.emplace_back(f, c, t); });
+        v.setCurrentIndex(v.Modelo().index(caso.fila - 1, caso.columna - 1));
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(caso.texto));
+        QTest::keyClick(&v, Qt::Key_V, Qt::ControlModifier);
+        QApplication::processEvents();
+        EXPECT_EQ(ediciones, caso.ediciones) << caso.nombre;
+        EXPECT_EQ(g.Texto(1, 3), QStringLiteral("0.00")) << caso.nombre;
+        EXPECT_EQ(v.currentIndex().row() + 1, caso.filaFinal) << caso.nombre;
+        EXPECT_EQ(v.currentIndex().column() + 1, caso.columnaFinal) << caso.nombre;
+        // What was not reached keeps its value.
+        if (caso.ediciones.size() < 4) EXPECT_EQ(g.Texto(3, 1), QStringLiteral("x3")) << caso.nombre;
+    }
 }
