@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QRegularExpressionValidator>
+#include <QSet>
 #include <QTimer>
 
 namespace {
@@ -46,6 +47,14 @@ bool EsEnter(const QKeyEvent* k) {
     return (k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter) &&
            !(k->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
 }
+
+// The space a view leaves around a cell's text, on both sides.
+int MargenTexto(const QWidget* w) {
+    return 2 * (w->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, w) + 1);
+}
+
+// Text columns grow to their texts up to this many average characters.
+constexpr int LimiteTexto = 60;
 
 }  // namespace
 
@@ -82,9 +91,21 @@ QVariant ModeloGrid::data(const QModelIndex& i, int rol) const {
     case Qt::TextAlignmentRole:
         if (celda.esNumero || EsCeldaNumerica(*grid_, f, c)) return int(Qt::AlignRight | Qt::AlignVCenter);
         return int(Qt::AlignLeft | Qt::AlignVCenter);
+    case Qt::ToolTipRole:
+        if (TextoCortado(i, celda.texto)) return celda.texto;
+        return {};
     default:
         return {};
     }
+}
+
+bool ModeloGrid::TextoCortado(const QModelIndex& i, const QString& texto) const {
+    if (!vista_ || texto.isEmpty()) return false;
+    int ancho = 0;
+    const int columnas = std::max(1, vista_->columnSpan(i.row(), i.column()));
+    for (int c = i.column(); c < i.column() + columnas && c < columnCount(); ++c)
+        if (!vista_->isColumnHidden(c)) ancho += vista_->columnWidth(c);
+    return vista_->fontMetrics().horizontalAdvance(texto) > ancho - MargenTexto(vista_);
 }
 
 QVariant ModeloGrid::headerData(int seccion, Qt::Orientation o, int rol) const {
@@ -323,6 +344,7 @@ VistaGrid::VistaGrid(QWidget* padre) : QTableView(padre) {
     setItemDelegate(delegado);
     connect(delegado, &DelegadoGrid::Avanzar, this, [this](int paso) { Avanzar(paso); });
     setModel(&modelo_);
+    modelo_.PonerVista(this);
     // A block may be selected everywhere, for copying.
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     setSelectionBehavior(QAbstractItemView::SelectItems);
@@ -384,6 +406,8 @@ void VistaGrid::AplicarForma() {
         if (u.columna >= 1 && u.fila >= 1 && u.fila <= filas_) setSpan(u.fila - 1, u.columna - 1, u.filas, u.columnas);
     verticalHeader()->setMinimumWidth(TextoEsquina().isEmpty() ? 0
                                                                : fontMetrics().horizontalAdvance(TextoEsquina()) + 12);
+    gridMedido_ = nullptr;
+    AjustarAnchos();
     horizontalHeader()->updateGeometry();
     updateGeometries();  // the header's height follows the new widths
     horizontalHeader()->viewport()->update();
@@ -397,12 +421,67 @@ void VistaGrid::Refrescar() {
         AplicarForma();
     } else {
         modelo_.Repintar();
+        AjustarAnchos();
     }
     horizontalHeader()->viewport()->update();
 }
 
 int VistaGrid::AnchoFijado(int columna) const {
     return grid()->Col(columna).ancho * fontMetrics().averageCharWidth() + 12;
+}
+
+void VistaGrid::AjustarAnchos() {
+    const Grid* g = grid();
+    if (!g) return;
+    const int n = g->Columnas();
+    // Columns the header sizes itself (stretched ones) keep their mode.
+    int ultima = 0;
+    for (int c = 1; c <= n; ++c)
+        if (!isColumnHidden(c - 1)) ultima = c;
+    auto ajustable = [&](int c) {
+        return !isColumnHidden(c - 1) && g->Col(c).tipo == TipoCelda::Texto &&
+               horizontalHeader()->sectionResizeMode(c - 1) == QHeaderView::Interactive &&
+               !(horizontalHeader()->stretchLastSection() && c == ultima);
+    };
+    int libre = viewport()->width();
+    for (int c = 1; c <= n; ++c)
+        if (!isColumnHidden(c - 1)) libre -= AnchoFijado(c);
+    if (libre > 0 && (gridMedido_ != g || versionMedida_ != g->Version())) {
+        // Measured only when there is room to give, and again only once the
+        // grid has changed.
+        QSet<qint64> anchas;  // a text joined over columns is not one column's
+        for (const Union& u : g->Uniones())
+            if (u.columnas > 1) anchas.insert(qint64(u.fila) << 32 | u.columna);
+        necesarios_.assign(size_t(n) + 1, 0);
+        const int tope = LimiteTexto * fontMetrics().averageCharWidth();
+        for (int c = 1; c <= n; ++c) {
+            if (!ajustable(c)) continue;
+            int ancho = 0;
+            for (int f = 1; f <= g->Filas(); ++f)
+                if (!anchas.contains(qint64(f) << 32 | c))
+                    ancho = std::max(ancho, fontMetrics().horizontalAdvance(g->Texto(f, c)));
+            necesarios_[size_t(c)] = std::min(ancho + MargenTexto(this) + 2, tope);
+        }
+        gridMedido_ = g;
+        versionMedida_ = g->Version();
+    }
+    std::vector<int> extra(size_t(n) + 1, 0);
+    long long pedido = 0;
+    if (libre > 0 && necesarios_.size() == size_t(n) + 1)
+        for (int c = 1; c <= n; ++c)
+            if (ajustable(c)) pedido += extra[size_t(c)] = std::max(0, necesarios_[size_t(c)] - AnchoFijado(c));
+    for (int c = 1; c <= n; ++c) {
+        if (!ajustable(c)) continue;
+        // Each column its share of the room when all cannot have their fill.
+        const long long e = extra[size_t(c)];
+        const int dar = int(pedido <= libre ? e : e * libre / std::max(1LL, pedido));
+        if (columnWidth(c - 1) != AnchoFijado(c) + dar) setColumnWidth(c - 1, AnchoFijado(c) + dar);
+    }
+}
+
+void VistaGrid::resizeEvent(QResizeEvent* e) {
+    QTableView::resizeEvent(e);
+    AjustarAnchos();
 }
 
 void VistaGrid::MostrarActiva() {

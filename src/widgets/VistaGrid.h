@@ -9,7 +9,8 @@
 // It behaves as a spreadsheet: Enter commits and moves down (Shift+Enter
 // up), Ctrl+C copies the selected block as tab-separated lines of the texts
 // shown, Ctrl+V pastes such a block cell by cell through the same commit as
-// typing.
+// typing, a cut text shows whole in a tool-tip, and text columns grow to
+// their texts when the view has room to spare.
 
 #include "base/Grid.h"
 
@@ -24,6 +25,8 @@ class ModeloGrid : public QAbstractTableModel {
 public:
     explicit ModeloGrid(QObject* padre = nullptr) : QAbstractTableModel(padre) {}
     void PonerGrid(Grid* g);
+    // The view whose fonts and column widths tell whether a text is cut.
+    void PonerVista(const QTableView* v) { vista_ = v; }
     Grid* grid() const { return grid_; }
 
     // Grid row f, column c (both from 1) against the model's index.
@@ -54,7 +57,11 @@ private:
         int fila, columna;
         QString texto;
     };
+    // True when the cell's text is wider than its column (or its joined
+    // columns) leaves for it.
+    bool TextoCortado(const QModelIndex& i, const QString& texto) const;
     Grid* grid_ = nullptr;
+    const QTableView* vista_ = nullptr;
     std::vector<Edicion> pendientes_;
 };
 
@@ -147,15 +154,23 @@ protected:
     void mouseReleaseEvent(QMouseEvent* e) override;
     void keyReleaseEvent(QKeyEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
+    void resizeEvent(QResizeEvent* e) override;
 
 private:
     void AplicarForma();
     void AvisarBloque();
     void Avanzar(int paso);
+    // Text columns wider than their set width where the view has room
+    // left: each toward its longest text, up to a limit.
+    void AjustarAnchos();
     int AnchoFijado(int columna) const;
     ModeloGrid modelo_;
     bool bloques_ = false;
     QWidget* esquina_ = nullptr;
     int filas_ = -1, columnas_ = -1;
     std::vector<Union> uniones_;
+    // The widths the text columns' texts need, for the grid's version.
+    std::vector<int> necesarios_;
+    unsigned long versionMedida_ = 0;
+    const Grid* gridMedido_ = nullptr;
 };

@@ -290,3 +290,53 @@ TEST(VistaGrid, PegarPasaCadaCeldaPorLaMismaEntrada) {
         if (caso.ediciones.size() < 4) EXPECT_EQ(g.Texto(3, 1), QStringLiteral("x3")) << caso.nombre;
     }
 }
+
+TEST(VistaGrid, UnTextoCortadoSeVeEnteroEnSuAyuda) {
+    Grid g(3);
+    for (int c = 1; c <= 3; ++c) g.Col(c).ancho = 10;
+    g.PonerFilas(2);
+    const QString corto = QStringLiteral("Nodo"), largo = QStringLiteral("xxxxxxxxxxxxxxx");  // 4 and 15 characters
+    g.PonerTexto(1, 1, corto);
+    g.PonerTexto(1, 2, largo);
+    g.PonerTexto(2, 1, largo);
+    g.Unir(2, 1, 1, 2);  // 15 characters over two columns of 10
+    VistaGrid v;
+    v.resize(100, 100);  // no room for the columns to grow
+    v.MostrarGrid(&g);
+    auto ayuda = [&](int f, int c) { return v.Modelo().data(v.Modelo().index(f - 1, c - 1), Qt::ToolTipRole); };
+    EXPECT_FALSE(ayuda(1, 1).isValid());
+    EXPECT_EQ(ayuda(1, 2).toString(), largo);
+    EXPECT_FALSE(ayuda(2, 1).isValid());
+    EXPECT_FALSE(ayuda(1, 3).isValid());  // an empty cell
+}
+
+TEST(VistaGrid, LasColumnasDeTextoCrecenConElEspacioLibre) {
+    // A name of 30 characters in a text column of 8 and a number column of 8.
+    Grid g(2);
+    g.Col(1).ancho = g.Col(2).ancho = 8;
+    g.Col(2).tipo = TipoCelda::Numero;
+    g.PonerFilas(2);
+    const QString nombre(30, QLatin1Char('n'));
+    g.PonerTexto(2, 1, nombre);
+    g.PonerNumero(1, 2, 12345678.5, 2);
+    VistaGrid v;
+    v.MostrarGrid(&g);
+    v.show();
+    const int fijo = v.columnWidth(1);  // both were set to 8 characters
+    const int caracter = v.fontMetrics().averageCharWidth();
+    // Narrow, the column keeps its width and the name its tool-tip; wide,
+    // the name fits and the number column stays as set.
+    v.resize(2 * fijo, 200);
+    QApplication::processEvents();
+    EXPECT_EQ(v.columnWidth(0), fijo);
+    EXPECT_TRUE(v.Modelo().data(v.Modelo().index(1, 0), Qt::ToolTipRole).isValid());
+    v.resize(100 * caracter, 200);
+    QApplication::processEvents();
+    EXPECT_GE(v.columnWidth(0), v.fontMetrics().horizontalAdvance(nombre));
+    EXPECT_FALSE(v.Modelo().data(v.Modelo().index(1, 0), Qt::ToolTipRole).isValid());
+    EXPECT_EQ(v.columnWidth(1), fijo);
+    // A text beyond the limit of 60 characters is cut there.
+    g.PonerTexto(1, 1, QString(200, QLatin1Char('n')));
+    v.Refrescar();
+    EXPECT_LE(v.columnWidth(0), 60 * caracter);
+}
