@@ -503,23 +503,23 @@ void DatosAcueducto::NumeroRechazado(int grid, int columna) {
                       MensajeErrorNumero(), TituloFontaria);
 }
 
-void DatosAcueducto::LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2) {
-    if (columna1 != columna2) return;
+bool DatosAcueducto::LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2) {
+    if (columna1 != columna2) return false;
     Grid& g = grid == 1 ? Spread1 : Spread2;
     const Aviso* aviso = AvisoBloque(grid, columna1);
-    if (!aviso || g.Filas() == 0 || g.Col(columna1).bloqueada) return;
+    if (!aviso || g.Filas() == 0 || g.Col(columna1).bloqueada) return false;
     const int desde = std::clamp(std::min(fila1, fila2), 1, g.Filas());
     const int hasta = std::clamp(std::max(fila1, fila2), 1, g.Filas());
     const auto respuesta = d_.PedirTexto(QString::fromUtf8(aviso->texto), QString::fromUtf8(aviso->titulo));
-    if (!respuesta || Trim(*respuesta).isEmpty()) return;
+    if (!respuesta || Trim(*respuesta).isEmpty()) return true;
     double v = 0.0;
     int entero = 0;
     if (!LeerNumero(*respuesta, v) || (grid == 1 && columna1 == RC && !EnteroDe(RoundNivo(v, 3), entero))) {
         d_.MostrarMensaje(QStringLiteral("¡Debe Entrar un Número!"), MensajeErrorNumero(), TituloFontaria);
-        return;
+        return true;
     }
     v = RoundNivo(v, 3);
-    if (v == 0) return;
+    if (v == 0) return true;
     for (int f = desde; f <= hasta; ++f) {
         if (grid == 1)
             EscribirNumeroRamal(f, columna1, v);
@@ -528,6 +528,7 @@ void DatosAcueducto::LlenarBloque(int grid, int fila1, int fila2, int columna1, 
     }
     if (grid == 1) RecalculeNodos();
     MarcarModificado();
+    return true;
 }
 
 bool DatosAcueducto::SalvarArchivo() {

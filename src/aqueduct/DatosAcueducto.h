@@ -137,8 +137,8 @@ public:
     // A block selected in one column of a grid (1 Spread1, 2 Spread2), rows
     // fila1..fila2: asks one value and writes it into every row of the block.
     // A block over two columns, or over a column without a prompt, asks
-    // nothing.
-    void LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2);
+    // nothing and stays selected, for copying.  True when a value was asked.
+    bool LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2);
 
     // "Salvar": RecalculeNodos and SalvarProyectoACU; sets ProyectoSalvado
     // when the screen was opened from the results screen.  A save that fails

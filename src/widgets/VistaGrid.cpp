@@ -489,7 +489,8 @@ void VistaGrid::MostrarActiva() {
     if (!g || g->Filas() == 0 || g->Columnas() == 0) return;
     const QModelIndex i = modelo_.index(std::clamp(g->FilaActiva(), 1, g->Filas()) - 1,
                                         std::clamp(g->ColumnaActiva(), 1, g->Columnas()) - 1);
-    setCurrentIndex(i);
+    // Set again, the same cell would drop a selected block.
+    if (currentIndex() != i) setCurrentIndex(i);
     scrollTo(i);
 }
 

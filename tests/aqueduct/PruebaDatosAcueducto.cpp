@@ -197,11 +197,11 @@ TEST(DatosAcueducto, InsertarConNoYEliminarSinFilas) {
 
 TEST(DatosAcueducto, LlenadoDeBloques) {
     Pantalla t;
-    t.datos.LlenarBloque(1, 1, 3, 3, 4);  // two columns: nothing asked
+    EXPECT_FALSE(t.datos.LlenarBloque(1, 1, 3, 3, 4));  // two columns: nothing asked, the block stays
     EXPECT_TRUE(t.d.preguntas.isEmpty());
 
     t.d.textos = {QStringLiteral("0.2504")};
-    t.datos.LlenarBloque(1, 1, 2, 4, 4);
+    EXPECT_TRUE(t.datos.LlenarBloque(1, 1, 2, 4, 4));
     EXPECT_EQ(t.d.preguntas.last(), "Entre el Nuevo Diámetro:|Diametro de los Tramos|");
     EXPECT_EQ(t.p.Diametro[1], 0.25);
     EXPECT_EQ(t.p.Diametro[2], 0.25);

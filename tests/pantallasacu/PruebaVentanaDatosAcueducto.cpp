@@ -315,6 +315,12 @@ TEST_F(DatosACU, UnBloqueDeUnaColumnaPideUnSoloValor) {
               QStringLiteral("Entre el Consumo Medio de los Tramos:|Consumo Medio de los Tramos|"));
     for (int t = 1; t <= 26; ++t) EXPECT_DOUBLE_EQ(p.Demanda[t], 0.5) << t;
     EXPECT_EQ(s.DatosModificados, -1);
+    // A block over three columns asks nothing and stays selected, to be copied.
+    const int preguntas = int(falsos.preguntas.size());
+    soltar(m->index(1, 0), m->index(2, 2));
+    EXPECT_EQ(falsos.preguntas.size(), preguntas);
+    QTest::keyClick(g, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Entrada\tBoli-4\t180.00\nBoli-4\tBoli-3\t110.00"));
 }
 
 TEST_F(DatosACU, UnCoeficienteFueraDeLosLimitesSeAvisa) {

@@ -224,8 +224,9 @@ QWidget* VentanaDatosAcueducto::Pagina2() {
     };
     connect(spread1_, &VistaGrid::BloqueSeleccionado, this,
             [this](int f1, int f2, int c1, int c2) {
-                Accion([&] { logica_.LlenarBloque(1, f1, f2, c1, c2); });
-                spread1_->QuitarBloque();
+                bool pregunto = false;
+                Accion([&] { pregunto = logica_.LlenarBloque(1, f1, f2, c1, c2); });
+                if (pregunto) spread1_->QuitarBloque();
             },
             Qt::QueuedConnection);
     connect(spread1_, &QWidget::customContextMenuRequested, this, &VentanaDatosAcueducto::MenuRamales);
@@ -244,8 +245,9 @@ QWidget* VentanaDatosAcueducto::Pagina3() {
     spread2_->AlEditar([this](int f, int c, const QString& t) { EditarCelda(2, f, c, t); });
     connect(spread2_, &VistaGrid::BloqueSeleccionado, this,
             [this](int f1, int f2, int c1, int c2) {
-                Accion([&] { logica_.LlenarBloque(2, f1, f2, c1, c2); });
-                spread2_->QuitarBloque();
+                bool pregunto = false;
+                Accion([&] { pregunto = logica_.LlenarBloque(2, f1, f2, c1, c2); });
+                if (pregunto) spread2_->QuitarBloque();
             },
             Qt::QueuedConnection);
     return marco;
