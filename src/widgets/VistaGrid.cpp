@@ -325,12 +325,8 @@ void DelegadoGrid::setModelData(QWidget* editor, QAbstractItemModel* m, const QM
 bool DelegadoGrid::eventFilter(QObject* o, QEvent* e) {
     auto* editor = qobject_cast<QWidget*>(o);
     if (editor && e->type() == QEvent::KeyPress && EsEnter(static_cast<QKeyEvent*>(e))) {
-        // The value goes through the same commit as leaving the cell, then
-        // the next row's cell is current, ready for the next number.
         const bool arriba = static_cast<QKeyEvent*>(e)->modifiers() & Qt::ShiftModifier;
-        Q_EMIT commitData(editor);
-        Q_EMIT closeEditor(editor, QAbstractItemDelegate::NoHint);
-        Q_EMIT Avanzar(arriba ? -1 : 1);
+        Q_EMIT Enter(editor, arriba ? -1 : 1);
         return true;
     }
     return QStyledItemDelegate::eventFilter(o, e);
@@ -342,7 +338,7 @@ VistaGrid::VistaGrid(QWidget* padre) : QTableView(padre) {
     setHorizontalHeader(new EncabezadoDoble(this));
     auto* delegado = new DelegadoGrid(this);
     setItemDelegate(delegado);
-    connect(delegado, &DelegadoGrid::Avanzar, this, [this](int paso) { Avanzar(paso); });
+    connect(delegado, &DelegadoGrid::Enter, this, [this](QWidget* editor, int paso) { ConfirmarYAvanzar(editor, paso); });
     setModel(&modelo_);
     modelo_.PonerVista(this);
     // A block may be selected everywhere, for copying.
@@ -527,6 +523,20 @@ void VistaGrid::AvisarBloque() {
     const QItemSelectionRange& r = seleccion.first();
     if (r.height() * r.width() <= 1) return;
     Q_EMIT BloqueSeleccionado(r.top() + 1, r.bottom() + 1, r.left() + 1, r.right() + 1);
+}
+
+void VistaGrid::ConfirmarYAvanzar(QWidget* editor, int paso) {
+    // The value goes through the same commit as leaving the cell; a cell
+    // that takes it reports the change.
+    bool aceptada = false;
+    const auto aviso = connect(&modelo_, &QAbstractItemModel::dataChanged, this, [&aceptada] { aceptada = true; });
+    commitData(editor);
+    disconnect(aviso);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+    // The logic acts before the move, so that a refill that puts the active
+    // cell back on the edited row does not undo it.
+    modelo_.EntregarPendientes();
+    if (aceptada) Avanzar(paso);
 }
 
 void VistaGrid::Avanzar(int paso) {

@@ -92,9 +92,9 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* m, const QModelIndex& i) const override;
 
 Q_SIGNALS:
-    // Enter in an open editor: the value was committed and the editor
-    // closed; the view moves `paso` rows (1 down, -1 up).
-    void Avanzar(int paso);
+    // Enter in an open editor: the view commits it and moves `paso` rows
+    // (1 down, -1 up).
+    void Enter(QWidget* editor, int paso);
 
 protected:
     bool eventFilter(QObject* editor, QEvent* e) override;
@@ -160,6 +160,9 @@ private:
     void AplicarForma();
     void AvisarBloque();
     void Avanzar(int paso);
+    // The editor's value committed and acted on by the logic at once; the
+    // move follows unless the cell refused the value.
+    void ConfirmarYAvanzar(QWidget* editor, int paso);
     // Text columns wider than their set width where the view has room
     // left: each toward its longest text, up to a limit.
     void AjustarAnchos();

@@ -199,6 +199,7 @@ TEST(VistaGrid, EnterConfirmaYBajaUnaFila) {
         {1, "7\n8\n9\n", {7, 8, 9}, 3, 3},  // the last row keeps the cell
         {3, "4^", {0, 0, 4}, 1, 2},
         {1, "\n\n", {0, 0, 0}, 0, 3},       // Enter alone walks down
+        {2, "-4\n", {0, 0, 0}, 0, 2},        // refused below 0: the cell stays current
     };
     for (const Caso& caso : casos) {
         Grid g = Planilla();
