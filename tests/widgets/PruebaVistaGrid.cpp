@@ -164,66 +164,34 @@ TEST(VistaGrid, RefrescarRehaceLasUnionesSoloCuandoCambian) {
     EXPECT_EQ(v.Modelo().rowCount(), 0);
 }
 
-namespace {
-
-// Three rows of a text column (1) and a number column from 0 (2), both
-// open, and a locked number column (3).
-Grid Planilla() {
-    Grid g(3);
-    g.Col(1).bloqueada = false;
-    g.Col(2).tipo = g.Col(3).tipo = TipoCelda::Numero;
-    g.Col(2).bloqueada = false;
-    g.Col(2).minimo = 0.0;
-    g.PonerFilas(3);
-    for (int f = 1; f <= 3; ++f) {
-        g.PonerTexto(f, 1, QStringLiteral("x%1").arg(f));
-        g.PonerNumero(f, 2, 0, 2);
-        g.PonerNumero(f, 3, 0, 2);
-    }
-    return g;
-}
-
 using Ediciones = std::vector<std::tuple<int, int, QString>>;
-
-}  // namespace
 
 TEST(VistaGrid, EnterConfirmaYBajaUnaFila) {
     struct Caso {
-        int fila;              // where the typing starts, column 2
-        const char* teclas;    // '\n' is Enter, '^' Shift+Enter
-        double valores[3];     // column 2 afterwards
+        int fila;              // where the typing starts, in the velocities (1.00 each)
+        const char* teclas;    // '\n' is Enter
+        double valores[3];     // the velocities afterwards
         int ediciones, filaFinal;
     };
     const Caso casos[] = {
-        {1, "2.5\n", {2.5, 0, 0}, 1, 2},
+        {1, "2.5\n", {2.5, 1, 1}, 1, 2},
         {1, "7\n8\n9\n", {7, 8, 9}, 3, 3},  // the last row keeps the cell
-        {3, "4^", {0, 0, 4}, 1, 2},
-        {1, "\n\n", {0, 0, 0}, 0, 3},       // Enter alone walks down
-        {2, "-4\n", {0, 0, 0}, 0, 2},        // refused below 0: the cell stays current
+        {1, "\n\n", {1, 1, 1}, 0, 3},       // Enter alone walks down
+        {2, "-4\n", {1, 1, 1}, 0, 2},        // refused below 0: the cell stays current
     };
     for (const Caso& caso : casos) {
-        Grid g = Planilla();
+        Grid g = Ejemplo();
         VistaGrid v;
         v.MostrarGrid(&g);
         v.show();
         Ediciones ediciones;
         v.AlEditar([&](int f, int c, const QString& t) { ediciones.emplace_back(f, c, t); });
-        v.setCurrentIndex(v.Modelo().index(caso.fila - 1, 1));
-        for (const char* k = caso.teclas; *k; ++k) {
-            if (*k != '^') {
-                TeclearEnVista(&v, QString(QLatin1Char(*k)));
-                continue;
-            }
-            QWidget* editor = v.viewport()->focusWidget() ? v.viewport()->focusWidget() : &v;
-            for (QLineEdit* e : v.viewport()->findChildren<QLineEdit*>())
-                if (e->isVisible()) editor = e;
-            QTest::keyClick(editor, Qt::Key_Return, Qt::ShiftModifier);
-            QApplication::processEvents();
-        }
-        for (int f = 1; f <= 3; ++f) EXPECT_DOUBLE_EQ(g.Valor(f, 2), caso.valores[f - 1]) << caso.teclas << f;
+        v.setCurrentIndex(v.Modelo().index(caso.fila - 1, 4));
+        TeclearEnVista(&v, QString::fromLatin1(caso.teclas));
+        for (int f = 1; f <= 3; ++f) EXPECT_DOUBLE_EQ(g.Valor(f, 5), caso.valores[f - 1]) << caso.teclas << f;
         EXPECT_EQ(int(ediciones.size()), caso.ediciones) << caso.teclas;
         EXPECT_EQ(v.currentIndex().row() + 1, caso.filaFinal) << caso.teclas;
-        EXPECT_EQ(v.currentIndex().column(), 1) << caso.teclas;
+        EXPECT_EQ(v.currentIndex().column(), 4) << caso.teclas;
     }
 }
 
@@ -263,18 +231,22 @@ TEST(VistaGrid, PegarPasaCadaCeldaPorLaMismaEntrada) {
         Ediciones ediciones;
         int filaFinal, columnaFinal;
     };
+    // Into the diameters (a list) and the velocities (numbers from 0); each
+    // edit is also a value in the grid, so the list says what was written.
     const Caso casos[] = {
-        {"bloque con salto final", 1, 1, "A\t1.5\nB\t2\n", {{1, 1, "A"}, {1, 2, "1.50"}, {2, 1, "B"}, {2, 2, "2.00"}}, 1, 1},
-        {"fines de línea de Windows", 2, 1, "A\t1.5\r\nB\t2\r\n", {{2, 1, "A"}, {2, 2, "1.50"}, {3, 1, "B"}, {3, 2, "2.00"}}, 2, 1},
-        // The locked column 3 and the column past the edge drop their values.
-        {"bloqueadas y fuera", 1, 2, "5\t9\tZ", {{1, 2, "5.00"}}, 1, 2},
-        {"filas de más", 2, 2, "7\n8\n9\n", {{2, 2, "7.00"}, {3, 2, "8.00"}}, 2, 2},
-        // Below the column's limit: the paste stops on that cell.
-        {"rechazo", 1, 2, "1\n-4\n6", {{1, 2, "1.00"}}, 2, 2},
-        {"texto en un número", 1, 1, "A\tuno\nB\t2", {{1, 1, "A"}}, 1, 2},
+        {"bloque con salto final", 1, 4, "1/2\"\t1.5\n1\"\t2\n",
+         {{1, 4, "1/2\""}, {1, 5, "1.50"}, {2, 4, "1\""}, {2, 5, "2.00"}}, 1, 4},
+        {"fines de línea de Windows", 2, 4, "1\"\t1.5\r\n1\"\t2\r\n",
+         {{2, 4, "1\""}, {2, 5, "1.50"}, {3, 4, "1\""}, {3, 5, "2.00"}}, 2, 4},
+        // The locked flow and the column past the edge drop their values.
+        {"bloqueadas y fuera", 1, 3, "7\t1\"\t5\t9", {{1, 4, "1\""}, {1, 5, "5.00"}}, 1, 3},
+        {"filas de más", 2, 5, "7\n8\n9\n", {{2, 5, "7.00"}, {3, 5, "8.00"}}, 2, 5},
+        // Below the column's limit, or not a number: the paste stops on that cell.
+        {"rechazo", 1, 5, "1\n-4\n6", {{1, 5, "1.00"}}, 2, 5},
+        {"texto en un número", 2, 5, "uno\n6", {}, 2, 5},
     };
     for (const Caso& caso : casos) {
-        Grid g = Planilla();
+        Grid g = Ejemplo();
         VistaGrid v;
         v.MostrarGrid(&g);
         Ediciones ediciones;
@@ -284,31 +256,25 @@ TEST(VistaGrid, PegarPasaCadaCeldaPorLaMismaEntrada) {
         QTest::keyClick(&v, Qt::Key_V, Qt::ControlModifier);
         QApplication::processEvents();
         EXPECT_EQ(ediciones, caso.ediciones) << caso.nombre;
-        EXPECT_EQ(g.Texto(1, 3), QStringLiteral("0.00")) << caso.nombre;
+        EXPECT_EQ(g.Texto(1, 3), QStringLiteral("0.25")) << caso.nombre;
         EXPECT_EQ(v.currentIndex().row() + 1, caso.filaFinal) << caso.nombre;
         EXPECT_EQ(v.currentIndex().column() + 1, caso.columnaFinal) << caso.nombre;
-        // What was not reached keeps its value.
-        if (caso.ediciones.size() < 4) EXPECT_EQ(g.Texto(3, 1), QStringLiteral("x3")) << caso.nombre;
     }
 }
 
-TEST(VistaGrid, UnTextoCortadoSeVeEnteroEnSuAyuda) {
+TEST(VistaGrid, UnTextoUnidoSeMideSobreSusColumnas) {
+    // 15 characters: cut in one column of 10, whole over two (a cut text
+    // in one column is checked with the widths below).
     Grid g(3);
-    for (int c = 1; c <= 3; ++c) g.Col(c).ancho = 10;
-    g.PonerFilas(2);
-    const QString corto = QStringLiteral("Nodo"), largo = QStringLiteral("xxxxxxxxxxxxxxx");  // 4 and 15 characters
-    g.PonerTexto(1, 1, corto);
-    g.PonerTexto(1, 2, largo);
-    g.PonerTexto(2, 1, largo);
-    g.Unir(2, 1, 1, 2);  // 15 characters over two columns of 10
+    g.PonerFilas(1);
+    g.PonerTexto(1, 1, QString(15, QLatin1Char('x')));
+    g.PonerTexto(1, 3, QString(15, QLatin1Char('x')));
+    g.Unir(1, 1, 1, 2);
     VistaGrid v;
     v.resize(100, 100);  // no room for the columns to grow
     v.MostrarGrid(&g);
-    auto ayuda = [&](int f, int c) { return v.Modelo().data(v.Modelo().index(f - 1, c - 1), Qt::ToolTipRole); };
-    EXPECT_FALSE(ayuda(1, 1).isValid());
-    EXPECT_EQ(ayuda(1, 2).toString(), largo);
-    EXPECT_FALSE(ayuda(2, 1).isValid());
-    EXPECT_FALSE(ayuda(1, 3).isValid());  // an empty cell
+    EXPECT_FALSE(v.Modelo().data(v.Modelo().index(0, 0), Qt::ToolTipRole).isValid());
+    EXPECT_EQ(v.Modelo().data(v.Modelo().index(0, 2), Qt::ToolTipRole).toString(), QString(15, QLatin1Char('x')));
 }
 
 TEST(VistaGrid, LasColumnasDeTextoCrecenConElEspacioLibre) {
