@@ -429,7 +429,8 @@ int VistaGrid::AnchoFijado(int columna) const {
 
 void VistaGrid::AjustarAnchos() {
     const Grid* g = grid();
-    if (!g) return;
+    // A hidden view (a tab not shown) is measured when it shows.
+    if (!g || !isVisible()) return;
     const int n = g->Columnas();
     // Columns the header sizes itself (stretched ones) keep their mode.
     int ultima = 0;
@@ -478,6 +479,11 @@ void VistaGrid::AjustarAnchos() {
 
 void VistaGrid::resizeEvent(QResizeEvent* e) {
     QTableView::resizeEvent(e);
+    AjustarAnchos();
+}
+
+void VistaGrid::showEvent(QShowEvent* e) {
+    QTableView::showEvent(e);
     AjustarAnchos();
 }
 

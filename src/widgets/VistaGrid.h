@@ -155,6 +155,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
+    void showEvent(QShowEvent* e) override;
 
 private:
     void AplicarForma();
