@@ -307,3 +307,17 @@ TEST(PantallaAnalisisCarga, ProyectoSinRamalesMuestraCuatroRejillasVacias) {
     EXPECT_EQ(v.SSPanel1()->text(), QStringLiteral("0"));
     EXPECT_FALSE(v.Frame3()->isVisible());
 }
+
+TEST_F(PantallaAnalisis, LasValvulasSeEscribenConEnterFilaTrasFila) {
+    // Each valve refills the grid and brings back the edited row; Enter
+    // still leaves the next row current, and each value reaches the file.
+    v->Tabs()->PonerTab(4);
+    VistaGrid* g = v->Vista(4);
+    g->setCurrentIndex(g->model()->index(1, 13));
+    TeclearEnVista(g, QStringLiteral("1\n2\n"));
+    EXPECT_EQ(Texto(4, 2, 14), QStringLiteral("1.00"));
+    EXPECT_EQ(Texto(4, 3, 14), QStringLiteral("2.00"));
+    EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 2)), 1.0);
+    EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 3)), 2.0);
+    EXPECT_EQ(g->currentIndex().row(), 3);
+}

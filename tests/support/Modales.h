@@ -4,11 +4,13 @@
 
 #include "shell/screens/VentanaMsgBox.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -59,5 +61,21 @@ inline void Escribir(QLineEdit* caja, const QString& texto) {
     for (const QChar c : texto) {
         QKeyEvent e(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
         QApplication::sendEvent(caja, &e);
+    }
+}
+
+// Types into a grid view as a person does, key by key: each key goes to the
+// cell editor when one is open, else to the view, which opens one; '\n' is
+// Enter.  What the keys set going runs between them.
+inline void TeclearEnVista(QAbstractItemView* v, const QString& texto) {
+    for (const QChar c : texto) {
+        QWidget* destino = v;
+        for (QLineEdit* e : v->viewport()->findChildren<QLineEdit*>())
+            if (e->isVisible()) destino = e;
+        if (c == QLatin1Char('\n'))
+            QTest::keyClick(destino, Qt::Key_Return);
+        else
+            QTest::keyClick(destino, c.toLatin1());
+        for (int i = 0; i < 3; ++i) QApplication::processEvents();
     }
 }
