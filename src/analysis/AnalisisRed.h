@@ -23,6 +23,10 @@
 // analysis and on every edit of them, the reduction texts (Reduccion), and
 // the reducing valves (ValvulaR).  Each of those writes is one transaction.
 //
+// The class lives in four files: AnalisisRed.cpp (load, chain, open),
+// RejillasAnalisis.cpp (the grids), EdicionesAnalisis.cpp (the edits that
+// reach the file) and AlturaTanque.cpp (the tank-height box).
+//
 // A run-time fault of the chain (a zero velocity, a size outside the table
 // in a hand-edited file, a project at the 16-bit limit) leaves the function
 // as ErrorEjecucion; the caller shows it and keeps the project.
@@ -138,7 +142,9 @@ public:
     void ColoquePerdidasPresiones();
 
 private:
-    void ColoresPredimensionado(int fila);
+    // Spread4 columns 7 and 8 of a row, with their colours; Spread3 column 14.
+    void ColoqueDiametroAsumido(int fila);
+    void ColoqueValvula(int fila);
     void EscribirCampoRamal(const char* columna, int ramal, const QString& texto);
     void EscribirCampoRamal(const char* columna, int ramal, double valor);
     void VaciarGrids();
