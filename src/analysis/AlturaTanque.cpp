@@ -4,21 +4,11 @@
 #include "analysis/AnalisisRed.h"
 
 #include "analysis/Presiones.h"
-#include "base/Nivo.h"
 #include "model/ProyectoEdificio.h"
 
 void AnalisisRed::LSButton6_Click() {
     if (!cadenaCompleta_) return;
-    const double h = Double1;
-    const int n = p_.NumeroRamales;
-    p_.NodoNumI[n + 1] = 0;
-    p_.PresionNodo[p_.NodoNumI[1]] = 0.0;
-    p_.PerdidaRamal[1] = RoundNivo((h + p_.LongitudEquivalenteRamal[1]) * p_.PerdidaUnitaria[1], 2);
-    p_.longitudReal[1] = h;
-    p_.CotaRelativa[p_.NodoNumI[1]] = h;
-    p_.CargaOrigen = 0.0;
-    BarridoPresiones(p_, 0.0, 2);
-    SumaTrayecto(p_, RamalDesfavorable(p_));
+    PresionesConAlturaFija(p_, Double1);
     ColoquePerdidasPresiones();
 }
 

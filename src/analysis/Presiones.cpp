@@ -43,6 +43,15 @@ double PerdidaDelMontante(const ProyectoEdificio& p, double altura) {
     return RoundNivo((altura + p.LongitudEquivalenteRamal[1]) * p.PerdidaUnitaria[1], 2);
 }
 
+// The riser takes the height as its length, with its loss; the first node
+// stands at that level.
+void FijarAlturaTanque(ProyectoEdificio& p, double altura) {
+    p.longitudReal[1] = altura;
+    p.PerdidaRamal[1] = PerdidaDelMontante(p, altura);
+    p.CotaRelativa[p.NodoNumI[1]] = altura;
+    p.CargaOrigen = 0.0;
+}
+
 void TanqueElevado(ProyectoEdificio& p) {
     for (int pase = 1; pase <= 2; ++pase) {
         BarridoPresiones(p, pase == 1 ? p.Valor3 : 0.0, 2);
@@ -65,10 +74,7 @@ void TanqueElevado(ProyectoEdificio& p) {
             if (vuelta > 1 && p.PerdidaUnitaria[1] >= 1.0)
                 throw ErrorEjecucion(Error::Desbordamiento, QStringLiteral("altura del tanque elevado"));
         }
-        p.longitudReal[1] = t;
-        p.PerdidaRamal[1] = PerdidaDelMontante(p, t);
-        p.CotaRelativa[p.NodoNumI[1]] = t;
-        p.CargaOrigen = 0.0;
+        FijarAlturaTanque(p, t);
     }
 }
 
@@ -131,6 +137,12 @@ double SumaTrayecto(const ProyectoEdificio& p, int w, double* sinPrimero) {
     if (w > 1 && c != 1) antesDelPrimero = s;
     if (sinPrimero) *sinPrimero = antesDelPrimero;
     return s;
+}
+
+void PresionesConAlturaFija(ProyectoEdificio& p, double h) {
+    FijarAlturaTanque(p, h);
+    // The worst branch and its path sum change nothing shown with a tank.
+    BarridoPresiones(p, 0.0, 2);
 }
 
 void CalcularPresiones(ProyectoEdificio& p) {
