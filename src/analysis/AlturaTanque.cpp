@@ -7,13 +7,13 @@
 #include "model/ProyectoEdificio.h"
 
 void AnalisisRed::LSButton6_Click() {
-    if (!cadenaCompleta_) return;
+    if (!PresionesCalculadas()) return;
     PresionesConAlturaFija(p_, Double1);
     ColoquePerdidasPresiones();
 }
 
 void AnalisisRed::LSButton7_Click() {
-    if (!cadenaCompleta_) return;
+    if (!PresionesCalculadas()) return;
     // The second run starts from the height of the first.
     for (int vez = 0; vez < 2; ++vez) {
         CalcularPresiones(p_);

@@ -5,9 +5,11 @@
 #include "analysis/Numeracion.h"
 #include "analysis/Predimensionado.h"
 #include "analysis/Presiones.h"
+#include "base/Dialogos.h"
 #include "model/ArchivoEdificio.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
+#include "shell/Titulos.h"
 
 AnalisisRed::AnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos& d) : p_(p), s_(s), d_(d) { ConfigurarSpread(); }
 
@@ -61,6 +63,13 @@ bool AnalisisRed::EjecutarCadena() {
     }
     cadenaCompleta_ = true;
     return true;
+}
+
+bool AnalisisRed::PresionesCalculadas() {
+    if (cadenaCompleta_) return true;
+    d_.MostrarMensaje(QStringLiteral("¡No se Pueden Calcular las Pérdidas y Presiones!\nRevise los Datos de la Red..."),
+                      QStringLiteral("Pérdidas y Presiones..."), TituloProyectoFontaria());
+    return false;
 }
 
 void AnalisisRed::VaciarGrids() {

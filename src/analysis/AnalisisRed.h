@@ -103,8 +103,12 @@ public:
     // Spread3 column 14 of row `fila`: the reducing valve (m).  Pressures are
     // rerun and the value written to the file.  A text that is not a number is
     // refused (false) and the cell shows the valve as it was.
+    //
+    // The valve and the two tank buttons need the pressures of a whole chain:
+    // when the last run stopped (a fault of the network or of the
+    // calculation) they say so and change nothing.
     bool EditarValvulaReductora(int fila, const QString& texto);
-    void EditarValvulaReductora(int fila, double valor);
+    bool EditarValvulaReductora(int fila, double valor);
 
     // LSButton2: asks, then makes every assumed size the theoretical one,
     // writes them, and reruns from the pre-sizing grid on.  True when done.
@@ -151,9 +155,12 @@ private:
     // Verification and chain after a new load (open, return from the editor).
     void Reconstruir();
     void PonerCaption(bool desdeEstaPantalla);
+    // True when the last run of the chain reached the pressures; else says
+    // that they cannot be computed.
+    bool PresionesCalculadas();
 
     ProyectoEdificio& p_;
     Sesion& s_;
     Dialogos& d_;
-    bool cadenaCompleta_ = false;
+    bool cadenaCompleta_ = false;  // the last run reached the pressures
 };

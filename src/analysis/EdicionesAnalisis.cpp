@@ -56,17 +56,19 @@ bool AnalisisRed::EditarValvulaReductora(int fila, const QString& texto) {
         ColoqueValvula(fila);
         return false;
     }
-    EditarValvulaReductora(fila, valor);
-    return true;
+    if (EditarValvulaReductora(fila, valor)) return true;
+    ColoqueValvula(fila);
+    return false;
 }
 
-void AnalisisRed::EditarValvulaReductora(int fila, double valor) {
-    if (!cadenaCompleta_ || fila < 1 || fila > p_.NumeroRamales) return;
+bool AnalisisRed::EditarValvulaReductora(int fila, double valor) {
+    if (fila < 1 || fila > p_.NumeroRamales || !PresionesCalculadas()) return false;
     p_.ValvulaR[fila] = valor;
     RamalEditado = fila;
     CalcularPresiones(p_);
     ColoquePerdidasPresiones();
     EscribirCampoRamal("ValvulaR", fila, valor);
+    return true;
 }
 
 bool AnalisisRed::LSButton2_Click() {

@@ -149,3 +149,23 @@ TEST_F(PantallaAnalisis, UnaNumeracionErradaAlVolverDelEditorMuestraSuMensajeYSi
     EXPECT_EQ(a.Spread3.Texto(3, 2), QStringLiteral("B"));
     EXPECT_EQ(a.SSPanel1, QStringLiteral("3"));
 }
+
+TEST_F(PantallaAnalisis, SinPresionesCalculadasElTanqueYLaValvulaDicenPorQue) {
+    Pequeno();
+    p.OpcionPresionInicial = 2;
+    AnalisisRed a(p, sp.s, d);
+    a.Cargar();
+    ASSERT_TRUE(a.Frame3Visible);
+    // Hazen-Williams with C = 0 divides by zero: the pressures of the edit stop.
+    p.OpcionPerdidas = 2;
+    p.CoeficienteC = 0.0;
+    EXPECT_THROW(a.EditarDiametroAsumido(1, QStringLiteral("1\"")), ErrorEjecucion);
+    const QString porQue = QStringLiteral("¡No se Pueden Calcular las Pérdidas y Presiones!\n"
+                                          "Revise los Datos de la Red...");
+    a.LSButton6_Click();
+    a.LSButton7_Click();
+    EXPECT_FALSE(a.EditarValvulaReductora(2, QStringLiteral("1")));
+    ASSERT_EQ(d.mensajes.size(), 3u);
+    for (const auto& m : d.mensajes) MensajeEs(m, porQue, QStringLiteral("Pérdidas y Presiones..."));
+    EXPECT_EQ(p.ValvulaR[2], 0.0);
+}
