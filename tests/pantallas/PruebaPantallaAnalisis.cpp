@@ -10,7 +10,7 @@
 // 1.02 m/s; as 3/4" it is 0.0008/(0.02093^2 pi) = 0.58 m/s.
 
 #include "ApoyoPantallas.h"
-#include "analysis/screens/AnalisisRed.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
 #include "widgets/NivoToolTip.h"

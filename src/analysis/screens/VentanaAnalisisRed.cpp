@@ -1,4 +1,4 @@
-#include "analysis/screens/AnalisisRed.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
 
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
