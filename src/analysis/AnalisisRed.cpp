@@ -72,6 +72,11 @@ bool AnalisisRed::PresionesCalculadas() {
     return false;
 }
 
+QString AnalisisRed::AvisoErrorRed() const {
+    if (p_.ErrorNumeracion == 0) return QString();
+    return QStringLiteral("La red tiene errores de numeración: los resultados no son válidos.");
+}
+
 void AnalisisRed::VaciarGrids() {
     for (Grid* g : {&Spread4, &Spread1, &Spread2, &Spread3}) g->Vaciar();
     cadenaCompleta_ = false;

@@ -77,6 +77,13 @@ public:
     double Double1 = 0.0;        // the tank-height box
     bool Frame3Visible = false;  // the box's frame, only with OpcionPresionInicial 2
     QString SSPanel1;            // the number of branches
+    // The rest of the status panel, seen on every tab: the nodes Spread3
+    // shows with a pressure below zero (red when any), and a red line while
+    // the network has a numbering error, so that no figure of the grids
+    // passes for a good one.
+    int NodosPresionNegativa() const;
+    QString TextoPresionNegativa() const;  // "Nodos con presión negativa: 3"
+    QString AvisoErrorRed() const;         // empty when the network is sound
     QString Caption;
     int Tab = 1;                 // 1..4
     bool LSButton2Disponible() const { return Tab == 1; }

@@ -46,6 +46,9 @@ void NumeroOBlanco(Grid& g, int fila, int columna, double valor, int decimales) 
     else g.PonerNumero(fila, columna, valor, decimales);
 }
 
+// Below zero as shown, to the centimetre.
+bool PresionNegativa(double presion) { return RoundNivo(presion, 2) < 0.0; }
+
 const auto T = TipoCelda::Texto;
 const auto N = TipoCelda::Numero;
 const auto E = TipoCelda::Entero;
@@ -290,6 +293,7 @@ void AnalisisRed::ColoquePerdidasPresiones() {
         Spread3.PonerColorFondo(i, 13, cota == 0.0 ? ColorBlanco : ColoresAnalisis::DiferenciaCota);
         ColoqueValvula(i);
         Spread3.PonerNumero(i, 15, presion, 2);
+        if (PresionNegativa(presion)) Spread3.PonerColorTexto(i, 15, ColorRojo);
         if (p_.OpcionPresionM && presion > p_.PresionM)
             Spread3.PonerColorFondo(i, 15, ColoresAnalisis::PresionMaxima);
         if (nj == p_.NodoDesfaborable) {
@@ -302,4 +306,16 @@ void AnalisisRed::ColoquePerdidasPresiones() {
         Spread3.PonerActiva(RamalEditado, 14);
         RamalEditado = 0;
     }
+}
+
+int AnalisisRed::NodosPresionNegativa() const {
+    // One row per branch, and each branch ends at a node of its own.
+    int n = 0;
+    for (int f = 1; f <= Spread3.Filas(); ++f)
+        if (PresionNegativa(Spread3.Valor(f, 15))) ++n;
+    return n;
+}
+
+QString AnalisisRed::TextoPresionNegativa() const {
+    return QStringLiteral("Nodos con presión negativa: %1").arg(NodosPresionNegativa());
 }

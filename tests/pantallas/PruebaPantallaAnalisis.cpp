@@ -307,3 +307,23 @@ TEST(PantallaAnalisisCarga, ProyectoSinRamalesMuestraCuatroRejillasVacias) {
     EXPECT_EQ(v.SSPanel1()->text(), QStringLiteral("0"));
     EXPECT_FALSE(v.Frame3()->isVisible());
 }
+
+TEST_F(PantallaAnalisis, ElPanelCuentaLosNodosConPresionNegativa) {
+    // The tank is sized so that the worst node keeps 3 m, and no node of a
+    // house nears 100 m: a valve of 100 m takes below zero the end of its
+    // branch and every node downstream (N5 feeds N6 and N7; branch 1 all).
+    EXPECT_EQ(v->PresionNegativa()->text(), QStringLiteral("Nodos con presión negativa: 0"));
+    EXPECT_FALSE(v->AvisoErrorRed()->isVisible());
+    const struct {
+        int ramal, negativos;
+    } casos[] = {{8, 1}, {5, 3}, {1, 8}};
+    for (const auto& c : casos) {
+        Editar(4, c.ramal, 14, QStringLiteral("100"));
+        EXPECT_EQ(v->PresionNegativa()->text(), QStringLiteral("Nodos con presión negativa: %1").arg(c.negativos));
+        EXPECT_EQ(v->PresionNegativa()->palette().color(QPalette::WindowText), QColor(Qt::red));
+        EXPECT_EQ(Spread(4).Cel(c.ramal, 15).colorTexto, ColorRojo);
+        Editar(4, c.ramal, 14, QStringLiteral("0"));
+    }
+    EXPECT_EQ(v->Logica().NodosPresionNegativa(), 0);
+    EXPECT_NE(v->PresionNegativa()->palette().color(QPalette::WindowText), QColor(Qt::red));
+}
