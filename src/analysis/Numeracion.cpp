@@ -18,8 +18,10 @@ QString MensajeNodoDesconectado(int ramal, const QString& nodoI) {
 }
 
 void ReportarNodoDesconectado(ProyectoEdificio& p, Dialogos& d, int ramal) {
-    d.MostrarMensaje(MensajeNodoDesconectado(ramal, p.NodoI[ramal]), EncabezadoErrorNumeracion(),
-                     TituloProyectoFontaria());
+    // The chain that runs on after a refused numbering meets the same node.
+    if (p.ErrorNumeracion == 0)
+        d.MostrarMensaje(MensajeNodoDesconectado(ramal, p.NodoI[ramal]), EncabezadoErrorNumeracion(),
+                         TituloProyectoFontaria());
     p.ErrorNumeracion = 1;
 }
 
