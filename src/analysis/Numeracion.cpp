@@ -17,6 +17,10 @@ QString MensajeNodoDesconectado(int ramal, const QString& nodoI) {
            QStringLiteral(" )\n¡Este Nodo está Desconectado!\nDebe Corregir el Error para Realizar el Análisis...");
 }
 
+QString LugarDeRamal(const ProyectoEdificio& p, int ramal) {
+    return LugarRamal(ramal, p.NodoI[ramal], p.Nodoj[ramal]);
+}
+
 void ReportarNodoDesconectado(ProyectoEdificio& p, Dialogos& d, int ramal) {
     // The chain that runs on after a refused numbering meets the same node.
     if (p.ErrorNumeracion == 0)

@@ -1,6 +1,7 @@
 #include "analysis/Presiones.h"
 
 #include "analysis/IndiceNombres.h"
+#include "analysis/Numeracion.h"
 #include "analysis/Predimensionado.h"
 #include "base/Nivo.h"
 #include "model/ProyectoEdificio.h"
@@ -37,6 +38,15 @@ void NodoDesfavorableDelBarrido(ProyectoEdificio& p) {
             minimo = p.PresionNodo[p.NodoNumJ[b]];
             p.NodoDesfaborable = p.NodoNumJ[b];
         }
+}
+
+void PerdidasDelRamal(ProyectoEdificio& p, int i) {
+    const double q = p.Gasto[i];
+    double d = 0.0;
+    DiametroInterior(p.DiametroAsumido[i], d);
+    p.VelocidadAsumida[i] = d > 0.0 ? VelocidadEn(q, p.DiametroAsumido[i]) : 0.0;
+    p.PerdidaUnitaria[i] = PerdidaUnitariaDe(p, q, p.DiametroAsumido[i]);
+    p.PerdidaRamal[i] = RoundNivo((p.LongitudEquivalenteRamal[i] + p.longitudReal[i]) * p.PerdidaUnitaria[i], 2);
 }
 
 double PerdidaDelMontante(const ProyectoEdificio& p, double altura) {
@@ -155,14 +165,7 @@ void CalcularPresiones(ProyectoEdificio& p) {
     p.PerdidaRamal.Redim(n);
     p.PerdidaUnitaria.Redim(n);
 
-    for (int i = 1; i <= n; ++i) {
-        const double q = p.Gasto[i];
-        double d = 0.0;
-        DiametroInterior(p.DiametroAsumido[i], d);
-        p.VelocidadAsumida[i] = d > 0.0 ? VelocidadEn(q, p.DiametroAsumido[i]) : 0.0;
-        p.PerdidaUnitaria[i] = PerdidaUnitariaDe(p, q, p.DiametroAsumido[i]);
-        p.PerdidaRamal[i] = RoundNivo((p.LongitudEquivalenteRamal[i] + p.longitudReal[i]) * p.PerdidaUnitaria[i], 2);
-    }
+    for (int i = 1; i <= n; ++i) EnLugar([&] { PerdidasDelRamal(p, i); }, [&] { return LugarDeRamal(p, i); });
     NumerosDelBarrido(p);
 
     switch (p.OpcionPresionInicial) {

@@ -140,7 +140,14 @@ TEST_F(Presiones, SumaTrayectoSinElPrimero) {
 TEST_F(Presiones, DiametroFueraDeTablaEsUnError) {
     Red(10.0, {0, 0, 0, 0});
     p.DiametroAsumido[2] = 0.0;
-    EXPECT_EQ(NumeroDeError([&] { CalcularPresiones(p); }), Error::DivisionPorCero);
+    try {
+        CalcularPresiones(p);
+        ADD_FAILURE() << "sin error";
+    } catch (const ErrorEjecucion& e) {
+        // 0.5 l/s over a bore of 0: the fault names branch 2 by its nodes.
+        EXPECT_EQ(e.Mensaje(), QStringLiteral("Error 11: División por cero en el ramal 2 (A - B)."));
+        EXPECT_EQ(e.lugar(), QStringLiteral("el ramal 2 (A - B)"));
+    }
 }
 
 TEST_F(Presiones, AlturaDelTanqueFijadaAMano) {

@@ -114,6 +114,11 @@ TEST_F(Verbos, ErrorDeEjecucionSaleConTres) {
     const QJsonObject e = Json()[QStringLiteral("error")].toObject();
     EXPECT_EQ(e[QStringLiteral("numero")].toInt(), 11);
     EXPECT_EQ(e[QStringLiteral("descripcion")].toString(), QStringLiteral("División por cero"));
+    // The first branch's flow over a design velocity of 0.
+    EXPECT_EQ(e[QStringLiteral("lugar")].toString(), QStringLiteral("el ramal 1 (MONTANTE - ENTRADA)"));
+    EXPECT_EQ(Correr({QStringLiteral("analizar"), archivo}), 3);
+    EXPECT_TRUE(errores.contains(QStringLiteral("Error 11: División por cero en el ramal 1 (MONTANTE - ENTRADA).")))
+        << errores.toStdString();
     // Nothing was written: the sizes stay blank.
     Conexion c;
     ASSERT_TRUE(c.Abrir(archivo));
