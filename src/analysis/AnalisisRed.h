@@ -82,7 +82,8 @@ public:
     // the network has a numbering error, so that no figure of the grids
     // passes for a good one.
     int NodosPresionNegativa() const;
-    QString TextoPresionNegativa() const;  // "Nodos con presión negativa: 3"
+    // "Nodos con presión negativa: 3"; empty while no pressures were computed.
+    QString TextoPresionNegativa() const;
     QString AvisoErrorRed() const;         // empty when the network is sound
     QString Caption;
     int Tab = 1;                 // 1..4

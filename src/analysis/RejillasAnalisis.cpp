@@ -317,5 +317,6 @@ int AnalisisRed::NodosPresionNegativa() const {
 }
 
 QString AnalisisRed::TextoPresionNegativa() const {
+    if (!cadenaCompleta_) return QString();
     return QStringLiteral("Nodos con presión negativa: %1").arg(NodosPresionNegativa());
 }

@@ -90,7 +90,7 @@ void ImprimirResultados(const ProyectoEdificio& p, const AnalisisRed& a) {
     }
     t += QStringLiteral("Nodo desfavorable: %1, presión (m): %2\n")
              .arg(p.NodoDesfaborableNombre, Numero(p.PresionDesfaborable));
-    t += a.TextoPresionNegativa() + QLatin1Char('\n');
+    if (!a.TextoPresionNegativa().isEmpty()) t += a.TextoPresionNegativa() + QLatin1Char('\n');
     Imprimir(t);
 }
 

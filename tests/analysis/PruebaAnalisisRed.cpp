@@ -194,5 +194,7 @@ TEST_F(PantallaAnalisis, AbrirUnaRedQueLaNumeracionRechazaLoDiceUnaVezYLoSenala)
         EXPECT_EQ(a.Spread4.Filas(), 6);
         EXPECT_EQ(a.Spread3.Filas(), c.filasPresiones);
         EXPECT_EQ(a.AvisoErrorRed(), QStringLiteral("La red tiene errores de numeración: los resultados no son válidos."));
+        // No pressures, no count of them.
+        EXPECT_EQ(a.TextoPresionNegativa().isEmpty(), c.filasPresiones == 0);
     }
 }

@@ -182,6 +182,7 @@ void VentanaAnalisisRed::MostrarEstado() {
     setWindowTitle(logica_.Caption);
     panel_->setText(logica_.SSPanel1);
     presionNegativa_->setText(logica_.TextoPresionNegativa());
+    presionNegativa_->setVisible(!logica_.TextoPresionNegativa().isEmpty());
     ColorTexto(presionNegativa_, logica_.NodosPresionNegativa() > 0);
     avisoRed_->setText(logica_.AvisoErrorRed());
     avisoRed_->setVisible(!logica_.AvisoErrorRed().isEmpty());
