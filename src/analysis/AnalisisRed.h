@@ -29,7 +29,8 @@
 //
 // A run-time fault of the chain (a zero velocity, a size outside the table
 // in a hand-edited file, a project at the 16-bit limit) leaves the function
-// as ErrorEjecucion; the caller shows it and keeps the project.
+// as ErrorEjecucion, naming the branch where it arose when the routine knew
+// it; the caller shows it and keeps the project.
 
 #include "base/Arreglo.h"
 #include "base/Grid.h"
