@@ -51,16 +51,22 @@ bool AnalisisRed::EjecutarCadena() {
     Predimensionado_Asumido(p_, s_);
     ColoquePredimensionado();
     ColoqueUnidadesGasto();
+    if (!RehacerPerdidas()) return false;
+    if (p_.OpcionPresionInicial == 2) {
+        Double1 = p_.longitudReal[1];
+        Frame3Visible = true;
+    }
+    return true;
+}
+
+bool AnalisisRed::RehacerPerdidas() {
+    cadenaCompleta_ = false;
     if (!ColoqueLongitudEquivalente()) {
         Spread3.Vaciar();
         return false;
     }
     CalcularPresiones(p_);
     ColoquePerdidasPresiones();
-    if (p_.OpcionPresionInicial == 2) {
-        Double1 = p_.longitudReal[1];
-        Frame3Visible = true;
-    }
     cadenaCompleta_ = true;
     return true;
 }

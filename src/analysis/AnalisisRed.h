@@ -161,6 +161,9 @@ private:
     void EscribirCampoRamal(const char* columna, int ramal, const QString& texto);
     void EscribirCampoRamal(const char* columna, int ramal, double valor);
     void VaciarGrids();
+    // The chain from the lengths on (tabs 3 and 4), after a change of size;
+    // false when the lengths stopped at a fault shown to the engineer.
+    bool RehacerPerdidas();
     // Verification and chain after a new load (open, return from the editor).
     void Reconstruir();
     void PonerCaption(bool desdeEstaPantalla);

@@ -39,14 +39,7 @@ void AnalisisRed::EditarDiametroAsumido(int fila, const QString& texto) {
     ColoqueDiametroAsumido(fila);
     EscribirCampoRamal("Predimensionado", fila, p_.Predimensionado[fila]);
     // Flows and the first two tabs stay as they are.
-    cadenaCompleta_ = false;
-    if (!ColoqueLongitudEquivalente()) {
-        Spread3.Vaciar();
-        return;
-    }
-    CalcularPresiones(p_);
-    ColoquePerdidasPresiones();
-    cadenaCompleta_ = true;
+    RehacerPerdidas();
 }
 
 bool AnalisisRed::EditarValvulaReductora(int fila, const QString& texto) {
@@ -88,13 +81,6 @@ bool AnalisisRed::LSButton2_Click() {
     }
     escritura.Confirmar();
     ColoquePredimensionado();
-    cadenaCompleta_ = false;
-    if (!ColoqueLongitudEquivalente()) {
-        Spread3.Vaciar();
-        return true;
-    }
-    CalcularPresiones(p_);
-    ColoquePerdidasPresiones();
-    cadenaCompleta_ = true;
+    RehacerPerdidas();
     return true;
 }
