@@ -5,7 +5,7 @@
 
 #include "ApoyoPantallas.h"
 #include "analysis/ApoyoAnalisis.h"
-#include "analysis/screens/AnalisisRed.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
 #include "shell/screens/PantallasEscritorio.h"
 #include "shell/screens/VentanaPrincipal.h"
 #include "takeoff/screens/VentanaComputos.h"

@@ -1,6 +1,6 @@
 #include "shell/screens/PantallasEscritorio.h"
 
-#include "analysis/screens/AnalisisRed.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
 #include "aqueduct/screens/VentanaAnalisisACU.h"
 #include "aqueduct/screens/VentanaDatosAcueducto.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
