@@ -5,6 +5,7 @@
 #include "aqueduct/ProyectoAcueducto.h"
 #include "model/LectorJson.h"
 #include "shell/Sesion.h"
+#include "store/Archivos.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -5,6 +5,7 @@
 #include "model/LectorJson.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
+#include "store/Archivos.h"
 
 #include <QFile>
 #include <QFileInfo>

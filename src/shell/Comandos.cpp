@@ -7,6 +7,7 @@
 #include "model/ProyectoEdificio.h"
 #include "shell/MenuPrincipal.h"
 #include "shell/Sesion.h"
+#include "store/Archivos.h"
 
 #include <QFile>
 #include <QFileInfo>

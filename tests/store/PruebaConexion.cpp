@@ -1,5 +1,6 @@
 #include "Apoyo.h"
-#include "store/Conexion.h"
+#include "store/Archivos.h"
+#include "store/Registros.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
