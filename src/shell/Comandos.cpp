@@ -2,6 +2,7 @@
 // in the session, loads the project and shows a screen modally.
 
 #include "aqueduct/ArchivoAcueducto.h"
+#include "aqueduct/ProyectoAcueducto.h"
 #include "base/Dialogos.h"
 #include "model/ArchivoEdificio.h"
 #include "model/ProyectoEdificio.h"
