@@ -1,8 +1,8 @@
 #include "app/SalidaEdificio.h"
 
-#include "analysis/CargaProyecto.h"
 #include "base/ErrorEjecucion.h"
 #include "base/Grid.h"
+#include "model/ArchivoEdificio.h"
 
 QString ArgumentosVerbo::Valor(const QString& nombre) const {
     for (const auto& [n, v] : valores)

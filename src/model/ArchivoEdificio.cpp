@@ -4,6 +4,7 @@
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
 
+#include <QFileInfo>
 #include <functional>
 
 namespace {
@@ -169,6 +170,13 @@ void LeerConexiones(ProyectoEdificio& p, Conexion& c) {
     });
 }
 
+// A database file that holds the tables of a building project.
+bool EsArchivoProyecto(Conexion& c) {
+    for (const char* t : {"DatosGenerales", "DatosRamales", "DatosNodos", "DatosPiezas", "DatosConexiones"})
+        if (!c.ExisteTabla(QString::fromLatin1(t))) return false;
+    return true;
+}
+
 }  // namespace
 
 void LeerProyecto(ProyectoEdificio& p, Sesion& s) {
@@ -179,6 +187,29 @@ void LeerProyecto(ProyectoEdificio& p, Sesion& s) {
     Paso([&] { LeerNodos(p, c); });
     Paso([&] { LeerPiezas(p, c); });
     Paso([&] { LeerConexiones(p, c); });
+}
+
+bool CargarProyectoEdificio(ProyectoEdificio& p, Sesion& s, const QString& archivo, QString& error) {
+    {
+        Conexion prueba;
+        if (!prueba.Abrir(archivo)) {
+            error = prueba.UltimoError();
+            return false;
+        }
+        if (!EsArchivoProyecto(prueba)) {
+            error = QStringLiteral("El archivo no es un proyecto de Fontaria: ") + archivo;
+            return false;
+        }
+    }
+    s.ArchivoProyecto = archivo;
+    s.NombreProyecto = QFileInfo(archivo).fileName();
+    ValoresIniciales(p, s);
+    if (AbrirConexionProyecto(s) != 0) {
+        error = s.ConexionProyecto.UltimoError();
+        return false;
+    }
+    LeerProyecto(p, s);
+    return true;
 }
 
 QString MensajeProyectoSinRamales() {

@@ -20,5 +20,13 @@ void LeerProyecto(ProyectoEdificio& p, Sesion& s);
 // as ErrorEjecucion after the transaction has been undone.
 bool SalvarProyecto(ProyectoEdificio& p, Sesion& s, QString& error);
 
+// The one load of a building project, for the commands, the screens and the
+// command line: checks that `archivo` is a building project before anything
+// changes; then ArchivoProyecto and NombreProyecto (the file name) take it,
+// ValoresIniciales, AbrirConexionProyecto and LeerProyecto.  False with a
+// Spanish message, and the model, the session and the open connection as
+// they were, when the file is missing or is not a project.
+bool CargarProyectoEdificio(ProyectoEdificio& p, Sesion& s, const QString& archivo, QString& error);
+
 // The refusal of a project without branches.
 QString MensajeProyectoSinRamales();

@@ -192,26 +192,9 @@ bool ProyectoDesdeJson(const QJsonObject& o, ProyectoEdificio& p, QString& error
     return true;
 }
 
-bool EsArchivoProyecto(Conexion& c) {
-    for (const char* t : {"DatosGenerales", "DatosRamales", "DatosNodos", "DatosPiezas", "DatosConexiones"})
-        if (!c.ExisteTabla(QString::fromLatin1(t))) return false;
-    return true;
-}
-
 bool ExportarProyecto(const QString& archivo, Sesion& s, QJsonObject& salida, QString& error) {
     ProyectoEdificio p;
-    ValoresIniciales(p, s);
-    s.ArchivoProyecto = archivo;
-    if (AbrirConexionProyecto(s) != 0) {
-        error = s.ConexionProyecto.UltimoError();
-        return false;
-    }
-    if (!EsArchivoProyecto(s.ConexionProyecto)) {
-        error = QStringLiteral("El archivo no es un proyecto de Fontaria: ") + archivo;
-        s.ConexionProyecto.Cerrar();
-        return false;
-    }
-    LeerProyecto(p, s);
+    if (!CargarProyectoEdificio(p, s, archivo, error)) return false;
     s.ConexionProyecto.Cerrar();
     salida = ProyectoComoJson(p);
     return true;

@@ -22,13 +22,6 @@ QString TituloArchivo(const QString& ruta) { return QFileInfo(ruta).fileName(); 
 
 bool MismoNombre(const QString& a, const QString& b) { return UCase(Trim(a)) == UCase(Trim(b)); }
 
-// The tables a building project must hold to be read.
-bool EsProyectoEdificio(Conexion& c) {
-    for (const char* t : {"DatosGenerales", "DatosRamales", "DatosNodos", "DatosPiezas", "DatosConexiones"})
-        if (!c.ExisteTabla(QString::fromLatin1(t))) return false;
-    return true;
-}
-
 }  // namespace
 
 bool MenuPrincipal::CopiarPlantilla(const QString& plantilla, const QString& ruta) {
@@ -71,22 +64,16 @@ bool MenuPrincipal::PedirProyectoSiFalta() {
 }
 
 bool MenuPrincipal::CargarProyecto() {
-    ValoresIniciales(p_, s_);
-    AbrirConexionProyecto(s_);
     QString error;
-    if (s_.ConexionFallida != 0)
-        error = s_.ConexionProyecto.UltimoError();
-    else if (!EsProyectoEdificio(s_.ConexionProyecto))
-        error = QStringLiteral("El archivo no es un proyecto de Fontaria: ") + s_.ArchivoProyecto;
-    if (!error.isEmpty()) {
-        s_.ConexionProyecto.Cerrar();
-        Ocupado(false);
-        d_.MostrarMensaje(error + QStringLiteral("\nRevise el Archivo de Datos..."),
-                          QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
-        return false;
-    }
-    LeerProyecto(p_, s_);
-    return true;
+    if (CargarProyectoEdificio(p_, s_, s_.ArchivoProyecto, error)) return true;
+    Ocupado(false);
+    MostrarFallaLectura(error);
+    return false;
+}
+
+void MenuPrincipal::MostrarFallaLectura(const QString& error) {
+    d_.MostrarMensaje(error + QStringLiteral("\nRevise el Archivo de Datos..."),
+                      QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
 }
 
 void MenuPrincipal::ModificarProyecto() {
@@ -267,8 +254,7 @@ bool MenuPrincipal::CargarAcueducto() {
     QString error;
     if (CargarProyectoACU(acu_, s_, s_.ArchivoProyectoACU, error)) return true;
     Ocupado(false);
-    d_.MostrarMensaje(error + QStringLiteral("\nRevise el Archivo de Datos..."),
-                      QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
+    MostrarFallaLectura(error);
     return false;
 }
 

@@ -96,6 +96,8 @@ private:
     // Loads ArchivoProyecto into the model; false, with the message shown,
     // when the file is not a project.
     bool CargarProyecto();
+    // The message of a project file that could not be loaded.
+    void MostrarFallaLectura(const QString& error);
     bool PedirProyectoSiFalta();
     // The common road of the result commands: a project (asked for when
     // none is chosen), the busy pointer, the load.
