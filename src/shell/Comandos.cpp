@@ -84,8 +84,10 @@ void MenuPrincipal::ModificarProyecto() {
 
 void MenuPrincipal::TanqueHidroneumatico() {
     // The one screen that works without a project: with none, it goes on
-    // with what the model holds.
-    if (!Trim(s_.NombreProyecto).isEmpty() && !CargarProyecto()) return;
+    // with what the model holds; a chosen project that cannot be read is
+    // reported and the screen opens on an empty model, so that nothing of
+    // an earlier project passes for this one's.
+    if (!Trim(s_.NombreProyecto).isEmpty() && !CargarProyecto()) ValoresIniciales(p_, s_);
     MostrarSiHay(Pantalla::Hidroneumatico);
     // The screen may have opened another project.
     TituloEdificio();
