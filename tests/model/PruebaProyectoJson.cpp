@@ -111,3 +111,45 @@ TEST(ProyectoJson, ExportarUnArchivoAjenoEsUnError) {
     EXPECT_FALSE(ExportarProyecto(texto, sp.s, o, error));
     EXPECT_FALSE(error.isEmpty());
 }
+
+// Each file is refused with its own Spanish message, and no .plm is made.
+TEST(ProyectoJson, ArchivosQueNoSonUnProyectoSeRechazanEnEspanol) {
+    SesionPrueba sp;
+    QByteArray muchosNodos = "{\"Ramales\":[{\"NodoI\":\"A\",\"Nodoj\":\"B\"}],\"Nodos\":[{}";
+    for (int i = 1; i < 32768; ++i) muchosNodos += ",{}";
+    muchosNodos += "]}";
+    const struct {
+        QByteArray texto;
+        QString error;  // after "El archivo no es un proyecto en JSON válido: <ruta> (" when it ends in ')'
+    } casos[] = {
+        {"[1, 2]", QStringLiteral("la raíz no es un objeto)")},
+        {"{\"Ramales\": [", QStringLiteral("una lista sin cerrar, en la posición 13)")},
+        {"{\"DatosGenerales\": {\"Proyecto\": \"Casa", QStringLiteral("un texto sin cerrar, en la posición 37)")},
+        {"{\"a\": 1} x", QStringLiteral("texto sobrante tras el final, en la posición 9)")},
+        {"", QStringLiteral("un valor no válido, en la posición 0)")},
+        {muchosNodos, QStringLiteral("El proyecto tiene 32768 nodos; el máximo es 32767.")},
+        {R"({"Ramales":[{"NodoI":"A","Nodoj":"B","NPiezas":2,"Piezas":[]}]})",
+         QStringLiteral("El ramal 1 dice NPiezas = 2, pero su lista \"Piezas\" tiene 0 filas.")},
+        {R"({"Ramales":[{"NodoI":"A","Nodoj":"B","NConexiones":1,
+             "Conexiones":[{"Clave":5,"Cantidad":1},{"Clave":6,"Cantidad":1}]}]})",
+         QStringLiteral("El ramal 1 dice NConexiones = 1, pero su lista \"Conexiones\" tiene 2 filas.")},
+    };
+    const QString plm = sp.Datos(QStringLiteral("x.plm"));
+    for (const auto& c : casos) {
+        const QString json = Escribir(sp, QStringLiteral("x.json"), c.texto);
+        QString error;
+        EXPECT_FALSE(ImportarProyecto(json, plm, sp.s, error)) << c.texto.left(60).toStdString();
+        const QString esperado = c.error.endsWith(QLatin1Char(')'))
+                                     ? QStringLiteral("El archivo no es un proyecto en JSON válido: ") + json +
+                                           QStringLiteral(" (") + c.error
+                                     : c.error;
+        EXPECT_EQ(error, esperado);
+        EXPECT_FALSE(QFile::exists(plm));
+    }
+    // Counts that agree with their lists are taken.
+    QString error;
+    const QString acorde = Escribir(sp, QStringLiteral("y.json"),
+                                    R"({"Ramales":[{"NodoI":"A","Nodoj":"B","NPiezas":1,"NConexiones":0,
+                                        "Piezas":[{"Clave":4,"Cantidad":1}]}]})");
+    EXPECT_TRUE(ImportarProyecto(acorde, plm, sp.s, error)) << error.toStdString();
+}
