@@ -8,9 +8,10 @@ struct ProyectoEdificio;
 struct Sesion;
 
 // Reads the file on Sesion::ConexionProyecto into the model.  Every step is
-// trapped: a field that cannot be read keeps the value it had, and a closed
-// connection leaves the model as it was.
-void LeerProyecto(ProyectoEdificio& p, Sesion& s);
+// trapped: a field that cannot be read keeps the value it had.  A closed
+// connection, or a file with more branches or nodes than the counters hold,
+// leaves the model as it was and returns false with a Spanish message.
+bool LeerProyecto(ProyectoEdificio& p, Sesion& s, QString* error = nullptr);
 
 // Opens the project connection on ArchivoProyecto and replaces every row of
 // the file with the model, in one transaction.  A project with no branch is
@@ -25,7 +26,7 @@ bool SalvarProyecto(ProyectoEdificio& p, Sesion& s, QString& error);
 // changes; then ArchivoProyecto and NombreProyecto (the file name) take it,
 // ValoresIniciales, AbrirConexionProyecto and LeerProyecto.  False with a
 // Spanish message, and the model, the session and the open connection as
-// they were, when the file is missing or is not a project.
+// they were, when the file is missing, is not a project or is too large.
 bool CargarProyectoEdificio(ProyectoEdificio& p, Sesion& s, const QString& archivo, QString& error);
 
 // The refusal of a project without branches.
