@@ -1,6 +1,7 @@
 #include "model/LectorJson.h"
 
-#include <QFile>
+#include "store/Archivos.h"
+
 #include <algorithm>
 
 QString TextoErrorJson(const QJsonParseError& e, qsizetype longitud) {
@@ -27,13 +28,12 @@ QString TextoErrorJson(const QJsonParseError& e, qsizetype longitud) {
 }
 
 bool LeerObjetoJson(const QString& ruta, QJsonObject& objeto, QString& error) {
-    QFile f(ruta);
-    if (!f.open(QIODevice::ReadOnly)) {
-        error = QStringLiteral("No se puede leer el archivo: ") + ruta;
-        return false;
-    }
+    // Far above the largest project (32,766 branches with thirty rows of
+    // fixtures and fittings each), and a bound on what is held in memory.
+    constexpr qint64 Maximo = qint64(512) * 1024 * 1024;
+    QByteArray texto;
+    if (!LeerArchivoRegular(ruta, Maximo, texto, error)) return false;
     QJsonParseError pe;
-    const QByteArray texto = f.readAll();
     const QJsonDocument doc = QJsonDocument::fromJson(texto, &pe);
     if (doc.isNull() || !doc.isObject()) {
         error = QStringLiteral("El archivo no es un proyecto en JSON válido: %1 (%2)")

@@ -3,7 +3,81 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+QString RutaDesdeNativa(const QByteArray& bytes) {
+    QString ruta;
+    for (qsizetype i = 0; i < bytes.size();) {
+        const uchar b = uchar(bytes[i]);
+        const int largo = b < 0x80 ? 1 : b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : 2;
+        // A sequence is taken when it decodes to one character and back to
+        // the same bytes; any other byte is kept as itself.
+        const QByteArray secuencia = bytes.mid(i, largo);
+        const QString c = QString::fromUtf8(secuencia);
+        if (secuencia.size() == largo && !c.contains(QChar::ReplacementCharacter) && c.toUtf8() == secuencia) {
+            ruta += c;
+            i += largo;
+        } else {
+            ruta += QChar(ushort(0xDC00 + b));
+            ++i;
+        }
+    }
+    return ruta;
+}
+
+QByteArray RutaNativa(const QString& ruta) {
+    QByteArray bytes;
+    qsizetype desde = 0;
+    for (qsizetype i = 0; i < ruta.size(); ++i) {
+        const ushort u = ruta[i].unicode();
+        const bool suelto = u >= 0xDC80 && u <= 0xDCFF && (i == 0 || !ruta[i - 1].isHighSurrogate());
+        if (!suelto) continue;
+        bytes += ruta.mid(desde, i - desde).toUtf8();
+        bytes += char(u - 0xDC00);
+        desde = i + 1;
+    }
+    return bytes + ruta.mid(desde).toUtf8();
+}
+
+bool LeerArchivoRegular(const QString& ruta, qint64 maximo, QByteArray& datos, QString& error) {
+    const QString noSeLee = QStringLiteral("No se puede leer el archivo: ") + ruta;
+    // Without waiting: a pipe with no writer would hold the open for ever.
+    const int fd = open(RutaNativa(ruta).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) {
+        error = noSeLee;
+        return false;
+    }
+    struct stat st {};
+    bool ok = fstat(fd, &st) == 0;
+    if (ok && !S_ISREG(st.st_mode)) {
+        error = noSeLee + QStringLiteral(" (no es un archivo común)");
+        ok = false;
+    } else if (ok && st.st_size > maximo) {
+        error = noSeLee + QStringLiteral(" (pasa de %1 MB)").arg(maximo / (1024 * 1024));
+        ok = false;
+    }
+    if (ok) {
+        datos.resize(qsizetype(st.st_size));
+        qsizetype leido = 0;
+        while (leido < datos.size()) {
+            const ssize_t n = read(fd, datos.data() + leido, size_t(datos.size() - leido));
+            if (n < 0 && errno == EINTR) continue;
+            if (n <= 0) break;
+            leido += n;
+        }
+        datos.truncate(leido);
+        if (leido != st.st_size) {
+            error = noSeLee;
+            ok = false;
+        }
+    }
+    close(fd);
+    return ok;
+}
 
 bool CopiarArchivo(const QString& origen, const QString& destino, QString* error) {
     QFile in(origen);

@@ -2,8 +2,21 @@
 // Whole-file writes: a target is replaced in one step by a file finished
 // beside it, never left half-written.
 
+#include <QByteArray>
 #include <QString>
 #include <functional>
+
+// Paths as the system hands them over.  A name whose bytes are not UTF-8 (a
+// "Diseño.plm" in Latin-1 from an old archive) keeps each such byte as a
+// character U+DC80..U+DCFF, so that the same file is reached again: every
+// open of a file goes through RutaNativa.
+QString RutaDesdeNativa(const QByteArray& bytes);
+QByteArray RutaNativa(const QString& ruta);
+
+// Reads a regular file whole: false, with a Spanish message, when the path
+// is missing, is not a regular file (a pipe would wait for ever, a device
+// never ends) or holds more than `maximo` bytes.
+bool LeerArchivoRegular(const QString& ruta, qint64 maximo, QByteArray& datos, QString& error);
 
 // Copies a file over another through a temporary name in the target's folder
 // and a rename, so the target is never left half-written.

@@ -1,6 +1,7 @@
 #include "Apoyo.h"
 #include "model/ProyectoJson.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -152,4 +153,28 @@ TEST(ProyectoJson, ArchivosQueNoSonUnProyectoSeRechazanEnEspanol) {
                                     R"({"Ramales":[{"NodoI":"A","Nodoj":"B","NPiezas":1,"NConexiones":0,
                                         "Piezas":[{"Clave":4,"Cantidad":1}]}]})");
     EXPECT_TRUE(ImportarProyecto(acorde, plm, sp.s, error)) << error.toStdString();
+}
+
+TEST(ProyectoJson, SoloSeImportaDeUnArchivoComunYDeTamanoAcotado) {
+    SesionPrueba sp;
+    const TuberiaPrueba tuberia(sp.Datos(QStringLiteral("tuberia.json")));
+    QDir().mkpath(sp.Datos(QStringLiteral("carpeta.json")));
+    // Sparse: one byte past the bound costs no disk.
+    QFile grande(sp.Datos(QStringLiteral("grande.json")));
+    ASSERT_TRUE(grande.open(QIODevice::WriteOnly) && grande.resize(qint64(512) * 1024 * 1024 + 1));
+    grande.close();
+    const struct {
+        QString ruta, motivo;
+    } casos[] = {
+        {tuberia.ruta, QStringLiteral(" (no es un archivo común)")},
+        {sp.Datos(QStringLiteral("carpeta.json")), QStringLiteral(" (no es un archivo común)")},
+        {grande.fileName(), QStringLiteral(" (pasa de 512 MB)")},
+    };
+    const QString plm = sp.Datos(QStringLiteral("x.plm"));
+    for (const auto& c : casos) {
+        QString error;
+        EXPECT_FALSE(ImportarProyecto(c.ruta, plm, sp.s, error));
+        EXPECT_EQ(error, QStringLiteral("No se puede leer el archivo: ") + c.ruta + c.motivo);
+        EXPECT_FALSE(QFile::exists(plm));
+    }
 }
