@@ -234,6 +234,7 @@ bool ExportarAcueducto(const QString& archivo, Sesion& s, QJsonObject& salida, Q
 }
 
 bool ImportarAcueducto(const QString& json, const QString& destino, Sesion& s, QString& error) {
+    if (!DestinoReemplazable(destino, json, error)) return false;
     QJsonObject o;
     if (!LeerObjetoJson(json, o, error)) return false;
     ProyectoAcueducto p;

@@ -211,6 +211,7 @@ bool ExportarProyecto(const QString& archivo, Sesion& s, QJsonObject& salida, QS
 }
 
 bool ImportarProyecto(const QString& json, const QString& destino, Sesion& s, QString& error) {
+    if (!DestinoReemplazable(destino, json, error)) return false;
     QJsonObject o;
     if (!LeerObjetoJson(json, o, error)) return false;
     ProyectoEdificio p;

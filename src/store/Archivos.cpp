@@ -79,6 +79,24 @@ bool LeerArchivoRegular(const QString& ruta, qint64 maximo, QByteArray& datos, Q
     return ok;
 }
 
+bool DestinoReemplazable(const QString& destino, const QString& origen, QString& error) {
+    struct stat d {};
+    if (lstat(RutaNativa(destino).constData(), &d) != 0) return errno == ENOENT || errno == ENOTDIR;
+    struct stat o {};
+    QString motivo;
+    if (S_ISLNK(d.st_mode))
+        motivo = QStringLiteral("es un enlace simbólico");
+    else if (!S_ISREG(d.st_mode))
+        motivo = QStringLiteral("no es un archivo común");
+    else if (stat(RutaNativa(origen).constData(), &o) == 0 && o.st_dev == d.st_dev && o.st_ino == d.st_ino)
+        motivo = QStringLiteral("es el mismo archivo de entrada");
+    else if ((d.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || access(RutaNativa(destino).constData(), W_OK) != 0)
+        motivo = QStringLiteral("es de sólo lectura");
+    if (motivo.isEmpty()) return true;
+    error = QStringLiteral("No se puede escribir el archivo: %1 (%2)").arg(destino, motivo);
+    return false;
+}
+
 bool CopiarArchivo(const QString& origen, const QString& destino, QString* error) {
     QFile in(origen);
     if (!in.open(QIODevice::ReadOnly)) {
@@ -114,12 +132,19 @@ bool EscribirDesdePlantilla(const QString& plantilla, const QString& destino, QS
                             const std::function<bool(const QString& temporal, QString& error)>& escribir) {
     const QFileInfo info(destino);
     const QString temporal = info.absolutePath() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".tmp");
+    // What a write killed half way left: a live journal would be played
+    // back into the fresh copy.
+    const auto BorrarRestos = [&] {
+        for (const char* resto : {"", "-journal", "-wal", "-shm"})
+            unlink(RutaNativa(temporal + QString::fromLatin1(resto)).constData());
+    };
+    BorrarRestos();
     if (!CopiarArchivo(plantilla, temporal, &error)) return false;
     bool ok = escribir(temporal, error);
     if (ok) {
         ok = ReemplazarArchivo(temporal, destino);
         if (!ok) error = QStringLiteral("No se puede escribir el archivo: ") + destino;
     }
-    if (!ok) QFile::remove(temporal);
+    if (!ok) BorrarRestos();
     return ok;
 }

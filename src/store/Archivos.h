@@ -18,6 +18,13 @@ QByteArray RutaNativa(const QString& ruta);
 // never ends) or holds more than `maximo` bytes.
 bool LeerArchivoRegular(const QString& ruta, qint64 maximo, QByteArray& datos, QString& error);
 
+// Whether a write may put a new file in place of `destino`: nothing there, or
+// an ordinary file that can be written and is not `origen`, the file the new
+// one is made from.  A symbolic link, a device or a pipe, a read-only file
+// (by its mode, which holds even for the superuser) and the input itself are
+// refused with a Spanish message.
+bool DestinoReemplazable(const QString& destino, const QString& origen, QString& error);
+
 // Copies a file over another through a temporary name in the target's folder
 // and a rename, so the target is never left half-written.
 bool CopiarArchivo(const QString& origen, const QString& destino, QString* error = nullptr);

@@ -58,3 +58,53 @@ TEST(LineaComandos, ErroresEnEspanolConEstadoDistintoDeCero) {
     EXPECT_TRUE(errores.contains(QStringLiteral("No se puede leer el archivo")));
     EXPECT_FALSE(QFileInfo::exists(sp.Datos(QStringLiteral("x.plm"))));
 }
+
+// An import writes a new file in place of the target only when the target is
+// an ordinary writable file other than its own input; otherwise the target is
+// left exactly as it was.
+TEST(LineaComandos, ImportarNoReemplazaLoQueNoEsUnArchivoPropio) {
+    SesionPrueba sp;
+    const struct {
+        const char* verbo;
+        const char* extension;
+        QByteArray json;
+    } verbos[] = {
+        {"proyecto", "plm", R"({"Ramales":[{"NodoI":"A","Nodoj":"B","longitudReal":3}]})"},
+        {"acueducto", "acu", R"({"Tramos":[{"Inicio":"A","Final":"B","Longitud":10}]})"},
+    };
+    for (const auto& v : verbos) {
+        const QString json = EscribirArchivo(sp.Datos(QStringLiteral("red.json")), v.json);
+        const QString soloLectura =
+            EscribirArchivo(sp.Datos(QStringLiteral("leer.") + QString::fromLatin1(v.extension)), "original");
+        QFile(soloLectura).setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+        const TuberiaPrueba tuberia(sp.Datos(QStringLiteral("tubo.") + QString::fromLatin1(v.extension)));
+        const QString apuntado = EscribirArchivo(sp.Datos(QStringLiteral("apuntado.txt")), "apuntado");
+        const QString enlace = sp.Datos(QStringLiteral("enlace.") + QString::fromLatin1(v.extension));
+        QFile::remove(enlace);
+        ASSERT_TRUE(QFile::link(apuntado, enlace));
+        const struct {
+            QString destino, motivo;
+        } casos[] = {
+            {soloLectura, QStringLiteral("es de sólo lectura")},
+            {tuberia.ruta, QStringLiteral("no es un archivo común")},
+            {json, QStringLiteral("es el mismo archivo de entrada")},
+            {enlace, QStringLiteral("es un enlace simbólico")},
+        };
+        for (const auto& c : casos) {
+            const QByteArray antes = QFileInfo(c.destino).isFile() ? LeerArchivo(c.destino) : QByteArray();
+            QString salida, errores;
+            EXPECT_EQ(EjecutarPrograma({QString::fromLatin1(v.verbo), QStringLiteral("importar"), json, c.destino},
+                                       &salida, &errores),
+                      1)
+                << v.verbo << " " << c.motivo.toStdString();
+            EXPECT_EQ(errores.trimmed(),
+                      QStringLiteral("No se puede escribir el archivo: ") + c.destino + QStringLiteral(" (") +
+                          c.motivo + QLatin1Char(')'));
+            if (QFileInfo(c.destino).isFile()) EXPECT_EQ(LeerArchivo(c.destino), antes);
+        }
+        EXPECT_TRUE(QFileInfo(tuberia.ruta).exists() && !QFileInfo(tuberia.ruta).isFile());
+        EXPECT_TRUE(QFileInfo(enlace).isSymLink());
+        EXPECT_EQ(LeerArchivo(apuntado), QByteArray("apuntado"));
+        EXPECT_EQ(LeerArchivo(json), v.json);
+    }
+}

@@ -1,5 +1,6 @@
 #include "Apoyo.h"
 #include "model/ProyectoJson.h"
+#include "store/Conexion.h"
 
 #include <QDir>
 #include <QFile>
@@ -177,4 +178,34 @@ TEST(ProyectoJson, SoloSeImportaDeUnArchivoComunYDeTamanoAcotado) {
         EXPECT_EQ(error, QStringLiteral("No se puede leer el archivo: ") + c.ruta + c.motivo);
         EXPECT_FALSE(QFile::exists(plm));
     }
+}
+
+// An import killed half way leaves its temporary copy and a live journal
+// beside the target; here they come from the aqueduct template, as from an
+// older program's template.  The next import starts clean and leaves nothing.
+TEST(ProyectoJson, LosRestosDeUnaImportacionInterrumpidaNoEntranEnLaSiguiente) {
+    SesionPrueba sp;
+    const QString base = sp.AcueductoEnBlanco(QStringLiteral("interrumpida.acu"));
+    const QString temporal = sp.Datos(QStringLiteral(".x.plm.tmp"));
+    {
+        Conexion c;
+        ASSERT_TRUE(c.Abrir(base));
+        // A small cache spills the changes into the file before the commit.
+        ASSERT_TRUE(c.EjecutarGuion(QStringLiteral(
+            "PRAGMA cache_size=10; BEGIN; DELETE FROM Tramos; CREATE TABLE Relleno(x);"
+            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<2000) "
+            "INSERT INTO Relleno SELECT randomblob(500) FROM n;")));
+        ASSERT_TRUE(QFile::exists(base + QStringLiteral("-journal")));
+        ASSERT_TRUE(QFile::copy(base, temporal));
+        ASSERT_TRUE(QFile::copy(base + QStringLiteral("-journal"), temporal + QStringLiteral("-journal")));
+    }
+    const QString json = Escribir(sp, QStringLiteral("p.json"), kJson);
+    const QString plm = sp.Datos(QStringLiteral("x.plm"));
+    QString error;
+    ASSERT_TRUE(ImportarProyecto(json, plm, sp.s, error)) << error.toStdString();
+    QJsonObject o;
+    ASSERT_TRUE(ExportarProyecto(plm, sp.s, o, error)) << error.toStdString();
+    EXPECT_EQ(o[QStringLiteral("Ramales")].toArray().size(), 2);
+    EXPECT_FALSE(QFile::exists(temporal));
+    EXPECT_FALSE(QFile::exists(temporal + QStringLiteral("-journal")));
 }
