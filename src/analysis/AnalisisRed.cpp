@@ -341,12 +341,15 @@ void AnalisisRed::ColoquePerdidasPresiones() {
 
 bool AnalisisRed::EjecutarCadena() {
     cadenaCompleta_ = false;
+    EscrituraConjunta escritura(s_.ConexionProyecto);
     ColoqueGastos(p_);
     CalcularPredimensionado(p_);
     Predimensionado_Asumido(p_, s_);
     ColoquePredimensionado();
     ColoqueUnidadesGasto();
-    if (!ColoqueLongitudEquivalente()) {
+    const bool longitudes = ColoqueLongitudEquivalente();
+    escritura.Confirmar();
+    if (!longitudes) {
         Spread3.Vaciar();
         return false;
     }
@@ -426,10 +429,13 @@ void AnalisisRed::EditarDiametroAsumido(int fila, const QString& texto) {
     Spread4.PonerTexto(fila, 7, ConPulgada(p_.Predimensionado[fila]));
     Spread4.PonerNumero(fila, 8, p_.VelocidadAsumida[fila], 2);
     ColoresPredimensionado(fila);
+    EscrituraConjunta escritura(s_.ConexionProyecto);
     EscribirCampoRamal("Predimensionado", fila, p_.Predimensionado[fila]);
     // Flows and the first two tabs stay as they are.
     cadenaCompleta_ = false;
-    if (!ColoqueLongitudEquivalente()) {
+    const bool longitudes = ColoqueLongitudEquivalente();
+    escritura.Confirmar();
+    if (!longitudes) {
         Spread3.Vaciar();
         return;
     }
@@ -465,6 +471,7 @@ bool AnalisisRed::LSButton2_Click() {
                                     Botones::SiNo, 0);
     if (r != Respuesta::Si) return false;
     const auto filas = LeerColumnaRamales(s_.ConexionProyecto, "Predimensionado");
+    EscrituraConjunta conjunta(s_.ConexionProyecto);
     EscrituraRamales escritura(s_.ConexionProyecto, "Predimensionado");
     for (int i = 1; i <= p_.NumeroRamales; ++i) {
         p_.Predimensionado[i] = p_.DiametroCalculoTexto[i];
@@ -476,7 +483,9 @@ bool AnalisisRed::LSButton2_Click() {
     escritura.Confirmar();
     ColoquePredimensionado();
     cadenaCompleta_ = false;
-    if (!ColoqueLongitudEquivalente()) {
+    const bool longitudes = ColoqueLongitudEquivalente();
+    conjunta.Confirmar();
+    if (!longitudes) {
         Spread3.Vaciar();
         return true;
     }

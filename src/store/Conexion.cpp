@@ -185,9 +185,9 @@ QStringList Conexion::ColumnasDe(const QString& tabla) {
     return res;
 }
 
-bool Conexion::Comenzar() {
+bool Conexion::Comenzar(bool diferida) {
     if (!db_) return false;
-    const char* sql = transacciones_ == 0 ? "BEGIN IMMEDIATE" : nullptr;
+    const char* sql = transacciones_ > 0 ? nullptr : diferida ? "BEGIN" : "BEGIN IMMEDIATE";
     if (sql && sqlite3_exec(db_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
         error_ = TextoSqlite(db_);
         return false;
@@ -213,7 +213,7 @@ void Conexion::Deshacer() {
     transacciones_ = 0;
 }
 
-Transaccion::Transaccion(Conexion& c) : c_(c) { activa_ = c_.Comenzar(); }
+Transaccion::Transaccion(Conexion& c, bool diferida) : c_(c) { activa_ = c_.Comenzar(diferida); }
 
 Transaccion::~Transaccion() {
     if (activa_) c_.Deshacer();

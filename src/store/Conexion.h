@@ -42,7 +42,10 @@ public:
     bool ExisteTabla(const QString& tabla);
     QStringList ColumnasDe(const QString& tabla);
 
-    bool Comenzar();
+    // Begins a transaction, or joins the one under way.  An immediate one
+    // locks the file for writing at once; a deferred one only at its first
+    // write, so that a pass that writes nothing leaves the file unlocked.
+    bool Comenzar(bool diferida = false);
     bool Confirmar();
     void Deshacer();
 
@@ -62,7 +65,7 @@ private:
 // is whole or nothing.
 class Transaccion {
 public:
-    explicit Transaccion(Conexion& c);
+    explicit Transaccion(Conexion& c, bool diferida = false);
     ~Transaccion();
     bool Confirmar();
 

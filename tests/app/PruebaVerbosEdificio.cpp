@@ -107,6 +107,21 @@ TEST_F(Verbos, ErrorDeEjecucionSaleConTres) {
     EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM DatosRamales WHERE Predimensionado<>''"))), 1);
 }
 
+// The assumed sizes written by a first analysis and the reductions that
+// follow from them reach the file together: a reduction that cannot be
+// written (here refused by a trigger, as by a kill) leaves no size behind.
+TEST_F(Verbos, LosDiametrosYLasReduccionesSeEscribenJuntos) {
+    const QString archivo = Copia("Edificio_MontantePH");
+    EjecutarSql(archivo, QStringLiteral("UPDATE DatosRamales SET Predimensionado=NULL, Reduccion=NULL"));
+    EjecutarSql(archivo, QStringLiteral("CREATE TRIGGER Corte BEFORE UPDATE OF Reduccion ON DatosRamales "
+                                        "BEGIN SELECT RAISE(ABORT, 'corte'); END"));
+    EXPECT_EQ(Correr({QStringLiteral("analizar"), archivo}), 3);
+    Conexion c;
+    ASSERT_TRUE(c.Abrir(archivo));
+    EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM DatosRamales WHERE Predimensionado IS NOT NULL"))),
+              0);
+}
+
 TEST_F(Verbos, ArchivosQueNoSonProyectos) {
     EXPECT_EQ(Correr({QStringLiteral("analizar"), sp.Datos(QStringLiteral("no-existe.plm"))}), 1);
     EXPECT_FALSE(errores.isEmpty());
