@@ -1,14 +1,19 @@
 #include "store/Conexion.h"
 
 #include "base/Nivo.h"
+#include "store/Archivos.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
-QString TextoSqlite(sqlite3* db) { return QString::fromUtf8(sqlite3_errmsg(db)); }
+QString TextoSqlite(sqlite3* db) {
+    if (sqlite3_errcode(db) == SQLITE_READONLY)
+        return QStringLiteral("El archivo es de sólo lectura: no se puede escribir en él.");
+    return QString::fromUtf8(sqlite3_errmsg(db));
+}
 
 void EnlazarValor(sqlite3_stmt* st, int i, const Valor& v) {
     if (!v.isValid() || v.isNull()) {
@@ -68,7 +73,8 @@ Valor LeerColumna(sqlite3_stmt* st, int i) {
 Conexion::~Conexion() { Cerrar(); }
 
 Conexion::Conexion(Conexion&& o) noexcept
-    : db_(o.db_), ruta_(std::move(o.ruta_)), error_(std::move(o.error_)), transacciones_(o.transacciones_) {
+    : db_(o.db_), ruta_(std::move(o.ruta_)), error_(std::move(o.error_)), transacciones_(o.transacciones_),
+      soloLectura_(o.soloLectura_) {
     o.db_ = nullptr;
     o.transacciones_ = 0;
 }
@@ -80,6 +86,7 @@ Conexion& Conexion::operator=(Conexion&& o) noexcept {
         ruta_ = std::move(o.ruta_);
         error_ = std::move(o.error_);
         transacciones_ = o.transacciones_;
+        soloLectura_ = o.soloLectura_;
         o.db_ = nullptr;
         o.transacciones_ = 0;
     }
@@ -89,14 +96,16 @@ Conexion& Conexion::operator=(Conexion&& o) noexcept {
 bool Conexion::Abrir(const QString& ruta) {
     Cerrar();
     error_.clear();
-    const QFileInfo info(ruta);
-    if (!info.exists() || !info.isFile()) {
+    const QByteArray nativa = RutaNativa(ruta);
+    struct stat st {};
+    if (stat(nativa.constData(), &st) != 0 || !S_ISREG(st.st_mode)) {
         error_ = QStringLiteral("No se encuentra el archivo: ") + ruta;
         return false;
     }
+    const bool soloLectura = (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || access(nativa.constData(), W_OK) != 0;
     sqlite3* db = nullptr;
-    const int rc = sqlite3_open_v2(QFile::encodeName(ruta).constData(), &db,
-                                   SQLITE_OPEN_READWRITE, nullptr);
+    const int rc = sqlite3_open_v2(nativa.constData(), &db, soloLectura ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE,
+                                   nullptr);
     if (rc != SQLITE_OK) {
         error_ = QStringLiteral("No se puede abrir el archivo: ") + ruta;
         if (db) sqlite3_close(db);
@@ -113,14 +122,15 @@ bool Conexion::Abrir(const QString& ruta) {
     }
     db_ = db;
     ruta_ = ruta;
+    soloLectura_ = soloLectura;
     return true;
 }
 
 bool Conexion::Crear(const QString& ruta) {
     Cerrar();
-    QFile::remove(ruta);
+    unlink(RutaNativa(ruta).constData());
     sqlite3* db = nullptr;
-    if (sqlite3_open_v2(QFile::encodeName(ruta).constData(), &db,
+    if (sqlite3_open_v2(RutaNativa(ruta).constData(), &db,
                         SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK) {
         error_ = QStringLiteral("No se puede crear el archivo: ") + ruta;
         if (db) sqlite3_close(db);
@@ -138,6 +148,7 @@ void Conexion::Cerrar() {
     }
     db_ = nullptr;
     transacciones_ = 0;
+    soloLectura_ = false;
 }
 
 bool Conexion::Ejecutar(const QString& sql, const std::vector<Valor>& parametros) {

@@ -23,7 +23,9 @@ public:
 
     // Opens an existing database file (never creates one).  False, with a
     // Spanish message in UltimoError(), when the file is missing or is not a
-    // database of this program's kind.
+    // database of this program's kind.  A file whose mode or owner forbids
+    // writing is opened for reading only, even by the superuser, so that its
+    // first write fails instead of changing it.
     bool Abrir(const QString& ruta);
     // Creates a new empty database file (for the build of the templates).
     bool Crear(const QString& ruta);
@@ -31,6 +33,7 @@ public:
     // 1 when open, 0 when closed, as the older State property.
     int State() const { return db_ ? 1 : 0; }
     bool Abierta() const { return db_ != nullptr; }
+    bool SoloLectura() const { return soloLectura_; }
     const QString& Ruta() const { return ruta_; }
 
     // Runs a statement with bound parameters; false with UltimoError() set.
@@ -59,6 +62,7 @@ private:
     QString ruta_;
     QString error_;
     int transacciones_ = 0;
+    bool soloLectura_ = false;
 };
 
 // A transaction that rolls back unless confirmed: every save of a project

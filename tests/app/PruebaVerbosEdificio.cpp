@@ -1,5 +1,6 @@
 #include "support/Apoyo.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -120,6 +121,25 @@ TEST_F(Verbos, LosDiametrosYLasReduccionesSeEscribenJuntos) {
     ASSERT_TRUE(c.Abrir(archivo));
     EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM DatosRamales WHERE Predimensionado IS NOT NULL"))),
               0);
+}
+
+// The building verbs write the assumed sizes and the reductions into the
+// project: a read-only project (by its mode, which the superuser ignores
+// otherwise) is refused before anything runs, and is still exported.
+TEST_F(Verbos, UnProyectoDeSoloLecturaSeRechazaSinTocarlo) {
+    const QString archivo = Copia("Edificio_MontantePH");
+    EjecutarSql(archivo, QStringLiteral("UPDATE DatosRamales SET Predimensionado=NULL, Reduccion=NULL"));
+    QFile(archivo).setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    const QByteArray antes = LeerArchivo(archivo);
+    for (const QStringList& verbo : {QStringList{QStringLiteral("analizar")}, QStringList{QStringLiteral("computos")},
+                                     QStringList{QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1")}}) {
+        EXPECT_EQ(Correr(QStringList{verbo[0], archivo} + verbo.mid(1)), 1) << verbo[0].toStdString();
+        EXPECT_EQ(errores.trimmed(), QStringLiteral("El proyecto es de sólo lectura: ") + archivo +
+                                         QStringLiteral("\nEl cálculo guarda en él los diámetros asumidos y las "
+                                                        "reducciones."));
+    }
+    EXPECT_EQ(LeerArchivo(archivo), antes);
+    EXPECT_EQ(Correr({QStringLiteral("proyecto"), QStringLiteral("exportar"), archivo}), 0) << errores.toStdString();
 }
 
 TEST_F(Verbos, ArchivosQueNoSonProyectos) {
