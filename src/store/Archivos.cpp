@@ -1,9 +1,8 @@
 #include "store/Archivos.h"
 
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <cerrno>
+#include <cstdlib>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -98,34 +97,54 @@ bool DestinoReemplazable(const QString& destino, const QString& origen, QString&
 }
 
 bool CopiarArchivo(const QString& origen, const QString& destino, QString* error) {
-    QFile in(origen);
-    if (!in.open(QIODevice::ReadOnly)) {
-        if (error) *error = QStringLiteral("No se puede leer el archivo: ") + origen;
+    const auto Falla = [&](const QString& texto) {
+        if (error) *error = texto;
         return false;
+    };
+    const int entrada = open(RutaNativa(origen).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    struct stat st {};
+    if (entrada < 0 || fstat(entrada, &st) != 0 || !S_ISREG(st.st_mode)) {
+        if (entrada >= 0) close(entrada);
+        return Falla(QStringLiteral("No se puede leer el archivo: ") + origen);
     }
-    QSaveFile out(destino);
-    if (!out.open(QIODevice::WriteOnly)) {
-        if (error) *error = QStringLiteral("No se puede escribir el archivo: ") + destino;
-        return false;
-    }
-    while (!in.atEnd()) {
-        const QByteArray bloque = in.read(1 << 20);
-        if (bloque.isEmpty() && in.error() != QFileDevice::NoError) break;
-        if (out.write(bloque) != bloque.size()) {
-            out.cancelWriting();
-            if (error) *error = QStringLiteral("No se puede escribir el archivo: ") + destino;
-            return false;
+    // Written whole under a temporary name beside the target, then put in
+    // its place in one step.
+    const QFileInfo info(destino);
+    QByteArray temporal = RutaNativa(info.absolutePath() + QStringLiteral("/.") + info.fileName()) + ".XXXXXX";
+    const int salida = mkostemp(temporal.data(), O_CLOEXEC);
+    bool ok = salida >= 0;
+    char bloque[1 << 16];
+    while (ok) {
+        const ssize_t n = read(entrada, bloque, sizeof bloque);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) {
+            ok = n == 0;
+            break;
+        }
+        for (ssize_t hecho = 0; ok && hecho < n;) {
+            const ssize_t w = write(salida, bloque + hecho, size_t(n - hecho));
+            if (w < 0 && errno == EINTR) continue;
+            ok = w > 0;
+            hecho += w;
         }
     }
-    if (!out.commit()) {
-        if (error) *error = QStringLiteral("No se puede escribir el archivo: ") + destino;
-        return false;
+    close(entrada);
+    if (salida >= 0) {
+        // The replaced file's mode, or the one a new file gets.
+        const mode_t mascara = umask(0);
+        umask(mascara);
+        struct stat previo {};
+        const mode_t modo = stat(RutaNativa(destino).constData(), &previo) == 0 ? previo.st_mode & 07777
+                                                                                : 0666 & ~mascara;
+        ok = fchmod(salida, modo) == 0 && fsync(salida) == 0 && close(salida) == 0 && ok;
+        if (ok) ok = rename(temporal.constData(), RutaNativa(destino).constData()) == 0;
+        if (!ok) unlink(temporal.constData());
     }
-    return true;
+    return ok || Falla(QStringLiteral("No se puede escribir el archivo: ") + destino);
 }
 
 bool ReemplazarArchivo(const QString& nuevo, const QString& destino) {
-    return std::rename(QFile::encodeName(nuevo).constData(), QFile::encodeName(destino).constData()) == 0;
+    return std::rename(RutaNativa(nuevo).constData(), RutaNativa(destino).constData()) == 0;
 }
 
 bool EscribirDesdePlantilla(const QString& plantilla, const QString& destino, QString& error,

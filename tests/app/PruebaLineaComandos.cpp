@@ -1,10 +1,14 @@
 #include "Apoyo.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
+#include <cstdio>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 TEST(LineaComandos, IniciarPreparaLaCarpetaYLaMuestra) {
     QTemporaryDir dir;
@@ -107,4 +111,35 @@ TEST(LineaComandos, ImportarNoReemplazaLoQueNoEsUnArchivoPropio) {
         EXPECT_EQ(LeerArchivo(apuntado), QByteArray("apuntado"));
         EXPECT_EQ(LeerArchivo(json), v.json);
     }
+}
+
+// A name from an old archive written in Latin-1 ("Diseño.plm" with the byte
+// 0xF1) is not UTF-8: it is reached by its own bytes, to read and to write.
+TEST(LineaComandos, UnNombreQueNoEsUtf8SeAbreYSeEscribe) {
+    SesionPrueba sp;
+    const QByteArray diseno = QFile::encodeName(sp.s.DirectorioDatos) + "/Dise\xf1o.plm";
+    const QByteArray muestra = LeerArchivo(sp.s.RutaImagen(QStringLiteral("Edificio_MontantePH.nivo")));
+    ASSERT_FALSE(muestra.isEmpty());
+    FILE* f = fopen(diseno.constData(), "wb");
+    ASSERT_NE(f, nullptr);
+    fwrite(muestra.constData(), 1, size_t(muestra.size()), f);
+    fclose(f);
+    // The shell hands the bytes over as they are (\361 is 0xF1).
+    const auto Correr = [&](const QString& orden, QString* salida) {
+        QProcess p;
+        p.setWorkingDirectory(sp.s.DirectorioDatos);
+        p.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("exec \"$0\" ") + orden, EjecutablePruebas()});
+        p.waitForFinished(120000);
+        *salida = QString::fromUtf8(p.readAllStandardOutput());
+        return p.exitCode();
+    };
+    QString salida;
+    EXPECT_EQ(Correr(QStringLiteral("analizar \"$(printf 'Dise\\361o.plm')\" --json"), &salida), 0);
+    EXPECT_GT(QJsonDocument::fromJson(salida.toUtf8())[QStringLiteral("NumeroRamales")].toInt(), 0);
+    ASSERT_EQ(Correr(QStringLiteral("proyecto exportar \"$(printf 'Dise\\361o.plm')\""), &salida), 0);
+    EscribirArchivo(sp.Datos(QStringLiteral("p.json")), salida.toUtf8());
+    EXPECT_EQ(Correr(QStringLiteral("proyecto importar p.json \"$(printf 'Nuevo\\361.plm')\""), &salida), 0);
+    struct stat st {};
+    EXPECT_EQ(stat((QFile::encodeName(sp.s.DirectorioDatos) + "/Nuevo\xf1.plm").constData(), &st), 0);
+    EXPECT_EQ(QDir(sp.s.DirectorioDatos).entryList({QStringLiteral(".*tmp*")}, QDir::Hidden | QDir::Files).size(), 0);
 }
