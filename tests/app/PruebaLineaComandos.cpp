@@ -128,7 +128,8 @@ TEST(LineaComandos, UnNombreQueNoEsUtf8SeAbreYSeEscribe) {
     const auto Correr = [&](const QString& orden, QString* salida) {
         QProcess p;
         p.setWorkingDirectory(sp.s.DirectorioDatos);
-        p.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("exec \"$0\" ") + orden, EjecutablePruebas()});
+        p.start(QStringLiteral("/bin/sh"),
+                {QStringLiteral("-c"), QStringLiteral("exec \"$0\" ") + orden, EjecutablePruebas()});
         p.waitForFinished(120000);
         *salida = QString::fromUtf8(p.readAllStandardOutput());
         return p.exitCode();

@@ -119,7 +119,8 @@ TEST_F(Verbos, LosDiametrosYLasReduccionesSeEscribenJuntos) {
     EXPECT_EQ(Correr({QStringLiteral("analizar"), archivo}), 3);
     Conexion c;
     ASSERT_TRUE(c.Abrir(archivo));
-    EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM DatosRamales WHERE Predimensionado IS NOT NULL"))),
+    EXPECT_EQ(ComoEntero(c.Escalar(
+                  QStringLiteral("SELECT count(*) FROM DatosRamales WHERE Predimensionado IS NOT NULL"))),
               0);
 }
 
@@ -131,8 +132,10 @@ TEST_F(Verbos, UnProyectoDeSoloLecturaSeRechazaSinTocarlo) {
     EjecutarSql(archivo, QStringLiteral("UPDATE DatosRamales SET Predimensionado=NULL, Reduccion=NULL"));
     QFile(archivo).setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
     const QByteArray antes = LeerArchivo(archivo);
-    for (const QStringList& verbo : {QStringList{QStringLiteral("analizar")}, QStringList{QStringLiteral("computos")},
-                                     QStringList{QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1")}}) {
+    const QStringList verbos[] = {{QStringLiteral("analizar")},
+                                  {QStringLiteral("computos")},
+                                  {QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1")}};
+    for (const QStringList& verbo : verbos) {
         EXPECT_EQ(Correr(QStringList{verbo[0], archivo} + verbo.mid(1)), 1) << verbo[0].toStdString();
         EXPECT_EQ(errores.trimmed(), QStringLiteral("El proyecto es de sólo lectura: ") + archivo +
                                          QStringLiteral("\nEl cálculo guarda en él los diámetros asumidos y las "
