@@ -1,6 +1,7 @@
 #include "analysis/AnalisisRed.h"
 
 #include "analysis/CargaProyecto.h"
+#include "analysis/EscrituraRamales.h"
 #include "analysis/Gastos.h"
 #include "analysis/Numeracion.h"
 #include "analysis/Predimensionado.h"
@@ -46,12 +47,14 @@ std::vector<AyudaControl> AnalisisRed::AyudasControles() {
 
 bool AnalisisRed::EjecutarCadena() {
     cadenaCompleta_ = false;
+    // The assumed sizes and the reductions that follow are written together.
+    EscrituraConjunta escritura(s_.ConexionProyecto);
     ColoqueGastos(p_);
     CalcularPredimensionado(p_);
     Predimensionado_Asumido(p_, s_);
     ColoquePredimensionado();
     ColoqueUnidadesGasto();
-    if (!RehacerPerdidas()) return false;
+    if (!RehacerPerdidas(escritura)) return false;
     if (p_.OpcionPresionInicial == 2) {
         Double1 = p_.longitudReal[1];
         Frame3Visible = true;
@@ -59,9 +62,11 @@ bool AnalisisRed::EjecutarCadena() {
     return true;
 }
 
-bool AnalisisRed::RehacerPerdidas() {
+bool AnalisisRed::RehacerPerdidas(EscrituraConjunta& escritura) {
     cadenaCompleta_ = false;
-    if (!ColoqueLongitudEquivalente()) {
+    const bool longitudes = ColoqueLongitudEquivalente();
+    escritura.Confirmar();
+    if (!longitudes) {
         Spread3.Vaciar();
         return false;
     }

@@ -41,6 +41,7 @@
 struct ProyectoEdificio;
 struct Sesion;
 class Dialogos;
+class EscrituraConjunta;
 
 // Colours of the grids (0x00BBGGRR).
 namespace ColoresAnalisis {
@@ -162,8 +163,10 @@ private:
     void EscribirCampoRamal(const char* columna, int ramal, double valor);
     void VaciarGrids();
     // The chain from the lengths on (tabs 3 and 4), after a change of size;
-    // false when the lengths stopped at a fault shown to the engineer.
-    bool RehacerPerdidas();
+    // false when the lengths stopped at a fault shown to the engineer.  The
+    // sizes already written in `escritura` reach the file together with the
+    // reductions that follow from them.
+    bool RehacerPerdidas(EscrituraConjunta& escritura);
     // Verification and chain after a new load (open, return from the editor).
     void Reconstruir();
     void PonerCaption(bool desdeEstaPantalla);

@@ -37,9 +37,10 @@ void AnalisisRed::EditarDiametroAsumido(int fila, const QString& texto) {
     ConvertirDiametro(p_, fila, true);
     ActualizarVelocidad(p_, fila, true);
     ColoqueDiametroAsumido(fila);
+    EscrituraConjunta conjunta(s_.ConexionProyecto);
     EscribirCampoRamal("Predimensionado", fila, p_.Predimensionado[fila]);
     // Flows and the first two tabs stay as they are.
-    RehacerPerdidas();
+    RehacerPerdidas(conjunta);
 }
 
 bool AnalisisRed::EditarValvulaReductora(int fila, const QString& texto) {
@@ -71,6 +72,7 @@ bool AnalisisRed::LSButton2_Click() {
                                     Botones::SiNo, 0);
     if (r != Respuesta::Si) return false;
     const auto filas = LeerColumnaRamales(s_.ConexionProyecto, "Predimensionado");
+    EscrituraConjunta conjunta(s_.ConexionProyecto);
     EscrituraRamales escritura(s_.ConexionProyecto, "Predimensionado");
     for (int i = 1; i <= p_.NumeroRamales; ++i) {
         p_.Predimensionado[i] = p_.DiametroCalculoTexto[i];
@@ -81,6 +83,6 @@ bool AnalisisRed::LSButton2_Click() {
     }
     escritura.Confirmar();
     ColoquePredimensionado();
-    RehacerPerdidas();
+    RehacerPerdidas(conjunta);
     return true;
 }

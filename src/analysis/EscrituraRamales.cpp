@@ -34,6 +34,10 @@ void EscrituraRamales::Escribir(long long rowid, const Valor& v) {
     }
 }
 
+void EscrituraConjunta::Confirmar() {
+    if (c_.Abierta() && !t_.Confirmar()) throw ErrorEjecucion(ErrorEscrituraArchivo, c_.UltimoError());
+}
+
 void EscrituraRamales::Confirmar() {
     if (!t_) return;
     q_.reset();

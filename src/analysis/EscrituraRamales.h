@@ -23,6 +23,20 @@ std::vector<std::pair<long long, Valor>> LeerColumnaRamales(Conexion& c, const c
 // on: the first with that number; -1 when there is none.
 long long FilaDeRamal(Conexion& c, int numero);
 
+// Several passes written as one: their writes join one transaction that
+// locks the file only at the first of them and is undone unless confirmed,
+// so the assumed sizes never reach the file without their reductions.
+class EscrituraConjunta {
+public:
+    explicit EscrituraConjunta(Conexion& c) : c_(c), t_(c, true) {}
+    // Raises ErrorEjecucion when the file does not take the writes.
+    void Confirmar();
+
+private:
+    Conexion& c_;
+    Transaccion t_;
+};
+
 class EscrituraRamales {
 public:
     EscrituraRamales(Conexion& c, const char* columna);

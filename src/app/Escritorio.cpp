@@ -1,6 +1,7 @@
 #include "app/Escritorio.h"
 
 #include "analysis/Numeracion.h"
+#include "aqueduct/ProyectoAcueducto.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
 #include "shell/screens/DialogosQt.h"
@@ -23,12 +24,12 @@ int EjecutarEscritorio(int argc, char** argv) {
         QApplication::installTranslator(&traduccion);
     Sesion s;
     ProyectoEdificio p;
+    ProyectoAcueducto acu;
     DialogosQt d;
-    PantallasEscritorio pantallas(s, p, d);
-    VentanaPrincipal ventana(s, p, d, pantallas);
+    PantallasEscritorio pantallas(s, p, acu, d);
+    VentanaPrincipal ventana(s, p, acu, d, pantallas);
     ventana.Logica().VerificarNumeracion = [&p, &d] { VerificarNumeracion(p, d); };
     pantallas.PonerVentana(&ventana);
-    pantallas.PonerAcueducto(&ventana.Logica().Acueducto());
     ventana.Arrancar();
     ventana.showMaximized();
     return app.exec();

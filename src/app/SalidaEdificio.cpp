@@ -1,8 +1,8 @@
 #include "app/SalidaEdificio.h"
 
-#include "analysis/CargaProyecto.h"
 #include "base/ErrorEjecucion.h"
 #include "base/Grid.h"
+#include "model/ArchivoEdificio.h"
 
 QString ArgumentosVerbo::Valor(const QString& nombre) const {
     for (const auto& [n, v] : valores)
@@ -50,9 +50,18 @@ ContextoVerbo::ContextoVerbo(bool json) {
 
 bool ContextoVerbo::Cargar(const QString& archivo) {
     QString error;
-    if (CargarProyectoEdificio(p, s, archivo, error)) return true;
-    Fallar(error);
-    return false;
+    if (!CargarProyectoEdificio(p, s, archivo, error)) {
+        Fallar(error);
+        return false;
+    }
+    // Refused before anything runs rather than halfway through, at the
+    // first write.
+    if (s.ConexionProyecto.SoloLectura()) {
+        Fallar(QStringLiteral("El proyecto es de sólo lectura: ") + archivo +
+               QStringLiteral("\nEl cálculo guarda en él los diámetros asumidos y las reducciones."));
+        return false;
+    }
+    return true;
 }
 
 int FallaDeCalculo(const ErrorEjecucion& e, bool json) {

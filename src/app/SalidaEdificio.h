@@ -35,8 +35,9 @@ int FallaDeUso(const ArgumentosVerbo& a, const char* uso);
 // under --json, whose object carries the message) and the project model.
 struct ContextoVerbo {
     explicit ContextoVerbo(bool json);
-    // Loads the project as the commands do; on failure prints the message
-    // and returns false.
+    // Loads the project as the commands do; on failure, or when the file is
+    // read-only (every building verb writes the assumed sizes into it),
+    // prints the message and returns false.
     bool Cargar(const QString& archivo);
     Sesion s;
     DialogosConsola d;

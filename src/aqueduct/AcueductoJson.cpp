@@ -5,6 +5,7 @@
 #include "aqueduct/ProyectoAcueducto.h"
 #include "model/LectorJson.h"
 #include "shell/Sesion.h"
+#include "store/Archivos.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -233,6 +234,7 @@ bool ExportarAcueducto(const QString& archivo, Sesion& s, QJsonObject& salida, Q
 }
 
 bool ImportarAcueducto(const QString& json, const QString& destino, Sesion& s, QString& error) {
+    if (!DestinoReemplazable(destino, json, error)) return false;
     QJsonObject o;
     if (!LeerObjetoJson(json, o, error)) return false;
     ProyectoAcueducto p;

@@ -1,6 +1,6 @@
 #include "images/Imagen.h"
 
-#include "store/Conexion.h"
+#include "store/Registros.h"
 
 #include <QBuffer>
 

@@ -4,6 +4,7 @@
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
 
+#include <QFileInfo>
 #include <functional>
 
 namespace {
@@ -88,7 +89,7 @@ void LeerGenerales(ProyectoEdificio& p, Conexion& c) {
 void LeerRamales(ProyectoEdificio& p, Conexion& c) {
     if (!c.ExisteTabla(QStringLiteral("DatosRamales"))) return;
     const long long n = ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM DatosRamales")));
-    p.NumeroRamales = int(n);  // more than 32,767 rows: overflow, the step is skipped
+    p.NumeroRamales = int(n);  // the size was checked before the read
     p.DimensionarRamales(p.NumeroRamales);
     Consulta q(c, QStringLiteral("SELECT * FROM DatosRamales ORDER BY Numero, rowid"));
     const Columnas k(q, {"NodoI", "Nodoj", "longitudReal", "OpcionDiseño", "ValvulaR", "Comentario",
@@ -169,16 +170,66 @@ void LeerConexiones(ProyectoEdificio& p, Conexion& c) {
     });
 }
 
+// A database file that holds the tables of a building project.
+bool EsArchivoProyecto(Conexion& c) {
+    for (const char* t : {"DatosGenerales", "DatosRamales", "DatosNodos", "DatosPiezas", "DatosConexiones"})
+        if (!c.ExisteTabla(QString::fromLatin1(t))) return false;
+    return true;
+}
+
+// The rows of a file against the 16-bit counters, nodes being one more than
+// branches; empty when they fit.  A file beyond them would read as an empty
+// project, which a save would then write over the data.
+QString FallaDeTamano(Conexion& c) {
+    const auto filas = [&](const QString& tabla) {
+        return c.ExisteTabla(tabla) ? ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM ") + tabla)) : 0;
+    };
+    if (const long long n = filas(QStringLiteral("DatosRamales")); n > 32766)
+        return QStringLiteral("El proyecto tiene %1 ramales; el máximo es 32766.").arg(n);
+    if (const long long n = filas(QStringLiteral("DatosNodos")); n > 32767)
+        return QStringLiteral("El proyecto tiene %1 nodos; el máximo es 32767.").arg(n);
+    return QString();
+}
+
 }  // namespace
 
-void LeerProyecto(ProyectoEdificio& p, Sesion& s) {
+bool LeerProyecto(ProyectoEdificio& p, Sesion& s, QString* error) {
     Conexion& c = s.ConexionProyecto;
-    if (!c.Abierta()) return;
+    QString falla = c.Abierta() ? FallaDeTamano(c) : c.UltimoError();
+    if (!c.Abierta() || !falla.isEmpty()) {
+        if (error) *error = falla;
+        return false;
+    }
     Paso([&] { LeerGenerales(p, c); });
     Paso([&] { LeerRamales(p, c); });
     Paso([&] { LeerNodos(p, c); });
     Paso([&] { LeerPiezas(p, c); });
     Paso([&] { LeerConexiones(p, c); });
+    return true;
+}
+
+bool CargarProyectoEdificio(ProyectoEdificio& p, Sesion& s, const QString& archivo, QString& error) {
+    {
+        Conexion prueba;
+        if (!prueba.Abrir(archivo)) {
+            error = prueba.UltimoError();
+            return false;
+        }
+        if (!EsArchivoProyecto(prueba)) {
+            error = QStringLiteral("El archivo no es un proyecto de Fontaria: ") + archivo;
+            return false;
+        }
+        error = FallaDeTamano(prueba);
+        if (!error.isEmpty()) return false;
+    }
+    s.ArchivoProyecto = archivo;
+    s.NombreProyecto = QFileInfo(archivo).fileName();
+    ValoresIniciales(p, s);
+    if (AbrirConexionProyecto(s) != 0) {
+        error = s.ConexionProyecto.UltimoError();
+        return false;
+    }
+    return LeerProyecto(p, s, &error);
 }
 
 QString MensajeProyectoSinRamales() {

@@ -6,7 +6,6 @@
 #include "base/Nivo.h"
 
 #include <QDate>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -75,21 +74,11 @@ private:
 
 // Reads a JSON file holding one object; false with a Spanish message when
 // the file cannot be read or is not such an object.
-inline bool LeerObjetoJson(const QString& ruta, QJsonObject& objeto, QString& error) {
-    QFile f(ruta);
-    if (!f.open(QIODevice::ReadOnly)) {
-        error = QStringLiteral("No se puede leer el archivo: ") + ruta;
-        return false;
-    }
-    QJsonParseError pe;
-    const QJsonDocument doc = QJsonDocument::fromJson(f.readAll(), &pe);
-    if (doc.isNull() || !doc.isObject()) {
-        error = QStringLiteral("El archivo no es un proyecto en JSON válido: %1 (%2)").arg(ruta, pe.errorString());
-        return false;
-    }
-    objeto = doc.object();
-    return true;
-}
+bool LeerObjetoJson(const QString& ruta, QJsonObject& objeto, QString& error);
+
+// What is wrong with a JSON text of `longitud` bytes, in Spanish, with the
+// place where it was found.
+QString TextoErrorJson(const QJsonParseError& e, qsizetype longitud);
 
 // The objects of a list of rows ("Tramos", "Ramales"...): false with a
 // message when there are more than `maximo` or one is not an object.

@@ -5,11 +5,13 @@
 #include "model/LectorJson.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
+#include "store/Archivos.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <tuple>
 
 namespace {
 
@@ -92,10 +94,25 @@ bool LeerRamal(const QJsonObject& o, int i, ProyectoEdificio& p, QString& error)
         error = QStringLiteral("El ramal %1 tiene más de %2 filas de piezas o de conexiones.").arg(i).arg(FilasPorRamal);
         return false;
     }
+    // The counts, when given, must agree with the lists: a save writes as
+    // many rows as the count says.
     p.NPiezas[i] = int(piezas.size());
     p.NConexiones[i] = int(conexiones.size());
-    l.Entero("NPiezas", p.NPiezas[i], 0, FilasPorRamal);
-    l.Entero("NConexiones", p.NConexiones[i], 0, FilasPorRamal);
+    for (const auto& [clave, lista, n] : {std::tuple{"NPiezas", "Piezas", &p.NPiezas[i]},
+                                          std::tuple{"NConexiones", "Conexiones", &p.NConexiones[i]}}) {
+        int dicho = *n;
+        l.Entero(clave, dicho, 0, FilasPorRamal);
+        if (!l.Bien()) return false;
+        if (dicho != *n) {
+            error = QStringLiteral("El ramal %1 dice %2 = %3, pero su lista \"%4\" tiene %5 filas.")
+                        .arg(i)
+                        .arg(QString::fromLatin1(clave))
+                        .arg(dicho)
+                        .arg(QString::fromLatin1(lista))
+                        .arg(*n);
+            return false;
+        }
+    }
     for (int k = 1; k <= piezas.size(); ++k) {
         const QJsonObject f = piezas[k - 1].toObject();
         Lector lf(f, donde + QStringLiteral(", pieza %1,").arg(k), error);
@@ -162,23 +179,17 @@ bool ProyectoDesdeJson(const QJsonObject& o, ProyectoEdificio& p, QString& error
     l.Doble("PresionM", p.PresionM);
     if (!l.Bien()) return false;
 
+    // One node more than branches: the counters are 16-bit.
     const QJsonArray ramales = o.value(QStringLiteral("Ramales")).toArray();
-    if (ramales.size() > 32766) {
-        error = QStringLiteral("El proyecto tiene %1 ramales; el máximo es 32766.").arg(ramales.size());
-        return false;
-    }
+    const QJsonArray nodos = o.value(QStringLiteral("Nodos")).toArray();
+    if (!ObjetosDeLista(ramales, 32766, "ramal", "ramales", error)) return false;
+    if (!ObjetosDeLista(nodos, 32767, "nodo", "nodos", error)) return false;
     p.NumeroRamales = int(ramales.size());
     p.DimensionarRamales(p.NumeroRamales);
-    for (int i = 1; i <= p.NumeroRamales; ++i) {
-        if (!ramales[i - 1].isObject()) {
-            error = QStringLiteral("El ramal %1 no es un objeto.").arg(i);
-            return false;
-        }
+    for (int i = 1; i <= p.NumeroRamales; ++i)
         if (!LeerRamal(ramales[i - 1].toObject(), i, p, error)) return false;
-    }
 
     // Levels by position; the names are rebuilt from the branches at the save.
-    const QJsonArray nodos = o.value(QStringLiteral("Nodos")).toArray();
     const int n = std::max<int>(int(nodos.size()), p.NumeroRamales + 1);
     p.NumeroNodos = n;
     p.DimensionarNodos(n);
@@ -191,32 +202,16 @@ bool ProyectoDesdeJson(const QJsonObject& o, ProyectoEdificio& p, QString& error
     return true;
 }
 
-bool EsArchivoProyecto(Conexion& c) {
-    for (const char* t : {"DatosGenerales", "DatosRamales", "DatosNodos", "DatosPiezas", "DatosConexiones"})
-        if (!c.ExisteTabla(QString::fromLatin1(t))) return false;
-    return true;
-}
-
 bool ExportarProyecto(const QString& archivo, Sesion& s, QJsonObject& salida, QString& error) {
     ProyectoEdificio p;
-    ValoresIniciales(p, s);
-    s.ArchivoProyecto = archivo;
-    if (AbrirConexionProyecto(s) != 0) {
-        error = s.ConexionProyecto.UltimoError();
-        return false;
-    }
-    if (!EsArchivoProyecto(s.ConexionProyecto)) {
-        error = QStringLiteral("El archivo no es un proyecto de Fontaria: ") + archivo;
-        s.ConexionProyecto.Cerrar();
-        return false;
-    }
-    LeerProyecto(p, s);
+    if (!CargarProyectoEdificio(p, s, archivo, error)) return false;
     s.ConexionProyecto.Cerrar();
     salida = ProyectoComoJson(p);
     return true;
 }
 
 bool ImportarProyecto(const QString& json, const QString& destino, Sesion& s, QString& error) {
+    if (!DestinoReemplazable(destino, json, error)) return false;
     QJsonObject o;
     if (!LeerObjetoJson(json, o, error)) return false;
     ProyectoEdificio p;

@@ -7,7 +7,6 @@
 
 struct ProyectoEdificio;
 struct Sesion;
-class Conexion;
 
 // The whole model (general data, branches with their fixtures and fittings,
 // nodes) as one object; the names of the keys are those of the file.
@@ -24,6 +23,3 @@ bool ExportarProyecto(const QString& archivo, Sesion& s, QJsonObject& salida, QS
 // of the model, written under a temporary name and renamed at the end, so a
 // failure leaves no file behind and an existing target untouched.
 bool ImportarProyecto(const QString& json, const QString& destino, Sesion& s, QString& error);
-
-// A database file that holds the tables of a building project.
-bool EsArchivoProyecto(Conexion& c);

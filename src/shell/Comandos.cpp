@@ -2,11 +2,13 @@
 // in the session, loads the project and shows a screen modally.
 
 #include "aqueduct/ArchivoAcueducto.h"
+#include "aqueduct/ProyectoAcueducto.h"
 #include "base/Dialogos.h"
 #include "model/ArchivoEdificio.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/MenuPrincipal.h"
 #include "shell/Sesion.h"
+#include "store/Archivos.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -19,13 +21,6 @@ const QString FiltroAcu = QStringLiteral("*.ACU|*.acu");
 QString TituloArchivo(const QString& ruta) { return QFileInfo(ruta).fileName(); }
 
 bool MismoNombre(const QString& a, const QString& b) { return UCase(Trim(a)) == UCase(Trim(b)); }
-
-// The tables a building project must hold to be read.
-bool EsProyectoEdificio(Conexion& c) {
-    for (const char* t : {"DatosGenerales", "DatosRamales", "DatosNodos", "DatosPiezas", "DatosConexiones"})
-        if (!c.ExisteTabla(QString::fromLatin1(t))) return false;
-    return true;
-}
 
 }  // namespace
 
@@ -69,22 +64,16 @@ bool MenuPrincipal::PedirProyectoSiFalta() {
 }
 
 bool MenuPrincipal::CargarProyecto() {
-    ValoresIniciales(p_, s_);
-    AbrirConexionProyecto(s_);
     QString error;
-    if (s_.ConexionFallida != 0)
-        error = s_.ConexionProyecto.UltimoError();
-    else if (!EsProyectoEdificio(s_.ConexionProyecto))
-        error = QStringLiteral("El archivo no es un proyecto de Fontaria: ") + s_.ArchivoProyecto;
-    if (!error.isEmpty()) {
-        s_.ConexionProyecto.Cerrar();
-        Ocupado(false);
-        d_.MostrarMensaje(error + QStringLiteral("\nRevise el Archivo de Datos..."),
-                          QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
-        return false;
-    }
-    LeerProyecto(p_, s_);
-    return true;
+    if (CargarProyectoEdificio(p_, s_, s_.ArchivoProyecto, error)) return true;
+    Ocupado(false);
+    MostrarFallaLectura(error);
+    return false;
+}
+
+void MenuPrincipal::MostrarFallaLectura(const QString& error) {
+    d_.MostrarMensaje(error + QStringLiteral("\nRevise el Archivo de Datos..."),
+                      QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
 }
 
 void MenuPrincipal::ModificarProyecto() {
@@ -95,8 +84,10 @@ void MenuPrincipal::ModificarProyecto() {
 
 void MenuPrincipal::TanqueHidroneumatico() {
     // The one screen that works without a project: with none, it goes on
-    // with what the model holds.
-    if (!Trim(s_.NombreProyecto).isEmpty() && !CargarProyecto()) return;
+    // with what the model holds; a chosen project that cannot be read is
+    // reported and the screen opens on an empty model, so that nothing of
+    // an earlier project passes for this one's.
+    if (!Trim(s_.NombreProyecto).isEmpty() && !CargarProyecto()) ValoresIniciales(p_, s_);
     MostrarSiHay(Pantalla::Hidroneumatico);
     // The screen may have opened another project.
     TituloEdificio();
@@ -265,8 +256,7 @@ bool MenuPrincipal::CargarAcueducto() {
     QString error;
     if (CargarProyectoACU(acu_, s_, s_.ArchivoProyectoACU, error)) return true;
     Ocupado(false);
-    d_.MostrarMensaje(error + QStringLiteral("\nRevise el Archivo de Datos..."),
-                      QStringLiteral("Error en Lectura de Datos..."), TituloProyectoFontaria());
+    MostrarFallaLectura(error);
     return false;
 }
 

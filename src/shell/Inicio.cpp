@@ -1,6 +1,7 @@
 #include "shell/Inicio.h"
 
 #include "shell/Sesion.h"
+#include "store/Archivos.h"
 
 #include <QCoreApplication>
 #include <QDir>

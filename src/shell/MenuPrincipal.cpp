@@ -7,8 +7,9 @@
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
 
-MenuPrincipal::MenuPrincipal(Sesion& s, ProyectoEdificio& p, Dialogos& d, Pantallas& pantallas)
-    : s_(s), p_(p), d_(d), pantallas_(pantallas) {
+MenuPrincipal::MenuPrincipal(Sesion& s, ProyectoEdificio& p, ProyectoAcueducto& acu, Dialogos& d,
+                             Pantallas& pantallas)
+    : s_(s), p_(p), acu_(acu), d_(d), pantallas_(pantallas) {
     Preparar();
 }
 

@@ -4,7 +4,6 @@
 // commands every tool runs.  The Qt window draws this state and forwards its
 // events here; the tests drive it with a scripted Dialogos.
 
-#include "aqueduct/ProyectoAcueducto.h"
 #include "shell/Pantallas.h"
 #include "shell/Titulos.h"
 
@@ -15,11 +14,14 @@
 class Dialogos;
 class ErrorEjecucion;
 struct Sesion;
+struct ProyectoAcueducto;
 struct ProyectoEdificio;
 
 class MenuPrincipal {
 public:
-    MenuPrincipal(Sesion& s, ProyectoEdificio& p, Dialogos& d, Pantallas& pantallas);
+    // Both project models belong to the program: the commands load them and
+    // the screens read and write them.
+    MenuPrincipal(Sesion& s, ProyectoEdificio& p, ProyectoAcueducto& acu, Dialogos& d, Pantallas& pantallas);
 
     // The network verification run before the analysis and the take-off;
     // it raises ProyectoEdificio::ErrorNumeracion on a broken list.  Empty
@@ -56,10 +58,6 @@ public:
     // and the window goes on with the project intact.  Returns false for the
     // exit tool, whose window must close.
     bool Ejecutar(const QString& id);
-
-    // The open aqueduct network, which its commands load and its screens
-    // read and write.
-    ProyectoAcueducto& Acueducto() { return acu_; }
 
     // --- The project commands.
     void NuevoProyecto();
@@ -98,6 +96,8 @@ private:
     // Loads ArchivoProyecto into the model; false, with the message shown,
     // when the file is not a project.
     bool CargarProyecto();
+    // The message of a project file that could not be loaded.
+    void MostrarFallaLectura(const QString& error);
     bool PedirProyectoSiFalta();
     // The common road of the result commands: a project (asked for when
     // none is chosen), the busy pointer, the load.
@@ -118,6 +118,7 @@ private:
 
     Sesion& s_;
     ProyectoEdificio& p_;
+    ProyectoAcueducto& acu_;
     Dialogos& d_;
     Pantallas& pantallas_;
     QString titulo_;
@@ -126,7 +127,6 @@ private:
     int tab_ = 1;
     bool salidaConEscape_ = false;
     bool ocupado_ = false;
-    ProyectoAcueducto acu_;
 };
 
 // Texts shared by the commands: TituloProyectoFontaria() is in shell/Titulos.h.

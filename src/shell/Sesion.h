@@ -5,7 +5,7 @@
 
 #include "base/Nivo.h"
 #include "shell/Tapiz.h"
-#include "store/Conexion.h"
+#include "store/Registros.h"
 
 #include <QString>
 #include <cstdint>

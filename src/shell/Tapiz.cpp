@@ -1,5 +1,7 @@
 #include "shell/Tapiz.h"
 
+#include "store/Archivos.h"
+
 #include <QFile>
 #include <QSaveFile>
 #include <QtEndian>
@@ -58,10 +60,11 @@ ConfiguracionTapiz TapizPorDefecto(const QString& directorioDatos) {
 
 ConfiguracionTapiz LeerTapiz(const QString& ruta, bool* existe) {
     ConfiguracionTapiz c;
-    QFile f(ruta);
+    // Eleven records of 128 bytes: anything much larger, or that is not a
+    // regular file, is not the settings file and reads as absent.
     QByteArray datos;
-    const bool abierto = f.open(QIODevice::ReadOnly);
-    if (abierto) datos = f.readAll();
+    QString error;
+    const bool abierto = LeerArchivoRegular(ruta, 64 * 1024, datos, error);
     if (existe) *existe = abierto;
 
     const uchar* r1 = RegistroLeido(datos, 1);
@@ -100,9 +103,8 @@ bool EscribirTapizPorDefecto(const QString& ruta, const ConfiguracionTapiz& c) {
 
 bool EscribirTapizConfiguracion(const QString& ruta, const ConfiguracionTapiz& c) {
     QByteArray datos;
-    QFile f(ruta);
-    if (f.open(QIODevice::ReadOnly)) datos = f.readAll();
-    f.close();
+    QString error;
+    if (!LeerArchivoRegular(ruta, 64 * 1024, datos, error)) datos.clear();
     Registro(datos, NumeroRegistros);
     // Record 1 is rewritten whole, as a counted text always is.
     memset(Registro(datos, 1), 0, LongitudRegistroTapiz);

@@ -1,5 +1,6 @@
 #include "support/Apoyo.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -123,6 +124,43 @@ TEST_F(Verbos, ErrorDeEjecucionSaleConTres) {
     Conexion c;
     ASSERT_TRUE(c.Abrir(archivo));
     EXPECT_EQ(ComoEntero(c.Escalar(QStringLiteral("SELECT count(*) FROM DatosRamales WHERE Predimensionado<>''"))), 1);
+}
+
+// The assumed sizes written by a first analysis and the reductions that
+// follow from them reach the file together: a reduction that cannot be
+// written (here refused by a trigger, as by a kill) leaves no size behind.
+TEST_F(Verbos, LosDiametrosYLasReduccionesSeEscribenJuntos) {
+    const QString archivo = Copia("Edificio_MontantePH");
+    EjecutarSql(archivo, QStringLiteral("UPDATE DatosRamales SET Predimensionado=NULL, Reduccion=NULL"));
+    EjecutarSql(archivo, QStringLiteral("CREATE TRIGGER Corte BEFORE UPDATE OF Reduccion ON DatosRamales "
+                                        "BEGIN SELECT RAISE(ABORT, 'corte'); END"));
+    EXPECT_EQ(Correr({QStringLiteral("analizar"), archivo}), 3);
+    Conexion c;
+    ASSERT_TRUE(c.Abrir(archivo));
+    EXPECT_EQ(ComoEntero(c.Escalar(
+                  QStringLiteral("SELECT count(*) FROM DatosRamales WHERE Predimensionado IS NOT NULL"))),
+              0);
+}
+
+// The building verbs write the assumed sizes and the reductions into the
+// project: a read-only project (by its mode, which the superuser ignores
+// otherwise) is refused before anything runs, and is still exported.
+TEST_F(Verbos, UnProyectoDeSoloLecturaSeRechazaSinTocarlo) {
+    const QString archivo = Copia("Edificio_MontantePH");
+    EjecutarSql(archivo, QStringLiteral("UPDATE DatosRamales SET Predimensionado=NULL, Reduccion=NULL"));
+    QFile(archivo).setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    const QByteArray antes = LeerArchivo(archivo);
+    const QStringList verbos[] = {{QStringLiteral("analizar")},
+                                  {QStringLiteral("computos")},
+                                  {QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1")}};
+    for (const QStringList& verbo : verbos) {
+        EXPECT_EQ(Correr(QStringList{verbo[0], archivo} + verbo.mid(1)), 1) << verbo[0].toStdString();
+        EXPECT_EQ(errores.trimmed(), QStringLiteral("El proyecto es de sólo lectura: ") + archivo +
+                                         QStringLiteral("\nEl cálculo guarda en él los diámetros asumidos y las "
+                                                        "reducciones."));
+    }
+    EXPECT_EQ(LeerArchivo(archivo), antes);
+    EXPECT_EQ(Correr({QStringLiteral("proyecto"), QStringLiteral("exportar"), archivo}), 0) << errores.toStdString();
 }
 
 TEST_F(Verbos, ArchivosQueNoSonProyectos) {

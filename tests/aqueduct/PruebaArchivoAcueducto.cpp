@@ -149,5 +149,14 @@ TEST(ArchivoAcueducto, ArchivosAjenosYDatosRotos) {
     ASSERT_TRUE(c.Ejecutar("INSERT INTO Tramos (Numero, Inicio, Final) VALUES (1, 'A', 'B'), (2, 'B', 'C')"));
     EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
     EXPECT_TRUE(error.contains("Subíndice")) << error.toStdString();
+    // Counts beyond the 16-bit counters are refused, never wrapped or emptied.
+    ASSERT_TRUE(c.Ejecutar("UPDATE Generales SET NumeroTramos = 40000"));
+    EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
+    EXPECT_TRUE(error.endsWith("Error 6: Desbordamiento (NumeroTramos)")) << error.toStdString();
+    ASSERT_TRUE(c.Ejecutar("UPDATE Generales SET NumeroTramos = 2"));
+    ASSERT_TRUE(c.Ejecutar("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<32768) "
+                           "INSERT INTO Nodos (Numero, Nodos) SELECT i, 'N'||i FROM n"));
+    EXPECT_FALSE(LeerProyectoACU(p, sp.s, error));
+    EXPECT_TRUE(error.endsWith("Error 6: Desbordamiento (Nodos)")) << error.toStdString();
     EXPECT_EQ(p.Proyecto, "sin tocar");
 }

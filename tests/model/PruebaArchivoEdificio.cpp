@@ -194,3 +194,48 @@ TEST(TablaDiametros, LasTresBusquedas) {
     EXPECT_EQ(nombre, QStringLiteral("1 1/4"));
     EXPECT_FALSE(DiametroInterior(0.0, interior));
 }
+
+// Nodes are one more than branches and both counters are 16-bit: 32,766
+// branches is the largest project; a file beyond that is refused whole,
+// never read as an empty project that a save would write back.
+TEST_F(ProyectoPrueba, UnArchivoMayorQueLosContadoresSeRechaza) {
+    const auto Archivo = [&](int ramales, int nodos) {
+        const QString ruta = sp.ProyectoEnBlanco(QStringLiteral("grande%1-%2.plm").arg(ramales).arg(nodos));
+        EjecutarSql(ruta, QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<%1) "
+                                         "INSERT INTO DatosRamales (Numero, NodoI, Nodoj) "
+                                         "SELECT i, 'N'||(i-1), 'N'||i FROM n")
+                              .arg(ramales));
+        EjecutarSql(ruta, QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<%1) "
+                                         "INSERT INTO DatosNodos (Numero, CotaPiso) SELECT i, i FROM n")
+                              .arg(nodos));
+        return ruta;
+    };
+    const struct {
+        int ramales, nodos;
+        QString error;
+    } casos[] = {
+        {32767, 32768, QStringLiteral("El proyecto tiene 32767 ramales; el máximo es 32766.")},
+        {40000, 40001, QStringLiteral("El proyecto tiene 40000 ramales; el máximo es 32766.")},
+        {3, 32768, QStringLiteral("El proyecto tiene 32768 nodos; el máximo es 32767.")},
+    };
+    for (const auto& c : casos) {
+        LlenarEjemplo(p);
+        const QString ruta = Archivo(c.ramales, c.nodos);
+        EXPECT_FALSE(CargarProyectoEdificio(p, sp.s, ruta, error)) << c.ramales;
+        EXPECT_EQ(error, c.error);
+        EXPECT_EQ(int(p.NumeroRamales), 3);  // the open project stays as it was
+        EXPECT_EQ(p.Proyecto, QStringLiteral("Casa López"));
+        // Read on an open connection, the file is refused the same way.
+        sp.s.ArchivoProyecto = ruta;
+        ASSERT_EQ(AbrirConexionProyecto(sp.s), 0);
+        EXPECT_FALSE(LeerProyecto(p, sp.s, &error));
+        EXPECT_EQ(error, c.error);
+        EXPECT_EQ(int(p.NumeroRamales), 3);
+    }
+    // The largest project loads whole: its last node is named by its last branch.
+    ASSERT_TRUE(CargarProyectoEdificio(p, sp.s, Archivo(32766, 32767), error)) << error.toStdString();
+    EXPECT_EQ(int(p.NumeroRamales), 32766);
+    EXPECT_EQ(int(p.NumeroNodos), 32767);
+    EXPECT_EQ(p.NodoNombre[32767], QStringLiteral("N32766"));
+    EXPECT_DOUBLE_EQ(p.CotaPiso[32767], 32767.0);
+}

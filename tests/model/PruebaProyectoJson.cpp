@@ -1,6 +1,8 @@
 #include "Apoyo.h"
 #include "model/ProyectoJson.h"
+#include "store/Conexion.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -110,4 +112,100 @@ TEST(ProyectoJson, ExportarUnArchivoAjenoEsUnError) {
     const QString texto = Escribir(sp, QStringLiteral("x.plm"), "hola");
     EXPECT_FALSE(ExportarProyecto(texto, sp.s, o, error));
     EXPECT_FALSE(error.isEmpty());
+}
+
+// Each file is refused with its own Spanish message, and no .plm is made.
+TEST(ProyectoJson, ArchivosQueNoSonUnProyectoSeRechazanEnEspanol) {
+    SesionPrueba sp;
+    QByteArray muchosNodos = "{\"Ramales\":[{\"NodoI\":\"A\",\"Nodoj\":\"B\"}],\"Nodos\":[{}";
+    for (int i = 1; i < 32768; ++i) muchosNodos += ",{}";
+    muchosNodos += "]}";
+    const struct {
+        QByteArray texto;
+        QString error;  // after "El archivo no es un proyecto en JSON válido: <ruta> (" when it ends in ')'
+    } casos[] = {
+        {"[1, 2]", QStringLiteral("la raíz no es un objeto)")},
+        {"{\"Ramales\": [", QStringLiteral("una lista sin cerrar, en la posición 13)")},
+        {"{\"DatosGenerales\": {\"Proyecto\": \"Casa", QStringLiteral("un texto sin cerrar, en la posición 37)")},
+        {"{\"a\": 1} x", QStringLiteral("texto sobrante tras el final, en la posición 9)")},
+        {"", QStringLiteral("un valor no válido, en la posición 0)")},
+        {muchosNodos, QStringLiteral("El proyecto tiene 32768 nodos; el máximo es 32767.")},
+        {R"({"Ramales":[{"NodoI":"A","Nodoj":"B","NPiezas":2,"Piezas":[]}]})",
+         QStringLiteral("El ramal 1 dice NPiezas = 2, pero su lista \"Piezas\" tiene 0 filas.")},
+        {R"({"Ramales":[{"NodoI":"A","Nodoj":"B","NConexiones":1,
+             "Conexiones":[{"Clave":5,"Cantidad":1},{"Clave":6,"Cantidad":1}]}]})",
+         QStringLiteral("El ramal 1 dice NConexiones = 1, pero su lista \"Conexiones\" tiene 2 filas.")},
+    };
+    const QString plm = sp.Datos(QStringLiteral("x.plm"));
+    for (const auto& c : casos) {
+        const QString json = Escribir(sp, QStringLiteral("x.json"), c.texto);
+        QString error;
+        EXPECT_FALSE(ImportarProyecto(json, plm, sp.s, error)) << c.texto.left(60).toStdString();
+        const QString esperado = c.error.endsWith(QLatin1Char(')'))
+                                     ? QStringLiteral("El archivo no es un proyecto en JSON válido: ") + json +
+                                           QStringLiteral(" (") + c.error
+                                     : c.error;
+        EXPECT_EQ(error, esperado);
+        EXPECT_FALSE(QFile::exists(plm));
+    }
+    // Counts that agree with their lists are taken.
+    QString error;
+    const QString acorde = Escribir(sp, QStringLiteral("y.json"),
+                                    R"({"Ramales":[{"NodoI":"A","Nodoj":"B","NPiezas":1,"NConexiones":0,
+                                        "Piezas":[{"Clave":4,"Cantidad":1}]}]})");
+    EXPECT_TRUE(ImportarProyecto(acorde, plm, sp.s, error)) << error.toStdString();
+}
+
+TEST(ProyectoJson, SoloSeImportaDeUnArchivoComunYDeTamanoAcotado) {
+    SesionPrueba sp;
+    const TuberiaPrueba tuberia(sp.Datos(QStringLiteral("tuberia.json")));
+    QDir().mkpath(sp.Datos(QStringLiteral("carpeta.json")));
+    // Sparse: one byte past the bound costs no disk.
+    QFile grande(sp.Datos(QStringLiteral("grande.json")));
+    ASSERT_TRUE(grande.open(QIODevice::WriteOnly) && grande.resize(qint64(512) * 1024 * 1024 + 1));
+    grande.close();
+    const struct {
+        QString ruta, motivo;
+    } casos[] = {
+        {tuberia.ruta, QStringLiteral(" (no es un archivo común)")},
+        {sp.Datos(QStringLiteral("carpeta.json")), QStringLiteral(" (no es un archivo común)")},
+        {grande.fileName(), QStringLiteral(" (pasa de 512 MB)")},
+    };
+    const QString plm = sp.Datos(QStringLiteral("x.plm"));
+    for (const auto& c : casos) {
+        QString error;
+        EXPECT_FALSE(ImportarProyecto(c.ruta, plm, sp.s, error));
+        EXPECT_EQ(error, QStringLiteral("No se puede leer el archivo: ") + c.ruta + c.motivo);
+        EXPECT_FALSE(QFile::exists(plm));
+    }
+}
+
+// An import killed half way leaves its temporary copy and a live journal
+// beside the target; here they come from the aqueduct template, as from an
+// older program's template.  The next import starts clean and leaves nothing.
+TEST(ProyectoJson, LosRestosDeUnaImportacionInterrumpidaNoEntranEnLaSiguiente) {
+    SesionPrueba sp;
+    const QString base = sp.AcueductoEnBlanco(QStringLiteral("interrumpida.acu"));
+    const QString temporal = sp.Datos(QStringLiteral(".x.plm.tmp"));
+    {
+        Conexion c;
+        ASSERT_TRUE(c.Abrir(base));
+        // A small cache spills the changes into the file before the commit.
+        ASSERT_TRUE(c.EjecutarGuion(QStringLiteral(
+            "PRAGMA cache_size=10; BEGIN; DELETE FROM Tramos; CREATE TABLE Relleno(x);"
+            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i<2000) "
+            "INSERT INTO Relleno SELECT randomblob(500) FROM n;")));
+        ASSERT_TRUE(QFile::exists(base + QStringLiteral("-journal")));
+        ASSERT_TRUE(QFile::copy(base, temporal));
+        ASSERT_TRUE(QFile::copy(base + QStringLiteral("-journal"), temporal + QStringLiteral("-journal")));
+    }
+    const QString json = Escribir(sp, QStringLiteral("p.json"), kJson);
+    const QString plm = sp.Datos(QStringLiteral("x.plm"));
+    QString error;
+    ASSERT_TRUE(ImportarProyecto(json, plm, sp.s, error)) << error.toStdString();
+    QJsonObject o;
+    ASSERT_TRUE(ExportarProyecto(plm, sp.s, o, error)) << error.toStdString();
+    EXPECT_EQ(o[QStringLiteral("Ramales")].toArray().size(), 2);
+    EXPECT_FALSE(QFile::exists(temporal));
+    EXPECT_FALSE(QFile::exists(temporal + QStringLiteral("-journal")));
 }

@@ -3,8 +3,8 @@
 // scripted, a sample project loaded as the commands load it, and a project
 // file's column read back.
 
-#include "analysis/CargaProyecto.h"
 #include "analysis/Numeracion.h"
+#include "model/ArchivoEdificio.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/screens/DialogosQt.h"
 #include "store/Conexion.h"

@@ -6,6 +6,7 @@
 #include "ApoyoPantallas.h"
 #include "analysis/ApoyoAnalisis.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
+#include "aqueduct/ProyectoAcueducto.h"
 #include "shell/screens/PantallasEscritorio.h"
 #include "shell/screens/VentanaPrincipal.h"
 #include "takeoff/screens/VentanaComputos.h"
@@ -19,14 +20,15 @@ namespace {
 struct Escritorio : ::testing::Test {
     SesionPrueba sp;
     ProyectoEdificio p;
+    ProyectoAcueducto acu;
     DialogosPantalla d;
     std::unique_ptr<PantallasEscritorio> pantallas;
     std::unique_ptr<VentanaPrincipal> v;
 
     void SetUp() override {
         qputenv("FONTARIA_DATOS", sp.s.DirectorioDatos.toUtf8());
-        pantallas = std::make_unique<PantallasEscritorio>(sp.s, p, d);
-        v = std::make_unique<VentanaPrincipal>(sp.s, p, d, *pantallas);
+        pantallas = std::make_unique<PantallasEscritorio>(sp.s, p, acu, d);
+        v = std::make_unique<VentanaPrincipal>(sp.s, p, acu, d, *pantallas);
         // As the desktop program wires it.
         v->Logica().VerificarNumeracion = [this] { VerificarNumeracion(p, d); };
         pantallas->PonerVentana(v.get());

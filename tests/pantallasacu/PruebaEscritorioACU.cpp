@@ -11,12 +11,8 @@
 namespace {
 struct Escritorio : PantallaACU {
     ProyectoEdificio edificio;
-    PantallasEscritorio pantallas{s, edificio, falsos};
-    MenuPrincipal menu{s, edificio, falsos, pantallas};
-    void SetUp() override {
-        PantallaACU::SetUp();
-        pantallas.PonerAcueducto(&menu.Acueducto());
-    }
+    PantallasEscritorio pantallas{s, edificio, p, falsos};
+    MenuPrincipal menu{s, edificio, p, falsos, pantallas};
 };
 }  // namespace
 
@@ -40,5 +36,5 @@ TEST_F(Escritorio, LasHerramientasDeAcueductosAbrenSusPantallas) {
     });
     EXPECT_TRUE(menu.Ejecutar(QStringLiteral("ID_A_Modificar")));
     EXPECT_EQ(pagina, QStringLiteral("Redes de Acueductos   Proyecto: [ EJEMPLOREDA.ACU ]"));
-    EXPECT_EQ(menu.Acueducto().NumeroTramos, 26);
+    EXPECT_EQ(p.NumeroTramos, 26);
 }

@@ -3,6 +3,7 @@
 // missing, each showing is recorded, and a screen can run a check or fault;
 // and the main window's logic over them with the scripted dialogs.
 
+#include "aqueduct/ProyectoAcueducto.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/MenuPrincipal.h"
 #include "shell/Pantallas.h"
@@ -29,7 +30,8 @@ struct MenuPrueba : ::testing::Test {
     SesionPrueba sp;
     Sesion& s = sp.s;
     ProyectoEdificio p;
+    ProyectoAcueducto acu;
     DialogosFalsos d;
     PantallasFalsas pantallas;
-    MenuPrincipal menu{s, p, d, pantallas};
+    MenuPrincipal menu{s, p, acu, d, pantallas};
 };

@@ -240,6 +240,26 @@ TEST_F(Comandos, ElTanqueNoPideProyecto) {
     EXPECT_EQ(p.Proyecto, QStringLiteral("lo que haya"));
 }
 
+TEST_F(Comandos, ElTanqueSeMuestraSinDatosCuandoElProyectoElegidoNoCarga) {
+    const QString ajena = sp.AcueductoEnBlanco(QStringLiteral("Proyectos/ajena.plm"));
+    d.archivos.push_back(ajena);
+    menu.AbrirProyecto();
+    p.Proyecto = QStringLiteral("de un proyecto anterior");
+    int ramalesAlMostrar = -1;
+    pantallas.alMostrar = [&](Pantalla) { ramalesAlMostrar = p.NumeroRamales; };
+    menu.TanqueHidroneumatico();
+    ASSERT_EQ(d.mensajes.size(), 1u);
+    MensajeEs(d.Ultimo(),
+              QStringLiteral("El archivo no es un proyecto de Fontaria: ") + ajena +
+                  QStringLiteral("\nRevise el Archivo de Datos..."),
+              QStringLiteral("Error en Lectura de Datos..."));
+    ASSERT_EQ(pantallas.mostradas.size(), 1u);
+    EXPECT_EQ(pantallas.mostradas[0], Pantalla::Hidroneumatico);
+    EXPECT_EQ(ramalesAlMostrar, 0);
+    EXPECT_EQ(p.Proyecto, QString());  // nothing of the earlier project is offered as this one's
+    EXPECT_EQ(d.ocupado, 0);
+}
+
 TEST_F(Comandos, UnArchivoAjenoDaUnMensajeYNoMuestraPantalla) {
     const QString texto = Proyectos(QStringLiteral("notas.plm"));
     EscribirArchivo(texto, "esto no es una base de datos, sino un texto cualquiera con bastante longitud");

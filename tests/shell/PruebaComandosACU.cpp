@@ -10,8 +10,6 @@
 namespace {
 
 struct ComandosACU : MenuPrueba {
-    ProyectoAcueducto& acu = menu.Acueducto();
-
     void SetUp() override {
         QDir().mkpath(sp.Datos(QStringLiteral("Redes")));
         s.NombreUsuario = QStringLiteral("Ing. Pérez");

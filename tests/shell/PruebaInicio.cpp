@@ -156,3 +156,11 @@ TEST(Tapiz, ArchivoCortoOAusenteSeLeeComoCeros) {
     const QString corto = EscribirArchivo(dir.path() + QStringLiteral("/corto.nivo"), QByteArray("\x03\x00" "abc", 5));
     EXPECT_EQ(LeerTapiz(corto).RutaTapiz, QStringLiteral("abc"));
 }
+
+TEST(Tapiz, UnaTuberiaEnLugarDelArchivoSeLeeComoAusente) {
+    QTemporaryDir dir;
+    const TuberiaPrueba tuberia(dir.path() + QStringLiteral("/Tapiz.nivo"));
+    bool existe = true;
+    EXPECT_TRUE(LeerTapiz(tuberia.ruta, &existe).RutaTapiz.isEmpty());
+    EXPECT_FALSE(existe);
+}

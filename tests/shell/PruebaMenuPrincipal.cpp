@@ -16,6 +16,7 @@ namespace {
 struct Menu : ::testing::Test {
     SesionPrueba sp;
     ProyectoEdificio p;
+    ProyectoAcueducto acu;
     DialogosFalsos d;
     PantallasFalsas pantallas;
 };
@@ -42,7 +43,7 @@ TEST_F(Menu, LasHerramientasLlevanSuTituloYSuTip) {
 }
 
 TEST_F(Menu, LasPestanasMuestranLasHerramientasDeCadaModo) {
-    MenuPrincipal m(sp.s, p, d, pantallas);
+    MenuPrincipal m(sp.s, p, acu, d, pantallas);
     m.InicioMenu();
     for (const QString& id : IdsModoAcueducto()) EXPECT_FALSE(m.Visible(id)) << id.toStdString();
     for (const QString& id : IdsModoEdificio()) EXPECT_TRUE(m.Visible(id)) << id.toStdString();
@@ -68,7 +69,7 @@ TEST_F(Menu, LasPestanasMuestranLasHerramientasDeCadaModo) {
 
 TEST_F(Menu, LasHerramientasSinPantallaQuedanVisiblesYDesactivadas) {
     pantallas.faltan = {int(Pantalla::AnalisisRed), int(Pantalla::DatosRamales)};
-    MenuPrincipal m(sp.s, p, d, pantallas);
+    MenuPrincipal m(sp.s, p, acu, d, pantallas);
     m.InicioMenu();
     EXPECT_TRUE(m.Visible(QStringLiteral("ID_M2_AnalisisRed")));
     EXPECT_FALSE(m.Habilitada(QStringLiteral("ID_M2_AnalisisRed")));
@@ -90,7 +91,7 @@ TEST_F(Menu, LasHerramientasSinPantallaQuedanVisiblesYDesactivadas) {
 }
 
 TEST_F(Menu, EscPreguntaYLaCajaDeCierreNo) {
-    MenuPrincipal m(sp.s, p, d, pantallas);
+    MenuPrincipal m(sp.s, p, acu, d, pantallas);
     EXPECT_TRUE(m.TeclaPulsada(true));
     d.respuestas = {Respuesta::No};
     EXPECT_FALSE(m.PuedeCerrar());
@@ -111,7 +112,7 @@ TEST_F(Menu, EscPreguntaYLaCajaDeCierreNo) {
 }
 
 TEST_F(Menu, LaActivacionLimpiaLasBanderasDeLosEditores) {
-    MenuPrincipal m(sp.s, p, d, pantallas);
+    MenuPrincipal m(sp.s, p, acu, d, pantallas);
     sp.s.ProyectoModificado = true;
     sp.s.CatalogoDesdeProyecto = true;
     m.Activacion();

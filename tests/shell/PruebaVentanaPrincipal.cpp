@@ -23,6 +23,7 @@ namespace {
 struct Ventana : ::testing::Test {
     SesionPrueba sp;
     ProyectoEdificio p;
+    ProyectoAcueducto acu;
     DialogosQt d;
     PantallasFalsas pantallas;
     std::unique_ptr<VentanaPrincipal> v;
@@ -30,7 +31,7 @@ struct Ventana : ::testing::Test {
     void SetUp() override {
         qputenv("FONTARIA_DATOS", sp.s.DirectorioDatos.toUtf8());
         pantallas.faltan = {int(Pantalla::AnalisisRed), int(Pantalla::DatosAcueducto)};
-        v = std::make_unique<VentanaPrincipal>(sp.s, p, d, pantallas);
+        v = std::make_unique<VentanaPrincipal>(sp.s, p, acu, d, pantallas);
         v->Arrancar(RutaProgramaPruebas());
         v->show();
     }
@@ -99,9 +100,10 @@ TEST(VentanaConDialogosFalsos, ElTituloMuestraElProyectoElegidoAntesDeSuPantalla
     SesionPrueba sp;
     qputenv("FONTARIA_DATOS", sp.s.DirectorioDatos.toUtf8());
     ProyectoEdificio p;
+    ProyectoAcueducto acu;
     DialogosFalsos d;
     PantallasFalsas pantallas;
-    VentanaPrincipal v(sp.s, p, d, pantallas);
+    VentanaPrincipal v(sp.s, p, acu, d, pantallas);
     v.Arrancar(RutaProgramaPruebas());
     const QString plm = sp.CopiaDeEjemplo(QStringLiteral("Edificio_MontantePH.nivo"), QStringLiteral("Montante.plm"));
     d.archivos.push_back(plm);

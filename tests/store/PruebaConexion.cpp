@@ -1,5 +1,6 @@
 #include "Apoyo.h"
-#include "store/Conexion.h"
+#include "store/Archivos.h"
+#include "store/Registros.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
@@ -107,4 +108,25 @@ TEST(CopiarArchivo, OrigenAusenteNoTocaElDestino) {
     EXPECT_FALSE(CopiarArchivo(sp.Datos(QStringLiteral("falta.txt")), destino, &error));
     EXPECT_FALSE(error.isEmpty());
     EXPECT_EQ(LeerArchivo(destino), QByteArray("original"));
+}
+
+// Any bytes a file name may hold come back unchanged; UTF-8 reads as text.
+TEST(RutaNativa, IdaYVueltaDeCualquierNombre) {
+    const struct {
+        QByteArray bytes;
+        QString texto;  // null when the name is not UTF-8
+    } casos[] = {
+        {"Proyectos/casa.plm", QStringLiteral("Proyectos/casa.plm")},
+        {"Dise\xc3\xb1o.plm", QStringLiteral("Diseño.plm")},
+        {"r\xf0\x9f\x92\xa7.acu", QStringLiteral("r💧.acu")},
+        {"Dise\xf1o.plm", QString()},       // Latin-1
+        {"fin\xc3", QString()},             // cut short at the end
+        {"\xc0\xaf.plm", QString()},        // an overlong '/'
+        {"\xed\xb2\x80.plm", QString()},    // an encoded surrogate
+    };
+    for (const auto& c : casos) {
+        const QString ruta = RutaDesdeNativa(c.bytes);
+        EXPECT_EQ(RutaNativa(ruta), c.bytes) << c.bytes.toHex().constData();
+        if (!c.texto.isNull()) EXPECT_EQ(ruta, c.texto);
+    }
 }

@@ -8,7 +8,10 @@
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 QString RutaProgramaPruebas() { return QStringLiteral(FONTARIA_RUTA_PROGRAMA); }
 QString EjecutablePruebas() { return QStringLiteral(FONTARIA_EJECUTABLE); }
@@ -123,4 +126,22 @@ bool EjecutarSql(const QString& ruta, const QString& sql) {
     const bool hecho = c.Abrir(ruta) && c.Ejecutar(sql);
     if (!hecho) ADD_FAILURE() << sql.toStdString() << ": " << c.UltimoError().toStdString();
     return hecho;
+}
+
+TuberiaPrueba::TuberiaPrueba(const QString& r) : ruta(r) {
+    const QByteArray nativa = QFile::encodeName(ruta);
+    if (mkfifo(nativa.constData(), 0600) != 0) ADD_FAILURE() << "no se puede crear la tubería " << nativa.constData();
+    escritor_ = std::thread([this, nativa] {
+        while (!fin_) {
+            // Fails while nobody reads; once a reader waits, it gets its end.
+            const int fd = open(nativa.constData(), O_WRONLY | O_NONBLOCK);
+            if (fd >= 0) close(fd);
+            usleep(20000);
+        }
+    });
+}
+
+TuberiaPrueba::~TuberiaPrueba() {
+    fin_ = true;
+    escritor_.join();
 }

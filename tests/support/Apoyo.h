@@ -7,10 +7,12 @@
 
 #include <QStringList>
 #include <QTemporaryDir>
+#include <atomic>
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
 #include <ostream>
+#include <thread>
 #include <vector>
 
 // Texts in test failures read as text.
@@ -97,3 +99,17 @@ bool EjecutarSql(const QString& ruta, const QString& sql);
 // fills the outputs.
 int EjecutarPrograma(const QStringList& args, QString* salida = nullptr, QString* errores = nullptr,
                      const QStringList& entorno = {});
+
+// A named pipe at `ruta`, standing for any file that is not a regular one.
+// While it lives, a writer keeps opening and closing its other end, so that
+// a reader that waits on it sees an end of file instead of hanging the test.
+class TuberiaPrueba {
+public:
+    explicit TuberiaPrueba(const QString& ruta);
+    ~TuberiaPrueba();
+    const QString ruta;
+
+private:
+    std::atomic<bool> fin_{false};
+    std::thread escritor_;
+};

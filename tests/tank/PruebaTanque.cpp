@@ -1,5 +1,5 @@
 #include "analysis/ApoyoAnalisis.h"
-#include "analysis/CargaProyecto.h"
+#include "model/ArchivoEdificio.h"
 #include "tank/Hidroneumatico.h"
 #include "tank/Peerlees.h"
 #include "tank/ResultadosHidro.h"

@@ -55,18 +55,16 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
         pantalla.exec();
         break;
     }
-    case Pantalla::DatosAcueducto:
-        if (acu_) {
-            VentanaDatosAcueducto pantalla(*acu_, s_, d_, ventana_);
-            pantalla.exec();
-        }
+    case Pantalla::DatosAcueducto: {
+        VentanaDatosAcueducto pantalla(acu_, s_, d_, ventana_);
+        pantalla.exec();
         break;
-    case Pantalla::AnalisisACU:
-        if (acu_) {
-            VentanaAnalisisACU pantalla(*acu_, s_, d_, ventana_);
-            pantalla.exec();
-        }
+    }
+    case Pantalla::AnalisisACU: {
+        VentanaAnalisisACU pantalla(acu_, s_, d_, ventana_);
+        pantalla.exec();
         break;
+    }
     default:
         break;
     }

@@ -13,10 +13,9 @@ struct Sesion;
 
 class PantallasEscritorio : public Pantallas {
 public:
-    PantallasEscritorio(Sesion& s, ProyectoEdificio& p, Dialogos& d) : s_(s), p_(p), d_(d) {}
+    PantallasEscritorio(Sesion& s, ProyectoEdificio& p, ProyectoAcueducto& acu, Dialogos& d)
+        : s_(s), p_(p), acu_(acu), d_(d) {}
     void PonerVentana(QWidget* ventana) { ventana_ = ventana; }
-    // The aqueduct network the aqueduct screens work on (the main window's).
-    void PonerAcueducto(ProyectoAcueducto* acueducto) { acu_ = acueducto; }
 
     bool Disponible(Pantalla p) const override;
     void Mostrar(Pantalla p) override;
@@ -24,7 +23,7 @@ public:
 private:
     Sesion& s_;
     ProyectoEdificio& p_;
+    ProyectoAcueducto& acu_;
     Dialogos& d_;
     QWidget* ventana_ = nullptr;
-    ProyectoAcueducto* acu_ = nullptr;
 };

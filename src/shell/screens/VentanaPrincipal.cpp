@@ -75,8 +75,9 @@ QIcon IconoHerramienta(const QString& id) {
 
 }  // namespace
 
-VentanaPrincipal::VentanaPrincipal(Sesion& s, ProyectoEdificio& p, Dialogos& d, Pantallas& pantallas, QWidget* padre)
-    : QMainWindow(padre), s_(s), logica_(s, p, d, pantallas) {
+VentanaPrincipal::VentanaPrincipal(Sesion& s, ProyectoEdificio& p, ProyectoAcueducto& acu, Dialogos& d,
+                                   Pantallas& pantallas, QWidget* padre)
+    : QMainWindow(padre), s_(s), logica_(s, p, acu, d, pantallas) {
     setObjectName(QStringLiteral("MenuPrincipal"));
     setWindowIcon(IconoPrograma());
     tip_ = new NivoToolTip(this);

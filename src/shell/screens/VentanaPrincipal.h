@@ -20,7 +20,8 @@ class Dialogos;
 class VentanaPrincipal : public QMainWindow {
     Q_OBJECT
 public:
-    VentanaPrincipal(Sesion& s, ProyectoEdificio& p, Dialogos& d, Pantallas& pantallas, QWidget* padre = nullptr);
+    VentanaPrincipal(Sesion& s, ProyectoEdificio& p, ProyectoAcueducto& acu, Dialogos& d, Pantallas& pantallas,
+                     QWidget* padre = nullptr);
 
     // The start wound around the session's: tips and caption, the session's
     // start, the menus of the first mode, the banner, the wallpaper, the size.
