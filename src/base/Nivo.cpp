@@ -41,22 +41,19 @@ Separadores& SeparadoresActuales() {
     return sep;
 }
 
-Separadores SeparadoresDelSistema() {
-    const QLocale loc = QLocale::system();
-    QLocale conGrupos(loc);
-    conGrupos.setNumberOptions(QLocale::DefaultNumberOptions);
-    const QString s = conGrupos.toString(1234.56, 'f', 2);
+Separadores SeparadoresDelSistema(const QLocale& locale) {
+    // The marks are those the locale writes 1234.56 with, which is why they
+    // are learnt at start; they are asked of the locale itself, as many
+    // locales leave a four-digit number without a thousands mark.
     Separadores sep;
-    // "1,234.56": position 2 holds the thousands separator, position 6 the decimal one.
-    if (s.size() >= 7) {
-        sep.miles = s[1];
-        sep.decimal = s[5];
-    } else {
-        sep.decimal = loc.decimalPoint().isEmpty() ? QLatin1Char('.') : loc.decimalPoint()[0];
-        sep.miles = sep.decimal == QLatin1Char(',') ? QLatin1Char('.') : QLatin1Char(',');
-    }
+    const QString decimal = locale.decimalPoint(), miles = locale.groupSeparator();
+    if (decimal.size() == 1) sep.decimal = decimal[0];
+    if (miles.size() == 1) sep.miles = miles[0];
+    else sep.miles = sep.decimal == QLatin1Char(',') ? QLatin1Char('.') : QLatin1Char(',');
     return sep;
 }
+
+Separadores SeparadoresDelSistema() { return SeparadoresDelSistema(QLocale::system()); }
 
 QString Formato(double valor, const QString& mascara) {
     return Formato(valor, mascara, SeparadoresActuales());

@@ -6,6 +6,8 @@
 #include <QDate>
 #include <QString>
 
+class QLocale;
+
 // Rounds half away from zero to `decimales` places.  A scaled value that lies
 // within a few units of the last place of a half is taken as the half, so
 // that 2.675 (2.67499999... in binary) rounds to 2.68 as typed.
@@ -25,7 +27,8 @@ struct Separadores {
 };
 // Separators in force for the formats below (set once by the start-up).
 Separadores& SeparadoresActuales();
-// The separators of the system locale, found by formatting 1234.56.
+// The marks a locale writes 1234.56 with, and those of the system locale.
+Separadores SeparadoresDelSistema(const QLocale& locale);
 Separadores SeparadoresDelSistema();
 
 // Number formats of the older runtime: "#,##0.00", "0.00", "0.000", "0",

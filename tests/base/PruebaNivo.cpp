@@ -5,6 +5,7 @@
 #include "base/Nivo.h"
 #include "support/Apoyo.h"
 
+#include <QLocale>
 #include <gtest/gtest.h>
 
 TEST(RoundNivo, MitadSeAlejaDeCero) {
@@ -61,6 +62,29 @@ TEST(Formato, MascarasConSeparadoresDeLaSesion) {
     EXPECT_EQ(g.Texto(1, 1), QStringLiteral("0.1235"));
     g.PonerNumero(1, 1, 7.5, 0);
     EXPECT_EQ(g.Texto(1, 1), QStringLiteral("8"));
+}
+
+TEST(Formato, LasMarcasSonLasDelLocale) {
+    // Spain writes 1234.56 as "1234,56": its thousands mark shows only from
+    // five digits on, yet it is '.'.  Mexico writes "1,234.56"; Venezuela,
+    // Argentina and Colombia "1.234,56"; C "1234.56" with ',' for groups.
+    const struct {
+        const char* locale;
+        char decimal, miles;
+        const char* miles2, *fraccion3, *flujo;  // 1234.56 "#,##0.00", 0.0617 "0.0000", 23 "0.00"
+    } casos[] = {
+        {"es_ES", ',', '.', "1.234,56", "0,0617", "23,00"}, {"es_MX", '.', ',', "1,234.56", "0.0617", "23.00"},
+        {"es_VE", ',', '.', "1.234,56", "0,0617", "23,00"}, {"es_AR", ',', '.', "1.234,56", "0,0617", "23,00"},
+        {"es_CO", ',', '.', "1.234,56", "0,0617", "23,00"}, {"C", '.', ',', "1,234.56", "0.0617", "23.00"},
+    };
+    for (const auto& c : casos) {
+        const Separadores sep = SeparadoresDelSistema(QLocale(QString::fromLatin1(c.locale)));
+        EXPECT_EQ(sep.decimal, QLatin1Char(c.decimal)) << c.locale;
+        EXPECT_EQ(sep.miles, QLatin1Char(c.miles)) << c.locale;
+        EXPECT_EQ(Formato(1234.56, QStringLiteral("#,##0.00"), sep), QString::fromLatin1(c.miles2)) << c.locale;
+        EXPECT_EQ(Formato(0.0617, QStringLiteral("0.0000"), sep), QString::fromLatin1(c.fraccion3)) << c.locale;
+        EXPECT_EQ(Formato(23.0, QStringLiteral("0.00"), sep), QString::fromLatin1(c.flujo)) << c.locale;
+    }
 }
 
 TEST(Formato, LeerNumeroAceptaLaFormaDeLaSesion) {
