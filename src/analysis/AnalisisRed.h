@@ -97,10 +97,13 @@ public:
     void EditarDiametroAsumido(int fila, const QString& texto);
 
     // Spread3 column 14 of row `fila`: the reducing valve (m).  Pressures are
-    // rerun and the value written to the file.  A text that is not a number is
-    // refused (false) and the cell shows the valve as it was.
+    // rerun and the value written to the file.  A text that is not a number,
+    // or reads two ways, is refused (false) with the reader's reason and the
+    // cell shows the valve as it was.
     bool EditarValvulaReductora(int fila, const QString& texto);
     void EditarValvulaReductora(int fila, double valor);
+    // A text the valve cell refused before any edit: the reader's reason.
+    void NumeroRechazado(const QString& texto);
 
     // LSButton2: asks, then makes every assumed size the theoretical one,
     // writes them, and reruns from the pre-sizing grid on.  True when done.

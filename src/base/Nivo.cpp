@@ -189,9 +189,11 @@ NumeroLeido LeerNumeroTecleado(const QString& texto, const Separadores& sep) {
             const QString signo = negativo ? QStringLiteral("-") : QString();
             const QString comoMiles = signo + grupos[0] + grupos[1] + exponente;
             const QString comoDecimal = signo + grupos[0] + sep.decimal + grupos[1] + exponente;
-            return Rechazo(QStringLiteral("El número \"%1\" puede leerse como %2 o como %3: escríbalo sin "
-                                          "separador de miles (%2) o con \"%4\" como separador decimal (%3).")
-                               .arg(t, comoMiles, comoDecimal, QString(sep.decimal)));
+            NumeroLeido r = Rechazo(QStringLiteral("El número \"%1\" puede leerse como %2 o como %3: escríbalo sin "
+                                                   "separador de miles (%2) o con \"%4\" como separador decimal (%3).")
+                                        .arg(t, comoMiles, comoDecimal, QString(sep.decimal)));
+            r.ambiguo = true;
+            return r;
         }
         if (decimal) {
             entero = grupos[0];

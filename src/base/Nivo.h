@@ -38,6 +38,7 @@ QString Formato(double valor, const QString& mascara, const Separadores& sep);
 // A typed number, or why the text was refused.
 struct NumeroLeido {
     bool valido = false;
+    bool ambiguo = false;  // a number, but read two ways
     double valor = 0.0;
     QString motivo;  // names the text and says how to write it
 };

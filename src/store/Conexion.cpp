@@ -85,7 +85,7 @@ double ComoDoble(const Valor& v) {
     if (!v.isValid() || v.isNull()) return 0.0;
     if (v.typeId() == QMetaType::QString) {
         double d = 0.0;
-        if (LeerNumero(v.toString(), d)) return d;
+        if (LeerNumeroGuardado(v.toString(), d)) return d;
         return 0.0;
     }
     return v.toDouble();
@@ -497,7 +497,7 @@ bool Registros::BuscarClave(const QString& criterio) {
     if (buscado.size() >= 2 && (buscado.startsWith(QLatin1Char('\'')) || buscado.startsWith(QLatin1Char('"'))))
         buscado = buscado.mid(1, buscado.size() - 2);
     double numero = 0.0;
-    const bool esNumero = LeerNumero(buscado, numero);
+    const bool esNumero = LeerNumeroGuardado(buscado, numero);
     auto coincide = [&](int fila) {
         const Valor& v = filas_[size_t(fila)][size_t(col)];
         if (!v.isValid() || v.isNull()) return false;

@@ -129,7 +129,7 @@ TEST_F(Verbos, TanqueSinProyecto) {
     EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1"), QStringLiteral("--caudal"),
                       QStringLiteral("diez")}),
               1);
-    EXPECT_TRUE(errores.contains(QStringLiteral("--caudal no es un número")));
+    EXPECT_TRUE(errores.contains(QStringLiteral("--caudal: \"diez\" no es un número")));
     EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("2"), QStringLiteral("--pmax"),
                       QStringLiteral("-10"), QStringLiteral("--json")}),
               3);

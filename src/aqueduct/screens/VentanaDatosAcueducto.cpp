@@ -78,6 +78,7 @@ VentanaDatosAcueducto::VentanaDatosAcueducto(ProyectoAcueducto& p, Sesion& s, Di
     MostrarValores();
     Refrescar();
     InstalarAyudas(this, tip_, s_.Tapiz, AyudasDatosAcueducto());
+    AvisarNumerosRechazados(this, d_);
 }
 
 VentanaDatosAcueducto::~VentanaDatosAcueducto() {
@@ -220,8 +221,8 @@ QWidget* VentanaDatosAcueducto::Pagina2() {
     spread1_->setContextMenuPolicy(Qt::CustomContextMenu);
     capa->addWidget(spread1_, 1);
     spread1_->AlEditar([this](int f, int c, const QString& t) { EditarCelda(1, f, c, t); });
-    spread1_->Modelo().alRechazar = [this](int, int c, const QString&) {
-        Accion([&] { logica_.NumeroRechazado(1, c); });
+    spread1_->Modelo().alRechazar = [this](int, int c, const QString& t) {
+        Accion([&] { logica_.NumeroRechazado(1, c, t); });
     };
     connect(spread1_, &VistaGrid::BloqueSeleccionado, this,
             [this](int f1, int f2, int c1, int c2) {
@@ -243,6 +244,9 @@ QWidget* VentanaDatosAcueducto::Pagina3() {
     spread2_->horizontalHeader()->setStretchLastSection(true);
     capa->addWidget(spread2_, 1);
     spread2_->AlEditar([this](int f, int c, const QString& t) { EditarCelda(2, f, c, t); });
+    spread2_->Modelo().alRechazar = [this](int, int c, const QString& t) {
+        Accion([&] { logica_.NumeroRechazado(2, c, t); });
+    };
     connect(spread2_, &VistaGrid::BloqueSeleccionado, this,
             [this](int f1, int f2, int c1, int c2) {
                 Accion([&] { logica_.LlenarBloque(2, f1, f2, c1, c2); });
@@ -401,6 +405,7 @@ void VentanaDatosAcueducto::AbrirLongitudes() {
     Accion([this] { logica_.Longitudes(); });
     if (logica_.Spread1.Filas() == 0) return;
     VentanaLongitudTramosAcu longitudes(logica_, [this] { Refrescar(); }, this);
+    AvisarNumerosRechazados(&longitudes, d_);
     longitudes.exec();
     Refrescar();
 }

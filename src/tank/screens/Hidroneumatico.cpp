@@ -56,6 +56,7 @@ Hidroneumatico::Hidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWid
     PonerCentrado(this, capa);
 
     ConfigurarToolTips(this, tip_, s_.Tapiz);
+    AvisarNumerosRechazados(this, d_);
     setWindowTitle(logica_.Caption);
     Mostrar();
 }
