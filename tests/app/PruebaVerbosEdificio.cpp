@@ -82,6 +82,20 @@ TEST_F(Verbos, TextoYGrids) {
         EXPECT_TRUE(salida.contains(QString::fromUtf8(t))) << t;
 }
 
+TEST_F(Verbos, LosGridsSiguenLasMarcasDelLocaleYElJsonLaFormaC) {
+    // Branch 1 of the elevated-tank house carries 23 units, 1.03 l/s (worked
+    // in the analysis screen's test); Spain writes them "23,00" and "1,03".
+    const QString archivo = Copia("Vivienda con Tanque Elevado");
+    const QStringList entorno = {QStringLiteral("FONTARIA_DATOS=") + sp.s.DirectorioDatos,
+                                 QStringLiteral("LC_ALL=es_ES.UTF-8"), QStringLiteral("LANG=es_ES.UTF-8")};
+    ASSERT_EQ(EjecutarPrograma({QStringLiteral("analizar"), archivo, QStringLiteral("--grids")}, &salida, &errores, entorno), 0);
+    EXPECT_TRUE(salida.contains(QStringLiteral("\n1|TANQUE|N1|23,00|1,03|"))) << salida.left(600).toStdString();
+    ASSERT_EQ(EjecutarPrograma({QStringLiteral("analizar"), archivo, QStringLiteral("--json")}, &salida, &errores, entorno), 0);
+    const QJsonObject primero = Json()[QStringLiteral("ramales")].toArray()[0].toObject();
+    EXPECT_DOUBLE_EQ(primero[QStringLiteral("UnidadesAcumuladas")].toDouble(), 23.0);
+    EXPECT_FALSE(salida.contains(QStringLiteral("1,03")));
+}
+
 TEST_F(Verbos, ErrorDeNumeracionSaleConDos) {
     const QString archivo = Copia("Edificio_ApartamentoTipo");
     EjecutarSql(archivo, QStringLiteral("UPDATE DatosRamales SET Nodoj=NodoI WHERE Numero=3"));
