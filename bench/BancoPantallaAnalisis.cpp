@@ -11,7 +11,7 @@
 
 #include "ProyectoGenerado.h"
 #include "analysis/Numeracion.h"
-#include "analysis/screens/AnalisisRed.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
 #include "widgets/NivoTab.h"
 #include "widgets/VistaGrid.h"
 

@@ -23,9 +23,14 @@
 // analysis and on every edit of them, the reduction texts (Reduccion), and
 // the reducing valves (ValvulaR).  Each of those writes is one transaction.
 //
+// The class lives in four files: AnalisisRed.cpp (load, chain, open),
+// RejillasAnalisis.cpp (the grids), EdicionesAnalisis.cpp (the edits that
+// reach the file) and AlturaTanque.cpp (the tank-height box).
+//
 // A run-time fault of the chain (a zero velocity, a size outside the table
 // in a hand-edited file, a project at the 16-bit limit) leaves the function
-// as ErrorEjecucion; the caller shows it and keeps the project.
+// as ErrorEjecucion, naming the branch where it arose when the routine knew
+// it; the caller shows it and keeps the project.
 
 #include "base/Arreglo.h"
 #include "base/Grid.h"
@@ -73,6 +78,14 @@ public:
     double Double1 = 0.0;        // the tank-height box
     bool Frame3Visible = false;  // the box's frame, only with OpcionPresionInicial 2
     QString SSPanel1;            // the number of branches
+    // The rest of the status panel, seen on every tab: the nodes Spread3
+    // shows with a pressure below zero (red when any), and a red line while
+    // the network has a numbering error, so that no figure of the grids
+    // passes for a good one.
+    int NodosPresionNegativa() const;
+    // "Nodos con presión negativa: 3"; empty while no pressures were computed.
+    QString TextoPresionNegativa() const;
+    QString AvisoErrorRed() const;         // empty when the network is sound
     QString Caption;
     int Tab = 1;                 // 1..4
     bool LSButton2Disponible() const { return Tab == 1; }
@@ -100,8 +113,12 @@ public:
     // rerun and the value written to the file.  A text that is not a number,
     // or reads two ways, is refused (false) with the reader's reason and the
     // cell shows the valve as it was.
+    //
+    // The valve and the two tank buttons need the pressures of a whole chain:
+    // when the last run stopped (a fault of the network or of the
+    // calculation) they say so and change nothing.
     bool EditarValvulaReductora(int fila, const QString& texto);
-    void EditarValvulaReductora(int fila, double valor);
+    bool EditarValvulaReductora(int fila, double valor);
     // A text the valve cell refused before any edit: the reader's reason.
     void NumeroRechazado(const QString& texto);
 
@@ -141,16 +158,24 @@ public:
     void ColoquePerdidasPresiones();
 
 private:
-    void ColoresPredimensionado(int fila);
+    // Spread4 columns 7 and 8 of a row, with their colours; Spread3 column 14.
+    void ColoqueDiametroAsumido(int fila);
+    void ColoqueValvula(int fila);
     void EscribirCampoRamal(const char* columna, int ramal, const QString& texto);
     void EscribirCampoRamal(const char* columna, int ramal, double valor);
     void VaciarGrids();
+    // The chain from the lengths on (tabs 3 and 4), after a change of size;
+    // false when the lengths stopped at a fault shown to the engineer.
+    bool RehacerPerdidas();
     // Verification and chain after a new load (open, return from the editor).
     void Reconstruir();
     void PonerCaption(bool desdeEstaPantalla);
+    // True when the last run of the chain reached the pressures; else says
+    // that they cannot be computed.
+    bool PresionesCalculadas();
 
     ProyectoEdificio& p_;
     Sesion& s_;
     Dialogos& d_;
-    bool cadenaCompleta_ = false;
+    bool cadenaCompleta_ = false;  // the last run reached the pressures
 };

@@ -17,9 +17,15 @@ QString MensajeNodoDesconectado(int ramal, const QString& nodoI) {
            QStringLiteral(" )\n¡Este Nodo está Desconectado!\nDebe Corregir el Error para Realizar el Análisis...");
 }
 
+QString LugarDeRamal(const ProyectoEdificio& p, int ramal) {
+    return LugarRamal(ramal, p.NodoI[ramal], p.Nodoj[ramal]);
+}
+
 void ReportarNodoDesconectado(ProyectoEdificio& p, Dialogos& d, int ramal) {
-    d.MostrarMensaje(MensajeNodoDesconectado(ramal, p.NodoI[ramal]), EncabezadoErrorNumeracion(),
-                     TituloProyectoFontaria());
+    // The chain that runs on after a refused numbering meets the same node.
+    if (p.ErrorNumeracion == 0)
+        d.MostrarMensaje(MensajeNodoDesconectado(ramal, p.NodoI[ramal]), EncabezadoErrorNumeracion(),
+                         TituloProyectoFontaria());
     p.ErrorNumeracion = 1;
 }
 

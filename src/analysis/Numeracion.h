@@ -21,5 +21,9 @@ QString MensajeErrorNumeracion(int ramal, const QString& nodoI, const QString& n
 QString MensajeNodoDesconectado(int ramal, const QString& nodoI);
 QString EncabezadoErrorNumeracion();
 
-// Shows the disconnection of the node NodoI of `ramal` and raises the flag.
+// Where a fault of the calculation of branch `ramal` arose, by its nodes.
+QString LugarDeRamal(const ProyectoEdificio& p, int ramal);
+
+// Shows the disconnection of the node NodoI of `ramal` and raises the flag;
+// a network whose flag is already up has had its message.
 void ReportarNodoDesconectado(ProyectoEdificio& p, Dialogos& d, int ramal);

@@ -1,6 +1,7 @@
 #include "analysis/Predimensionado.h"
 
 #include "analysis/EscrituraRamales.h"
+#include "analysis/Numeracion.h"
 #include "base/Nivo.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
@@ -44,23 +45,29 @@ void UbicarDiametro(ProyectoEdificio& p, int ramal, double diametro, double meno
     if (p.DiametroCalculo[ramal] == 0.5 && p.DiametroMinimo) p.DiametroCalculo[ramal] = 0.75;
 }
 
+namespace {
+
+void PredimensionarRamal(ProyectoEdificio& p, int i) {
+    const double area = Dividir(p.Gasto[i] / 1000.0, p.Velocidad);
+    const double d = 2.0 * RaizCuadrada(area / Pi);
+    if (d < 0.0184) p.DiametroCalculo[i] = p.DiametroMinimo ? 0.75 : 0.5;
+    bool encontrado = false;
+    for (const Tramo& t : Tramos) {
+        UbicarDiametro(p, i, d, t.menor, t.mayor, t.inferior, t.superior, encontrado);
+        if (encontrado) break;
+    }
+    if (!encontrado && d >= 0.3058) p.DiametroCalculo[i] = 12.0;  // nothing larger exists
+    FijarDiametro(p, i, false);
+}
+
+}  // namespace
+
 void CalcularPredimensionado(ProyectoEdificio& p) {
     const int n = p.NumeroRamales;
     p.DiametroCalculo.Redim(n);
     p.DiametroCalculoTexto.Redim(n);
     p.VelocidadCalculo.Redim(n);
-    for (int i = 1; i <= n; ++i) {
-        const double area = Dividir(p.Gasto[i] / 1000.0, p.Velocidad);
-        const double d = 2.0 * RaizCuadrada(area / Pi);
-        if (d < 0.0184) p.DiametroCalculo[i] = p.DiametroMinimo ? 0.75 : 0.5;
-        bool encontrado = false;
-        for (const Tramo& t : Tramos) {
-            UbicarDiametro(p, i, d, t.menor, t.mayor, t.inferior, t.superior, encontrado);
-            if (encontrado) break;
-        }
-        if (!encontrado && d >= 0.3058) p.DiametroCalculo[i] = 12.0;  // nothing larger exists
-        FijarDiametro(p, i, false);
-    }
+    for (int i = 1; i <= n; ++i) EnLugar([&] { PredimensionarRamal(p, i); }, [&] { return LugarDeRamal(p, i); });
 }
 
 void FijarDiametro(ProyectoEdificio& p, int ramal, bool asumido) {

@@ -1,6 +1,7 @@
 #include "analysis/Presiones.h"
 
 #include "analysis/IndiceNombres.h"
+#include "analysis/Numeracion.h"
 #include "analysis/Predimensionado.h"
 #include "base/Nivo.h"
 #include "model/ProyectoEdificio.h"
@@ -39,8 +40,26 @@ void NodoDesfavorableDelBarrido(ProyectoEdificio& p) {
         }
 }
 
+void PerdidasDelRamal(ProyectoEdificio& p, int i) {
+    const double q = p.Gasto[i];
+    double d = 0.0;
+    DiametroInterior(p.DiametroAsumido[i], d);
+    p.VelocidadAsumida[i] = d > 0.0 ? VelocidadEn(q, p.DiametroAsumido[i]) : 0.0;
+    p.PerdidaUnitaria[i] = PerdidaUnitariaDe(p, q, p.DiametroAsumido[i]);
+    p.PerdidaRamal[i] = RoundNivo((p.LongitudEquivalenteRamal[i] + p.longitudReal[i]) * p.PerdidaUnitaria[i], 2);
+}
+
 double PerdidaDelMontante(const ProyectoEdificio& p, double altura) {
     return RoundNivo((altura + p.LongitudEquivalenteRamal[1]) * p.PerdidaUnitaria[1], 2);
+}
+
+// The riser takes the height as its length, with its loss; the first node
+// stands at that level.
+void FijarAlturaTanque(ProyectoEdificio& p, double altura) {
+    p.longitudReal[1] = altura;
+    p.PerdidaRamal[1] = PerdidaDelMontante(p, altura);
+    p.CotaRelativa[p.NodoNumI[1]] = altura;
+    p.CargaOrigen = 0.0;
 }
 
 void TanqueElevado(ProyectoEdificio& p) {
@@ -65,10 +84,7 @@ void TanqueElevado(ProyectoEdificio& p) {
             if (vuelta > 1 && p.PerdidaUnitaria[1] >= 1.0)
                 throw ErrorEjecucion(Error::Desbordamiento, QStringLiteral("altura del tanque elevado"));
         }
-        p.longitudReal[1] = t;
-        p.PerdidaRamal[1] = PerdidaDelMontante(p, t);
-        p.CotaRelativa[p.NodoNumI[1]] = t;
-        p.CargaOrigen = 0.0;
+        FijarAlturaTanque(p, t);
     }
 }
 
@@ -133,6 +149,12 @@ double SumaTrayecto(const ProyectoEdificio& p, int w, double* sinPrimero) {
     return s;
 }
 
+void PresionesConAlturaFija(ProyectoEdificio& p, double h) {
+    FijarAlturaTanque(p, h);
+    // The worst branch and its path sum change nothing shown with a tank.
+    BarridoPresiones(p, 0.0, 2);
+}
+
 void CalcularPresiones(ProyectoEdificio& p) {
     const int n = p.NumeroRamales;
     const int ultimo = p.NumeroRamales + 1;
@@ -143,14 +165,7 @@ void CalcularPresiones(ProyectoEdificio& p) {
     p.PerdidaRamal.Redim(n);
     p.PerdidaUnitaria.Redim(n);
 
-    for (int i = 1; i <= n; ++i) {
-        const double q = p.Gasto[i];
-        double d = 0.0;
-        DiametroInterior(p.DiametroAsumido[i], d);
-        p.VelocidadAsumida[i] = d > 0.0 ? VelocidadEn(q, p.DiametroAsumido[i]) : 0.0;
-        p.PerdidaUnitaria[i] = PerdidaUnitariaDe(p, q, p.DiametroAsumido[i]);
-        p.PerdidaRamal[i] = RoundNivo((p.LongitudEquivalenteRamal[i] + p.longitudReal[i]) * p.PerdidaUnitaria[i], 2);
-    }
+    for (int i = 1; i <= n; ++i) EnLugar([&] { PerdidasDelRamal(p, i); }, [&] { return LugarDeRamal(p, i); });
     NumerosDelBarrido(p);
 
     switch (p.OpcionPresionInicial) {

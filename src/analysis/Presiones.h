@@ -23,3 +23,9 @@ int RamalDesfavorable(const ProyectoEdificio& p);
 // The losses from the origin to the far end of branch `w`.  `sinPrimero`
 // receives the same sum before branch 1 is looked at (0 when `w` is 1).
 double SumaTrayecto(const ProyectoEdificio& p, int w, double* sinPrimero = nullptr);
+
+// The pressures with the elevated tank at the height `h` fixed by hand: the
+// riser (branch 1) takes that length and its loss, the first node that level,
+// and one sweep from 0 m by the rule of option 2 follows.  Needs the losses of
+// a run of CalcularPresiones.
+void PresionesConAlturaFija(ProyectoEdificio& p, double h);

@@ -6,7 +6,7 @@
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/PantallasEscritorio.h"
 #include "shell/screens/VentanaPrincipal.h"
-#include "shell/screens/frmMsgBox.h"
+#include "shell/screens/VentanaMsgBox.h"
 
 #include <QApplication>
 #include <QLibraryInfo>

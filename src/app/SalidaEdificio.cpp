@@ -61,6 +61,7 @@ int FallaDeCalculo(const ErrorEjecucion& e, bool json) {
         error[QStringLiteral("numero")] = e.numero();
         error[QStringLiteral("descripcion")] = e.descripcion();
         if (!e.detalle().isEmpty()) error[QStringLiteral("detalle")] = e.detalle();
+        if (!e.lugar().isEmpty()) error[QStringLiteral("lugar")] = e.lugar();
         QJsonObject o;
         o[QStringLiteral("error")] = error;
         ImprimirJson(o);

@@ -107,7 +107,7 @@ int Analizar(const Opciones& o) {
     p.ErrorAnalisis = 0;
     AnalizarMalla(p, s);
     auto falla = [&] {
-        return Terminar(o, p, MensajeErrorAnalisis(s.NombreProyectoACU) + QLatin1Char('\n') + p.DetalleError,
+        return Terminar(o, p, MensajeErrorAnalisis(s.NombreProyectoACU, p.DetalleError),
                         Salida::ErrorCalculo);
     };
     if (p.ErrorAnalisis == 1) return falla();

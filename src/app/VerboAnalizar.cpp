@@ -45,12 +45,12 @@ QJsonObject RamalComoJson(const ProyectoEdificio& p, int i) {
     return r;
 }
 
-QJsonObject ResultadosComoJson(const ProyectoEdificio& p, const QString& mensaje, bool conResultados) {
+QJsonObject ResultadosComoJson(const ProyectoEdificio& p, const QString& mensaje, const AnalisisRed* a = nullptr) {
     QJsonObject o;
     o[QStringLiteral("NumeroRamales")] = int(p.NumeroRamales);
     o[QStringLiteral("ErrorNumeracion")] = int(p.ErrorNumeracion);
     o[QStringLiteral("mensaje")] = mensaje.isEmpty() ? QJsonValue() : QJsonValue(mensaje);
-    if (!conResultados) return o;
+    if (!a) return o;
     QJsonArray ramales;
     for (int i = 1; i <= p.NumeroRamales; ++i) ramales.append(RamalComoJson(p, i));
     o[QStringLiteral("ramales")] = ramales;
@@ -62,6 +62,7 @@ QJsonObject ResultadosComoJson(const ProyectoEdificio& p, const QString& mensaje
     o[QStringLiteral("NodoDesfaborable")] = p.NodoDesfaborable;
     o[QStringLiteral("NodoDesfaborableNombre")] = p.NodoDesfaborableNombre;
     o[QStringLiteral("PresionDesfaborable")] = p.PresionDesfaborable;
+    o[QStringLiteral("NodosPresionNegativa")] = a->NodosPresionNegativa();
     return o;
 }
 
@@ -89,6 +90,7 @@ void ImprimirResultados(const ProyectoEdificio& p, const AnalisisRed& a) {
     }
     t += QStringLiteral("Nodo desfavorable: %1, presión (m): %2\n")
              .arg(p.NodoDesfaborableNombre, Numero(p.PresionDesfaborable));
+    if (!a.TextoPresionNegativa().isEmpty()) t += a.TextoPresionNegativa() + QLatin1Char('\n');
     Imprimir(t);
 }
 
@@ -118,17 +120,17 @@ int VerboAnalizar(const QStringList& args) {
             p.ErrorNumeracion = 0;
             VerificarNumeracion(p, d);
             if (p.ErrorNumeracion != 0) {
-                if (json) ImprimirJson(ResultadosComoJson(p, d.ultimoTexto, false));
+                if (json) ImprimirJson(ResultadosComoJson(p, d.ultimoTexto));
                 return Salida::DatosInvalidos;
             }
         }
         AnalisisRed analisis(p, c.s, d);
         analisis.Cargar();
         if (p.ErrorNumeracion != 0) {
-            if (json) ImprimirJson(ResultadosComoJson(p, d.ultimoTexto, false));
+            if (json) ImprimirJson(ResultadosComoJson(p, d.ultimoTexto));
             return Salida::DatosInvalidos;
         }
-        if (json) ImprimirJson(ResultadosComoJson(p, QString(), true));
+        if (json) ImprimirJson(ResultadosComoJson(p, QString(), &analisis));
         else if (a.Tiene(QStringLiteral("grids"))) ImprimirGrids(analisis);
         else ImprimirResultados(p, analisis);
     } catch (const ErrorEjecucion& e) {

@@ -12,7 +12,7 @@ int VerboComputos(const QStringList& args) {
     ContextoVerbo c(json);
     if (!c.Cargar(a.archivo)) return Salida::Falla;
 
-    PantallaComputos pantalla(c.p, c.s, c.d);
+    Computos pantalla(c.p, c.s, c.d);
     try {
         // The verification runs as the command runs it; its flag is not looked at.
         VerificarNumeracion(c.p, c.d);
@@ -34,7 +34,7 @@ int VerboComputos(const QStringList& args) {
     }
     QString t = pantalla.Caption + QLatin1Char('\n');
     for (int k = 0; k < 4; ++k) {
-        t += QStringLiteral("\n== ") + Computos::TituloPagina(k + 1) + QStringLiteral(" ==\n");
+        t += QStringLiteral("\n== ") + PaginasComputos::TituloPagina(k + 1) + QStringLiteral(" ==\n");
         for (int f = 1; f <= paginas[k]->Filas(); ++f)
             t += paginas[k]->Texto(f, 1) + QStringLiteral(" | ") + paginas[k]->Texto(f, 2) + QLatin1Char('\n');
     }

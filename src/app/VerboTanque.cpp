@@ -2,7 +2,7 @@
 #include "app/SalidaEdificio.h"
 #include "base/ErrorEjecucion.h"
 #include "base/Nivo.h"
-#include "tank/Hidroneumatico.h"
+#include "tank/ResultadosHidro.h"
 
 #include <cmath>
 
@@ -56,10 +56,17 @@ QJsonObject EntradasComoJson(const DatosTanque& t) {
     return o;
 }
 
+// A refusal of the data, for a reader of the JSON output.
+void ImprimirMensajeJson(const QString& texto) {
+    QJsonObject o;
+    o[QStringLiteral("mensaje")] = texto;
+    ImprimirJson(o);
+}
+
 const char* const NombresResultados[7] = {"QB", "VolumenTotal", "VolumenMinimo", "VolumenUtil",
                                           "VolumenMaximo", "PotenciaBomba", "PotenciaMotor"};
 
-void ImprimirTanque(const DatosTanque& t, const PantallaResultadosHidro& r, bool json) {
+void ImprimirTanque(const DatosTanque& t, const ResultadosHidro& r, bool json) {
     const ResultadoTanque& v = r.Resultado;
     const double numeros[7] = {v.QB, v.VolumenTotal, v.VolumenMinimo, v.VolumenUtil,
                                v.VolumenMaximo, v.PotenciaBomba, v.PotenciaMotor};
@@ -83,7 +90,7 @@ void ImprimirTanque(const DatosTanque& t, const PantallaResultadosHidro& r, bool
         return;
     }
     QString s = QStringLiteral("RESULTADOS DE CÁLCULO DEL TANQUE HIDRONEUMÁTICO\n") + r.Marco + QLatin1Char('\n');
-    const QStringList etiquetas = PantallaResultadosHidro::Etiquetas();
+    const QStringList etiquetas = ResultadosHidro::Etiquetas();
     for (int k = 0; k < 7; ++k) s += etiquetas[k] + QLatin1Char(' ') + r.Valores[k] + QLatin1Char('\n');
     s += QStringLiteral("Volumenes de Agua en Porcentaje\n");
     s += QStringLiteral("Volumen Mínimo: ") + r.PorcentajeMinimo + QLatin1Char('\n');
@@ -112,11 +119,7 @@ int VerboTanque(const QStringList& args) {
         if (!a.archivo.isEmpty()) {
             if (!c.Cargar(a.archivo)) return Salida::Falla;
             if (p.OpcionPresionInicial == 0 && p.NumeroRamales >= 1 && !PrellenarDesdeProyecto(t, p, c.s, c.d)) {
-                if (json) {
-                    QJsonObject o;
-                    o[QStringLiteral("mensaje")] = c.d.ultimoTexto;
-                    ImprimirJson(o);
-                }
+                if (json) ImprimirMensajeJson(c.d.ultimoTexto);
                 return Salida::DatosInvalidos;
             }
         }
@@ -136,9 +139,14 @@ int VerboTanque(const QStringList& args) {
     // A minimum typed without a maximum takes the range of the pre-filling.
     if (a.Valor(QStringLiteral("pmax")).isNull() && !a.Valor(QStringLiteral("pmin")).isNull())
         t.PresionMaxima = t.PresionMinima + 14.0;
+    const QString rechazo = RechazoPresiones(t);
+    if (!rechazo.isEmpty()) {
+        if (json) ImprimirMensajeJson(rechazo);
+        return Fallar(rechazo, Salida::DatosInvalidos);
+    }
 
     try {
-        const PantallaResultadosHidro r(t);
+        const ResultadosHidro r(t);
         ImprimirTanque(t, r, json);
     } catch (const ErrorEjecucion& e) {
         return FallaDeCalculo(e, json);

@@ -23,9 +23,10 @@ QString MensajeSinTanque(const QString& nombreProyecto) {
            QStringLiteral("\n¡No se Puede Calcular la Malla sin la Existencia\nde al menos una Bomba ó un Estanque!");
 }
 
-QString MensajeErrorAnalisis(const QString& nombreProyecto) {
+QString MensajeErrorAnalisis(const QString& nombreProyecto, const QString& falla) {
     return QStringLiteral("Proyecto: ") + nombreProyecto +
-           QStringLiteral("\n¡Existe un Error al Realizar el Análisis de la Red!\nRevise los Datos del Proyecto...");
+           QStringLiteral("\n¡Existe un Error al Realizar el Análisis de la Red!\nRevise los Datos del Proyecto...") +
+           (falla.isEmpty() ? QString() : QStringLiteral("\n") + falla);
 }
 
 AnalisisACU::AnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos& d) : p_(p), s_(s), d_(d) {}
@@ -143,7 +144,7 @@ bool AnalisisACU::MostrarFalla() {
         cerrar = true;
     } else if (p_.ErrorAnalisis == 1) {
         Vaciar();
-        d_.MostrarMensaje(MensajeErrorAnalisis(s_.NombreProyectoACU),
+        d_.MostrarMensaje(MensajeErrorAnalisis(s_.NombreProyectoACU, p_.DetalleError),
                           QStringLiteral("Error al Realizar el Cálculo..."), TituloDatosAcueducto());
         cerrar = true;
     }

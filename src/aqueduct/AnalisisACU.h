@@ -105,5 +105,6 @@ private:
 
 // "Proyecto: NAME" and the line of the missing tank.
 QString MensajeSinTanque(const QString& nombreProyecto);
-// "Proyecto: NAME" and the lines of a failed solve.
-QString MensajeErrorAnalisis(const QString& nombreProyecto);
+// "Proyecto: NAME" and the lines of a failed solve, then the fault itself
+// (its number and the section where it arose) when given.
+QString MensajeErrorAnalisis(const QString& nombreProyecto, const QString& falla = QString());

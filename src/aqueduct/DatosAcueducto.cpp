@@ -9,6 +9,7 @@
 #include "shell/Sesion.h"
 
 #include <algorithm>
+#include <iterator>
 #include <cmath>
 
 namespace {
@@ -19,6 +20,10 @@ enum ColNodo { NNo, NNodo, NConsumo, NTerreno, NTanque, NConectados, NDireccion 
 const QString TituloFontaria = QStringLiteral("Proyecto de Fontaria");
 const QString EncabezadoRamales = QStringLiteral("Datos de los Ramales...");
 QString MensajeErrorNumero() { return QStringLiteral("Error en el Número..."); }
+
+// The data reports come with the reports of the program; till then the
+// button stays off.
+constexpr bool ReportesDeDatos = false;
 
 // A coefficient typed as a number becomes the 16-bit whole number the
 // column holds, halves to even as the older runtime assigned them.
@@ -155,8 +160,26 @@ void DatosAcueducto::ColoquePantalla() {
 
 DatosAcueducto::Habilitados DatosAcueducto::Botones() const {
     Habilitados h = botones_;
-    h.Reportes = Spread1.Filas() > 0;
+    h.Reportes = ReportesDeDatos && Spread1.Filas() > 0;
     return h;
+}
+
+DatosAcueducto::Estado DatosAcueducto::EstadoActual() const {
+    Estado e;
+    e.titulo = Titulo();
+    e.pagina = pagina_;
+    e.botones = Botones();
+    const QString textos[4] = {p_.Proyecto, p_.Calculista, p_.Cliente, p_.Comentario};
+    std::copy(std::begin(textos), std::end(textos), e.textos);
+    e.fecha = p_.Fecha.isValid() ? p_.Fecha : Hoy();
+    e.opcionConsumo = p_.OpcionConsumo;
+    e.opcionDiametro = p_.OpcionDiametro;
+    e.casoPorcentaje = p_.CasoPorcentaje;
+    const double numeros[4] = {p_.DeltaPorcentaje, p_.FactorQMax, p_.FactorIncendio, p_.LitrosIncendio};
+    std::copy(std::begin(numeros), std::end(numeros), e.numeros);
+    e.long1 = long1_;
+    e.long2 = long2_;
+    return e;
 }
 
 void DatosAcueducto::HabilitarPagina() {
@@ -164,6 +187,7 @@ void DatosAcueducto::HabilitarPagina() {
     botones_.Siguiente = pagina_ < 3;
     const bool ramales = pagina_ == 2;
     botones_.Insertar = botones_.Eliminar = botones_.Compatibilidad = botones_.Longitudes = ramales;
+    botones_.MenuRamales = ramales;
 }
 
 void DatosAcueducto::MarcarModificado() {
@@ -464,6 +488,15 @@ bool DatosAcueducto::EditarNodo(int fila, int columna, double valor) {
     return true;
 }
 
+bool DatosAcueducto::EditarCelda(int grid, int fila, int columna, const QString& texto) {
+    const Grid& g = grid == 1 ? Spread1 : Spread2;
+    if (fila < 1 || fila > g.Filas()) return false;
+    const bool numero = g.EsNumero(fila, columna);
+    if (grid == 1)
+        return numero ? EditarRamal(fila, columna, g.Valor(fila, columna)) : EditarRamal(fila, columna, texto);
+    return EditarNodo(fila, columna, g.Valor(fila, columna));
+}
+
 void DatosAcueducto::NumeroRechazado(int grid, int columna, const QString& texto) {
     double v = 0.0;
     if (!LeerNumeroOAvisar(d_, texto, v)) return;
@@ -472,28 +505,28 @@ void DatosAcueducto::NumeroRechazado(int grid, int columna, const QString& texto
                       MensajeErrorNumero(), TituloFontaria);
 }
 
-void DatosAcueducto::LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2) {
-    if (columna1 != columna2) return;
+bool DatosAcueducto::LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2) {
+    if (columna1 != columna2) return false;
     Grid& g = grid == 1 ? Spread1 : Spread2;
     const Aviso* aviso = AvisoBloque(grid, columna1);
-    if (!aviso || g.Filas() == 0 || g.Col(columna1).bloqueada) return;
+    if (!aviso || g.Filas() == 0 || g.Col(columna1).bloqueada) return false;
     const int desde = std::clamp(std::min(fila1, fila2), 1, g.Filas());
     const int hasta = std::clamp(std::max(fila1, fila2), 1, g.Filas());
     const auto respuesta = d_.PedirTexto(QString::fromUtf8(aviso->texto), QString::fromUtf8(aviso->titulo));
-    if (!respuesta || Trim(*respuesta).isEmpty()) return;
+    if (!respuesta || Trim(*respuesta).isEmpty()) return true;
     const NumeroLeido leido = LeerNumeroTecleado(*respuesta);
     if (leido.ambiguo) {
         MostrarNumeroRechazado(d_, leido.motivo);
-        return;
+        return true;
     }
     double v = leido.valor;
     int entero = 0;
     if (!leido.valido || (grid == 1 && columna1 == RC && !EnteroDe(RoundNivo(v, 3), entero))) {
         d_.MostrarMensaje(QStringLiteral("¡Debe Entrar un Número!"), MensajeErrorNumero(), TituloFontaria);
-        return;
+        return true;
     }
     v = RoundNivo(v, 3);
-    if (v == 0) return;
+    if (v == 0) return true;
     for (int f = desde; f <= hasta; ++f) {
         if (grid == 1)
             EscribirNumeroRamal(f, columna1, v);
@@ -502,6 +535,7 @@ void DatosAcueducto::LlenarBloque(int grid, int fila1, int fila2, int columna1, 
     }
     if (grid == 1) RecalculeNodos();
     MarcarModificado();
+    return true;
 }
 
 bool DatosAcueducto::SalvarArchivo() {
@@ -537,8 +571,9 @@ void DatosAcueducto::Abrir() {
     foco = Foco::PrimerControl;
 }
 
-void DatosAcueducto::Longitudes() {
-    if (Spread1.Filas() == 0) return;
+bool DatosAcueducto::Longitudes() {
+    if (Spread1.Filas() == 0) return false;
     SeleccionarCelda(Spread1, std::clamp(Spread1.FilaActiva(), 1, Spread1.Filas()), RLongitud);
     foco = Foco::Spread1;
+    return true;
 }

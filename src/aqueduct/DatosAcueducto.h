@@ -3,8 +3,8 @@
 // Acueducto"): the general data on page 1, the sections in Spread1 on page 2,
 // the nodes in Spread2 on page 3.  The Qt screen lays out the widgets, shows
 // the two grids and the values below, and forwards every user event to one
-// function here; after each call it reads the grids, the box values, the
-// enabled buttons and `foco` back.  Every question goes through Dialogos.
+// function here; after each call it draws the whole screen from Estado()
+// and the two grids, and takes `foco`.  Every question goes through Dialogos.
 //
 // Spread1 columns: 0 position, 1 "( I )", 2 "( J )", 3 "Longitud",
 // 4 "Diámetro", 5 "Hansen - William" (integer), 6 "Consumo" "lps".
@@ -30,10 +30,25 @@ public:
     enum class Foco { Ninguno, Long2, Spread1, Spread2, PrimerControl };
 
     // The buttons and boxes whose enabling changes.
+    // MenuRamales is the right-click menu of Spread1.
     struct Habilitados {
         bool Abrir = true, Salvar = true, Reportes = false, Insertar = false, Eliminar = false,
-             Compatibilidad = false, Longitudes = false, Anterior = false, Siguiente = true, Double1 = true;
+             Compatibilidad = false, Longitudes = false, Anterior = false, Siguiente = true, Double1 = true,
+             MenuRamales = false;
     };
+
+    // Everything the screen shows besides the grids, as it should show it now.
+    struct Estado {
+        QString titulo;
+        int pagina = 1;
+        Habilitados botones;
+        QString textos[4];  // Text1..Text4
+        QDate fecha;        // today when the project holds none
+        int opcionConsumo = 1, opcionDiametro = 1, casoPorcentaje = 1;
+        double numeros[4] = {};  // Double1..Double4
+        int long1 = 0, long2 = 0;
+    };
+    Estado EstadoActual() const;
 
     Grid Spread1;
     Grid Spread2;
@@ -51,7 +66,7 @@ public:
     void ColoquePantalla();
 
     int Pagina() const { return pagina_; }
-    // "Reportes" follows the rows of Spread1.
+    // "Reportes" follows the rows of Spread1, once the data reports exist.
     Habilitados Botones() const;
     Foco foco = Foco::Ninguno;
 
@@ -113,6 +128,9 @@ public:
     bool EditarRamal(int fila, int columna, double valor);
     bool EditarNodo(int fila, int columna, const QString& texto);
     bool EditarNodo(int fila, int columna, double valor);
+    // The report of a cell of grid 1 (Spread1) or 2 (Spread2): a number
+    // cell hands over the number it holds, as typed, not its rounded picture.
+    bool EditarCelda(int grid, int fila, int columna, const QString& texto);
     // A text a number cell refused: the reader's reason when it is not a
     // number or reads two ways, else the column's limits (the coefficient C
     // is a 16-bit whole number from 0); nothing changed.
@@ -121,8 +139,8 @@ public:
     // A block selected in one column of a grid (1 Spread1, 2 Spread2), rows
     // fila1..fila2: asks one value and writes it into every row of the block.
     // A block over two columns, or over a column without a prompt, asks
-    // nothing.
-    void LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2);
+    // nothing and stays selected, for copying.  True when a value was asked.
+    bool LlenarBloque(int grid, int fila1, int fila2, int columna1, int columna2);
 
     // "Salvar": RecalculeNodos and SalvarProyectoACU; sets ProyectoSalvado
     // when the screen was opened from the results screen.  A save that fails
@@ -136,9 +154,9 @@ public:
     // ProyectoSalvado for the results screen.
     bool PuedeCerrar();
 
-    // "Longitudes": moves to the length cell of the active row; the screen
-    // then opens the length dialog.
-    void Longitudes();
+    // "Longitudes": moves to the length cell of the active row.  True when
+    // the screen should then open the length dialog (the grid has rows).
+    bool Longitudes();
 
     ProyectoAcueducto& Proyecto() { return p_; }
     Sesion& Sesion_() { return s_; }

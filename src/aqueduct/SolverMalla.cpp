@@ -84,9 +84,13 @@ Tramos CoeficientesTramos(ProyectoAcueducto& p, double e) {
     t.k.resize(size_t(tramos) + 1);
     p.CoeficienteK.Redim(tramos);
     for (int s = 1; s <= tramos; ++s) {
-        const double d = DiametroMetros(p, s);
-        const double resistencia = Dividir(FactorHazen * p.LongitudCalculo[s], Potencia(d, ExponenteDiametro));
-        p.CoeficienteK[s] = Finito(int(p.CoeficienteC[s]) * Potencia(Dividir(1.0, resistencia), e));
+        EnLugar(
+            [&] {
+                const double d = DiametroMetros(p, s);
+                const double resistencia = Dividir(FactorHazen * p.LongitudCalculo[s], Potencia(d, ExponenteDiametro));
+                p.CoeficienteK[s] = Finito(int(p.CoeficienteC[s]) * Potencia(Dividir(1.0, resistencia), e));
+            },
+            [&] { return LugarRamal(s, p.Inicio[s], p.Final[s]); });
         t.i[size_t(s)] = p.NodosTramo(1, s);
         t.j[size_t(s)] = p.NodosTramo(2, s);
         t.k[size_t(s)] = p.CoeficienteK[s];

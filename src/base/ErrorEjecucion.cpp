@@ -4,9 +4,24 @@
 
 ErrorEjecucion::ErrorEjecucion(int numero, QString detalle)
     : numero_(numero), detalle_(std::move(detalle)) {
-    QString t = QStringLiteral("Error %1: %2").arg(numero_).arg(descripcion());
+    PonerLugar(QString());
+}
+
+void ErrorEjecucion::PonerLugar(const QString& lugar) {
+    if (lugar_.isEmpty()) lugar_ = lugar;
+    QString t = Mensaje();
     if (!detalle_.isEmpty()) t += QStringLiteral(" (") + detalle_ + QStringLiteral(")");
     texto_ = t.toStdString();
+}
+
+QString ErrorEjecucion::Mensaje() const {
+    QString t = QStringLiteral("Error %1: %2").arg(numero_).arg(descripcion());
+    if (!lugar_.isEmpty()) t += QStringLiteral(" en ") + lugar_ + QLatin1Char('.');
+    return t;
+}
+
+QString LugarRamal(int numero, const QString& nodoI, const QString& nodoJ) {
+    return QStringLiteral("el ramal %1 (%2 - %3)").arg(numero).arg(nodoI, nodoJ);
 }
 
 QString ErrorEjecucion::descripcion() const { return DescripcionDe(numero_); }

@@ -202,12 +202,12 @@ void Grid::PonerActiva(int fila, int columna) {
     ++version_;
 }
 
-void Grid::OrdenarPorTexto(int columna) {
+void Grid::OrdenarPorTexto(int columna, bool (*menor)(const QString&, const QString&)) {
     const size_t n = columnas_.size();
     std::vector<int> orden(static_cast<size_t>(filas_));
     std::iota(orden.begin(), orden.end(), 1);
     std::stable_sort(orden.begin(), orden.end(), [&](int a, int b) {
-        return Texto(a, columna) < Texto(b, columna);
+        return menor ? menor(Texto(a, columna), Texto(b, columna)) : Texto(a, columna) < Texto(b, columna);
     });
     std::vector<Celda> nuevas(celdas_.size());
     std::copy(celdas_.begin(), celdas_.begin() + std::ptrdiff_t(n), nuevas.begin());

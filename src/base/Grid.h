@@ -107,8 +107,8 @@ public:
     void PonerActiva(int fila, int columna);
 
     // Sorts the body rows on the text of a column, ascending, as the grid
-    // sorts text: by character codes.
-    void OrdenarPorTexto(int columna);
+    // sorts text: by character codes, or by `menor` when given.
+    void OrdenarPorTexto(int columna, bool (*menor)(const QString&, const QString&) = nullptr);
 
     // Increments on every change, so a view can tell it must repaint.
     unsigned long Version() const { return version_; }

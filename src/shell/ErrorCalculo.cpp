@@ -5,7 +5,6 @@
 #include "shell/Titulos.h"
 
 void MostrarErrorCalculo(Dialogos& d, const ErrorEjecucion& e) {
-    d.MostrarMensaje(QStringLiteral("Error ") + QString::number(e.numero()) + QStringLiteral(": ") + e.descripcion() +
-                         (e.detalle().isEmpty() ? QString() : QStringLiteral("\n") + e.detalle()),
+    d.MostrarMensaje(e.Mensaje() + (e.detalle().isEmpty() ? QString() : QStringLiteral("\n") + e.detalle()),
                      QStringLiteral("Error en el Cálculo..."), TituloProyectoFontaria());
 }

@@ -1,6 +1,7 @@
 #include "store/Conexion.h"
 
 #include "base/Nivo.h"
+#include "store/Colacion.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -148,6 +149,7 @@ bool Conexion::Abrir(const QString& ruta) {
         return false;
     }
     sqlite3_busy_timeout(db, 2000);
+    RegistrarColacion(db);
     // A file of another kind only shows itself at the first read.
     char* msg = nullptr;
     if (sqlite3_exec(db, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, &msg) != SQLITE_OK) {
@@ -171,6 +173,7 @@ bool Conexion::Crear(const QString& ruta) {
         if (db) sqlite3_close(db);
         return false;
     }
+    RegistrarColacion(db);
     db_ = db;
     ruta_ = ruta;
     return true;

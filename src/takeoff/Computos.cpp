@@ -8,6 +8,7 @@
 #include "base/Nivo.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
+#include "store/Colacion.h"
 #include "store/Conexion.h"
 
 namespace {
@@ -39,7 +40,9 @@ void Fila(Grid& g, const QString& texto, double valor, int decimales) {
     else g.PonerNumero(f, 2, valor, decimales);
 }
 
-// Rows (text, total) of a grouping query, into the grid.
+// Rows (text, total) of a grouping query, into the grid.  Texts that differ
+// only in case or accents make one row, as they did in the older database;
+// the query's MIN(rowid) makes SQLite show the spelling written first.
 void Agrupado(Grid& g, Conexion& c, const QString& sql, int decimales, QString (*texto)(const QString&)) {
     Consulta q(c, sql);
     while (q.Siguiente()) Fila(g, texto(ComoTexto(q.Columna(0))), ComoDoble(q.Columna(1)), decimales);
@@ -51,9 +54,9 @@ QString NombreTipoConexion(int tipo) {
     return tipo >= 1 && tipo <= 10 ? QString::fromLatin1(TiposConexion[tipo - 1]) : QString();
 }
 
-Computos::Computos() { ConfigurarSpread(*this); }
+PaginasComputos::PaginasComputos() { ConfigurarSpread(*this); }
 
-QString Computos::TituloPagina(int pagina) {
+QString PaginasComputos::TituloPagina(int pagina) {
     switch (pagina) {
     case 1: return QStringLiteral("Piezas Sanitarias");
     case 2: return QStringLiteral("Conexiones");
@@ -63,7 +66,7 @@ QString Computos::TituloPagina(int pagina) {
     }
 }
 
-void ConfigurarSpread(Computos& c) {
+void ConfigurarSpread(PaginasComputos& c) {
     Configurar(c.Piezas, QStringLiteral("Piezas Sanitarias"), QStringLiteral("Piezas"), 0);
     Configurar(c.Conexiones, QStringLiteral("Conexiones en Tuberías"), QStringLiteral("Conexiones"), 0);
     Configurar(c.Reducciones, QStringLiteral("Reducciones (Piezas)"), QStringLiteral("Reduciones"), 0);
@@ -74,8 +77,8 @@ void CalculeComputosPiezas(Grid& g, Conexion& c) {
     g.Vaciar();
     // The sub-branch (key 21) stands for what hangs there, not a fixture.
     Agrupado(g, c,
-             QStringLiteral("SELECT Pieza, SUM(Cantidad) AS Total FROM DatosPiezas WHERE (Clave >0 AND Clave<>21) "
-                            "GROUP BY Pieza ORDER BY Pieza"),
+             QStringLiteral("SELECT Pieza, SUM(Cantidad) AS Total, MIN(rowid) FROM DatosPiezas WHERE (Clave >0 AND "
+                            "Clave<>21) GROUP BY Pieza COLLATE ESPANOL ORDER BY Pieza COLLATE ESPANOL"),
              0, [](const QString& t) { return t; });
 }
 
@@ -103,18 +106,19 @@ void CalculeComputosConexiones(Grid& g, Conexion& c) {
     }
     // The fixed-length fittings (key 12 up), by the name typed on the branch, without size.
     Agrupado(g, c,
-             QStringLiteral("SELECT Conexion, SUM(Cantidad) AS Total FROM DatosConexiones WHERE Clave >11 "
-                            "GROUP BY Conexion ORDER BY Conexion"),
+             QStringLiteral("SELECT Conexion, SUM(Cantidad) AS Total, MIN(rowid) FROM DatosConexiones WHERE Clave >11 "
+                            "GROUP BY Conexion COLLATE ESPANOL ORDER BY Conexion COLLATE ESPANOL"),
              0, [](const QString& t) { return t; });
-    g.OrdenarPorTexto(1);
+    g.OrdenarPorTexto(1, MenorTexto);
     for (int f = 1; f <= g.Filas(); ++f) g.PonerEntero(f, 0, f);
 }
 
 void CalculeComputosReducciones(Grid& g, Conexion& c) {
     g.Vaciar();
     Agrupado(g, c,
-             QStringLiteral("SELECT Reduccion, COUNT(Reduccion) AS Total FROM DatosRamales WHERE Reduccion IS NOT NULL "
-                            "AND TRIM (Reduccion)<> '' GROUP BY Reduccion ORDER BY Reduccion"),
+             QStringLiteral("SELECT Reduccion, COUNT(Reduccion) AS Total, MIN(rowid) FROM DatosRamales WHERE Reduccion IS "
+                            "NOT NULL AND TRIM (Reduccion)<> '' GROUP BY Reduccion COLLATE ESPANOL ORDER BY "
+                            "Reduccion COLLATE ESPANOL"),
              0, [](const QString& t) { return UCase(t); });
 }
 
@@ -123,24 +127,24 @@ void CalculeComputosTuberias(Grid& g, Conexion& c) {
     Agrupado(g, c,
              QStringLiteral("SELECT Predimensionado, SUM(LongitudReal) AS Total FROM DatosRamales WHERE "
                             "Predimensionado <>'' AND Predimensionado IS NOT NULL GROUP BY Predimensionado "
-                            "ORDER BY Predimensionado"),
+                            "COLLATE ESPANOL ORDER BY Predimensionado COLLATE ESPANOL"),
              2, [](const QString& t) { return QStringLiteral("TUBERIA DE DIAMETRO = ") + t + MarcaPulgada(); });
 }
 
-void CalcularComputos(Computos& computos, Conexion& c) {
+void CalcularComputos(PaginasComputos& computos, Conexion& c) {
     CalculeComputosPiezas(computos.Piezas, c);
     CalculeComputosConexiones(computos.Conexiones, c);
     CalculeComputosReducciones(computos.Reducciones, c);
     CalculeComputosTuberias(computos.Tuberias, c);
 }
 
-void PantallaComputos::Cargar() {
+void Computos::Cargar() {
     ConfigurarSpread(Paginas);
     CalcularComputos(Paginas, s_.ConexionProyecto);
     Pagina = 1;
 }
 
-bool PantallaComputos::Abrir() {
+bool Computos::Abrir() {
     if (!AbrirOtroProyecto(p_, s_, d_)) return false;
     Caption = UCase(QStringLiteral("Cómputos   Proyecto: [ ") + s_.NombreProyecto + QStringLiteral(" ] "));
     if (p_.NumeroRamales > 0) {

@@ -16,17 +16,17 @@ class Dialogos;
 // The ten fitting types of the take-off by number 1..10 (type 10 counts keys 10 and 11).
 QString NombreTipoConexion(int tipo);
 
-struct Computos {
+struct PaginasComputos {
     Grid Piezas;       // page 1 "Piezas Sanitarias"
     Grid Conexiones;   // page 2 "Conexiones"
     Grid Reducciones;  // page 3 "Reducciones"
     Grid Tuberias;     // page 4 "Tuberías"
-    Computos();
+    PaginasComputos();
     static QString TituloPagina(int pagina);
 };
 
 // Headers and formats of the four grids.
-void ConfigurarSpread(Computos& c);
+void ConfigurarSpread(PaginasComputos& c);
 
 // Each fills one page from the project file.  A file that lacks the tables
 // leaves the page empty.  A fitting total beyond 32,767 overflows (error 6).
@@ -35,13 +35,13 @@ void CalculeComputosConexiones(Grid& g, Conexion& c);
 void CalculeComputosReducciones(Grid& g, Conexion& c);
 void CalculeComputosTuberias(Grid& g, Conexion& c);
 // The four, in that order.
-void CalcularComputos(Computos& computos, Conexion& c);
+void CalcularComputos(PaginasComputos& computos, Conexion& c);
 
 // The screen.
-class PantallaComputos {
+class Computos {
 public:
-    PantallaComputos(ProyectoEdificio& p, Sesion& s, Dialogos& d) : p_(p), s_(s), d_(d) {}
-    Computos Paginas;
+    Computos(ProyectoEdificio& p, Sesion& s, Dialogos& d) : p_(p), s_(s), d_(d) {}
+    PaginasComputos Paginas;
     QString Caption = QStringLiteral("LISTADO DE MATERIALES");
     int Pagina = 1;
     // Hidden when the analysis screen opened this one.

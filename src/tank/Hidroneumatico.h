@@ -2,10 +2,7 @@
 // Sizing of a hydropneumatic tank and its pump on top of the building
 // chain: the inputs and their defaults, the pre-filling from an open project,
 // the three methods of the pump flow and the sizing formulas; and the logic
-// of the screens Hidroneumatico (inputs), Peerlees (the table of consumption
-// factors) and ResultadosHidro (results), for the Qt screens to show.
-
-#include "base/Grid.h"
+// of the screen Hidroneumatico (inputs), for its Qt screen to show.
 
 #include <QString>
 #include <QStringList>
@@ -57,6 +54,10 @@ QString TextoMetodoReporte(int metodo);
 // The sizing.  PresionMaxima of -10 divides by zero (error 11).
 ResultadoTanque CalcularTanque(const DatosTanque& t);
 
+// A maximum pressure not above the minimum would size no tank or a negative
+// one: the text of its refusal, empty when the pressures can be sized.
+QString RechazoPresiones(const DatosTanque& t);
+
 // Which boxes of the screen are enabled for a method.
 struct HabilitacionTanque {
     bool Caudal, Porcentaje, Dotacion, NumeroPiezas, FactorPeerlees, BotonPeerless;
@@ -64,9 +65,9 @@ struct HabilitacionTanque {
 HabilitacionTanque HabilitacionMetodo(int metodo);
 
 // The screen Hidroneumatico: its inputs and the pre-filling at the load.
-class PantallaHidroneumatico {
+class Hidroneumatico {
 public:
-    PantallaHidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d) : p_(p), s_(s), d_(d) {}
+    Hidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d) : p_(p), s_(s), d_(d) {}
     DatosTanque Datos;
     QString Caption = QStringLiteral("CÁLCULO DE TANQUE HIDRONUEMÁTICO");
 
@@ -77,6 +78,9 @@ public:
     // defaults in the boxes, and passes on as ErrorEjecucion.
     bool Abrir();
     HabilitacionTanque Habilitacion() const { return HabilitacionMetodo(Datos.NumeroMetodo); }
+    // "Calcular": true when the results screen is to open; a refusal of the
+    // pressures is shown instead.
+    bool Calcular();
     // The factor captured from the Peerless table goes into its box.
     void PonerFactorPeerlees(const QString& texto);
 
@@ -85,23 +89,3 @@ private:
     Sesion& s_;
     Dialogos& d_;
 };
-
-// The screen ResultadosHidro: computes at the load and shows the seven
-// values in "#,##0.00" and the percentages.
-struct PantallaResultadosHidro {
-    explicit PantallaResultadosHidro(const DatosTanque& datos);
-    ResultadoTanque Resultado;
-    QString Marco;            // the frame's caption: the method title
-    QStringList Valores;      // QB, VolumenTotal, VolumenMinimo, VolumenUtil, VolumenMaximo, PotenciaBomba, PotenciaMotor
-    QString PorcentajeMinimo = QStringLiteral("10%");
-    QString PorcentajeUtil, PorcentajeMaximo;
-    static QStringList Etiquetas();
-};
-
-// The table of the screen Peerlees: six building classes by seven ranges of
-// fixtures, factors in litres per minute per fixture; read-only.
-Grid TablaPeerlees();
-// "Capturar Factor Consumo": the active cell's text as a number and back to
-// text ("2.50" gives "2.5").  A header or a text that is not a number is a
-// type mismatch (error 13).
-QString CapturarFactorPeerlees(const Grid& tabla, int fila, int columna);

@@ -5,13 +5,16 @@
 #include "widgets/NivoNumero.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QComboBox>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QRegularExpressionValidator>
+#include <QSet>
 #include <QTimer>
 
 namespace {
@@ -29,6 +32,29 @@ bool MismasUniones(const std::vector<Union>& a, const std::vector<Union>& b) {
             return false;
     return true;
 }
+
+// Under a joined cell but not its top-left: the cell is not shown.
+bool Tapada(const Grid& g, int f, int c) {
+    for (const Union& u : g.Uniones())
+        if (f >= u.fila && f < u.fila + u.filas && c >= u.columna && c < u.columna + u.columnas &&
+            (f != u.fila || c != u.columna))
+            return true;
+    return false;
+}
+
+// Enter or Shift+Enter (of either keyboard block), with no other modifier.
+bool EsEnter(const QKeyEvent* k) {
+    return (k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter) &&
+           !(k->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+}
+
+// The space a view leaves around a cell's text, on both sides.
+int MargenTexto(const QWidget* w) {
+    return 2 * (w->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, w) + 1);
+}
+
+// Text columns grow to their texts up to this many average characters.
+constexpr int LimiteTexto = 60;
 
 }  // namespace
 
@@ -65,9 +91,21 @@ QVariant ModeloGrid::data(const QModelIndex& i, int rol) const {
     case Qt::TextAlignmentRole:
         if (celda.esNumero || EsCeldaNumerica(*grid_, f, c)) return int(Qt::AlignRight | Qt::AlignVCenter);
         return int(Qt::AlignLeft | Qt::AlignVCenter);
+    case Qt::ToolTipRole:
+        if (TextoCortado(i, celda.texto)) return celda.texto;
+        return {};
     default:
         return {};
     }
+}
+
+bool ModeloGrid::TextoCortado(const QModelIndex& i, const QString& texto) const {
+    if (!vista_ || texto.isEmpty()) return false;
+    int ancho = 0;
+    const int columnas = std::max(1, vista_->columnSpan(i.row(), i.column()));
+    for (int c = i.column(); c < i.column() + columnas && c < columnCount(); ++c)
+        if (!vista_->isColumnHidden(c)) ancho += vista_->columnWidth(c);
+    return vista_->fontMetrics().horizontalAdvance(texto) > ancho - MargenTexto(vista_);
 }
 
 QVariant ModeloGrid::headerData(int seccion, Qt::Orientation o, int rol) const {
@@ -287,13 +325,28 @@ void DelegadoGrid::setModelData(QWidget* editor, QAbstractItemModel* m, const QM
     QStyledItemDelegate::setModelData(editor, m, i);
 }
 
+bool DelegadoGrid::eventFilter(QObject* o, QEvent* e) {
+    auto* editor = qobject_cast<QWidget*>(o);
+    if (editor && e->type() == QEvent::KeyPress && EsEnter(static_cast<QKeyEvent*>(e))) {
+        const bool arriba = static_cast<QKeyEvent*>(e)->modifiers() & Qt::ShiftModifier;
+        Q_EMIT Enter(editor, arriba ? -1 : 1);
+        return true;
+    }
+    return QStyledItemDelegate::eventFilter(o, e);
+}
+
 // ---------------------------------------------------------------- view
 
 VistaGrid::VistaGrid(QWidget* padre) : QTableView(padre) {
     setHorizontalHeader(new EncabezadoDoble(this));
-    setItemDelegate(new DelegadoGrid(this));
+    auto* delegado = new DelegadoGrid(this);
+    setItemDelegate(delegado);
+    connect(delegado, &DelegadoGrid::Enter, this,
+            [this](QWidget* editor, int paso) { ConfirmarYAvanzar(editor, paso); });
     setModel(&modelo_);
-    setSelectionMode(QAbstractItemView::SingleSelection);
+    modelo_.PonerVista(this);
+    // A block may be selected everywhere, for copying.
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
     setSelectionBehavior(QAbstractItemView::SelectItems);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                     QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
@@ -345,15 +398,16 @@ void VistaGrid::AplicarForma() {
     columnas_ = g ? g->Columnas() : 0;
     uniones_ = g ? g->Uniones() : std::vector<Union>();
     if (!g) return;
-    const int caracter = fontMetrics().averageCharWidth();
     for (int c = 1; c <= columnas_; ++c) {
         setColumnHidden(c - 1, g->Col(c).oculta);
-        setColumnWidth(c - 1, g->Col(c).ancho * caracter + 12);
+        setColumnWidth(c - 1, AnchoFijado(c));
     }
     for (const Union& u : uniones_)
         if (u.columna >= 1 && u.fila >= 1 && u.fila <= filas_) setSpan(u.fila - 1, u.columna - 1, u.filas, u.columnas);
     verticalHeader()->setMinimumWidth(TextoEsquina().isEmpty() ? 0
                                                                : fontMetrics().horizontalAdvance(TextoEsquina()) + 12);
+    gridMedido_ = nullptr;
+    AjustarAnchos();
     horizontalHeader()->updateGeometry();
     updateGeometries();  // the header's height follows the new widths
     horizontalHeader()->viewport()->update();
@@ -367,8 +421,73 @@ void VistaGrid::Refrescar() {
         AplicarForma();
     } else {
         modelo_.Repintar();
+        AjustarAnchos();
     }
     horizontalHeader()->viewport()->update();
+}
+
+int VistaGrid::AnchoFijado(int columna) const {
+    return grid()->Col(columna).ancho * fontMetrics().averageCharWidth() + 12;
+}
+
+void VistaGrid::AjustarAnchos() {
+    const Grid* g = grid();
+    // A hidden view (a tab not shown) is measured when it shows.
+    if (!g || !isVisible()) return;
+    const int n = g->Columnas();
+    // Columns the header sizes itself (stretched ones) keep their mode.
+    int ultima = 0;
+    for (int c = 1; c <= n; ++c)
+        if (!isColumnHidden(c - 1)) ultima = c;
+    auto ajustable = [&](int c) {
+        return !isColumnHidden(c - 1) && g->Col(c).tipo == TipoCelda::Texto &&
+               horizontalHeader()->sectionResizeMode(c - 1) == QHeaderView::Interactive &&
+               !(horizontalHeader()->stretchLastSection() && c == ultima);
+    };
+    int libre = viewport()->width();
+    for (int c = 1; c <= n; ++c)
+        if (!isColumnHidden(c - 1)) libre -= AnchoFijado(c);
+    if (libre > 0 && (gridMedido_ != g || versionMedida_ != g->Version())) {
+        // Measured only when there is room to give, and again only once the
+        // grid has changed.
+        QSet<qint64> anchas;  // a text joined over columns is not one column's
+        for (const Union& u : g->Uniones())
+            if (u.columnas > 1) anchas.insert(qint64(u.fila) << 32 | u.columna);
+        necesarios_.assign(size_t(n) + 1, 0);
+        const int tope = LimiteTexto * fontMetrics().averageCharWidth();
+        for (int c = 1; c <= n; ++c) {
+            if (!ajustable(c)) continue;
+            int ancho = 0;
+            for (int f = 1; f <= g->Filas(); ++f)
+                if (!anchas.contains(qint64(f) << 32 | c))
+                    ancho = std::max(ancho, fontMetrics().horizontalAdvance(g->Texto(f, c)));
+            necesarios_[size_t(c)] = std::min(ancho + MargenTexto(this) + 2, tope);
+        }
+        gridMedido_ = g;
+        versionMedida_ = g->Version();
+    }
+    std::vector<int> extra(size_t(n) + 1, 0);
+    long long pedido = 0;
+    if (libre > 0 && necesarios_.size() == size_t(n) + 1)
+        for (int c = 1; c <= n; ++c)
+            if (ajustable(c)) pedido += extra[size_t(c)] = std::max(0, necesarios_[size_t(c)] - AnchoFijado(c));
+    for (int c = 1; c <= n; ++c) {
+        if (!ajustable(c)) continue;
+        // Each column its share of the room when all cannot have their fill.
+        const long long e = extra[size_t(c)];
+        const int dar = int(pedido <= libre ? e : e * libre / std::max(1LL, pedido));
+        if (columnWidth(c - 1) != AnchoFijado(c) + dar) setColumnWidth(c - 1, AnchoFijado(c) + dar);
+    }
+}
+
+void VistaGrid::resizeEvent(QResizeEvent* e) {
+    QTableView::resizeEvent(e);
+    AjustarAnchos();
+}
+
+void VistaGrid::showEvent(QShowEvent* e) {
+    QTableView::showEvent(e);
+    AjustarAnchos();
 }
 
 void VistaGrid::MostrarActiva() {
@@ -376,7 +495,8 @@ void VistaGrid::MostrarActiva() {
     if (!g || g->Filas() == 0 || g->Columnas() == 0) return;
     const QModelIndex i = modelo_.index(std::clamp(g->FilaActiva(), 1, g->Filas()) - 1,
                                         std::clamp(g->ColumnaActiva(), 1, g->Columnas()) - 1);
-    setCurrentIndex(i);
+    // Set again, the same cell would drop a selected block.
+    if (currentIndex() != i) setCurrentIndex(i);
     scrollTo(i);
 }
 
@@ -413,6 +533,110 @@ void VistaGrid::AvisarBloque() {
     const QItemSelectionRange& r = seleccion.first();
     if (r.height() * r.width() <= 1) return;
     Q_EMIT BloqueSeleccionado(r.top() + 1, r.bottom() + 1, r.left() + 1, r.right() + 1);
+}
+
+void VistaGrid::ConfirmarYAvanzar(QWidget* editor, int paso) {
+    // The value goes through the same commit as leaving the cell; a cell
+    // that takes it reports the change.
+    bool aceptada = false;
+    const auto aviso = connect(&modelo_, &QAbstractItemModel::dataChanged, this, [&aceptada] { aceptada = true; });
+    commitData(editor);
+    disconnect(aviso);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+    // The logic acts before the move, so that a refill that puts the active
+    // cell back on the edited row does not undo it.
+    modelo_.EntregarPendientes();
+    if (aceptada) Avanzar(paso);
+}
+
+void VistaGrid::Avanzar(int paso) {
+    const QModelIndex actual = currentIndex();
+    if (!actual.isValid()) return;
+    // The table's own move steps over joined cells and hidden rows.
+    const QModelIndex destino = moveCursor(paso > 0 ? MoveDown : MoveUp, Qt::NoModifier);
+    if (destino.isValid() && destino != actual) setCurrentIndex(destino);
+}
+
+QString VistaGrid::TextoSeleccion() const {
+    const Grid* g = grid();
+    if (!g || g->Filas() == 0) return QString();
+    int f1 = 0, f2 = 0, c1 = 0, c2 = 0;
+    const QItemSelection seleccion = selectionModel() ? selectionModel()->selection() : QItemSelection();
+    if (seleccion.size() == 1) {
+        const QItemSelectionRange& r = seleccion.first();
+        f1 = r.top() + 1, f2 = r.bottom() + 1, c1 = r.left() + 1, c2 = r.right() + 1;
+    } else if (currentIndex().isValid()) {
+        f1 = f2 = currentIndex().row() + 1;
+        c1 = c2 = currentIndex().column() + 1;
+    } else {
+        return QString();
+    }
+    const int ancho = c2 - c1 + 1;
+    std::vector<char> tapada(size_t((f2 - f1 + 1) * ancho), 0);
+    for (const Union& u : g->Uniones())
+        for (int f = std::max(u.fila, f1); f < u.fila + u.filas && f <= f2; ++f)
+            for (int c = std::max(u.columna, c1); c < u.columna + u.columnas && c <= c2; ++c)
+                if (f != u.fila || c != u.columna) tapada[size_t((f - f1) * ancho + c - c1)] = 1;
+    QStringList lineas;
+    for (int f = f1; f <= f2; ++f) {
+        if (isRowHidden(f - 1)) continue;
+        QStringList celdas;
+        for (int c = c1; c <= c2; ++c)
+            if (!isColumnHidden(c - 1))
+                celdas << (tapada[size_t((f - f1) * ancho + c - c1)] ? QString() : g->Texto(f, c));
+        lineas << celdas.join(QLatin1Char('\t'));
+    }
+    return lineas.join(QLatin1Char('\n'));
+}
+
+void VistaGrid::Copiar() { QGuiApplication::clipboard()->setText(TextoSeleccion()); }
+
+void VistaGrid::Pegar() { Pegar(QGuiApplication::clipboard()->text()); }
+
+void VistaGrid::Pegar(const QString& texto) {
+    const QModelIndex inicio = currentIndex();
+    if (!grid() || !inicio.isValid() || texto.isEmpty()) return;
+    QString limpio = texto;
+    limpio.remove(QLatin1Char('\r'));
+    QStringList lineas = limpio.split(QLatin1Char('\n'));
+    // A spreadsheet ends its last row with a line feed too.
+    if (lineas.size() > 1 && lineas.last().isEmpty()) lineas.removeLast();
+    int f = inicio.row() + 1;
+    for (const QString& linea : lineas) {
+        while (grid() && f <= grid()->Filas() && isRowHidden(f - 1)) ++f;
+        if (!grid() || f > grid()->Filas()) return;
+        int c = inicio.column() + 1;
+        for (const QString& valor : linea.split(QLatin1Char('\t'))) {
+            while (c <= grid()->Columnas() && isColumnHidden(c - 1)) ++c;
+            if (c > grid()->Columnas()) break;
+            const QModelIndex i = modelo_.index(f - 1, c - 1);
+            if ((modelo_.flags(i) & Qt::ItemIsEditable) && !Tapada(*grid(), f, c)) {
+                if (!modelo_.setData(i, valor, Qt::EditRole)) {
+                    setCurrentIndex(i);
+                    return;
+                }
+                // The logic acts on each cell before the next, as after typing it.
+                modelo_.EntregarPendientes();
+                if (!grid()) return;
+            }
+            ++c;
+        }
+        ++f;
+    }
+}
+
+void VistaGrid::keyPressEvent(QKeyEvent* e) {
+    if (e->matches(QKeySequence::Copy)) {
+        Copiar();
+    } else if (e->matches(QKeySequence::Paste)) {
+        Pegar();
+    } else if (EsEnter(e) && state() != EditingState) {
+        Avanzar(e->modifiers() & Qt::ShiftModifier ? -1 : 1);
+    } else {
+        QTableView::keyPressEvent(e);
+        return;
+    }
+    e->accept();
 }
 
 void VistaGrid::mouseReleaseEvent(QMouseEvent* e) {

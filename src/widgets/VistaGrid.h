@@ -5,6 +5,12 @@
 // session's separators, drop-down list cells, joined body cells and the
 // active cell.  Each edit lands in the Grid and is reported as
 // (row, column, text) for the screen logic to act on.
+//
+// It behaves as a spreadsheet: Enter commits and moves down (Shift+Enter
+// up), Ctrl+C copies the selected block as tab-separated lines of the texts
+// shown, Ctrl+V pastes such a block cell by cell through the same commit as
+// typing, a cut text shows whole in a tool-tip, and text columns grow to
+// their texts when the view has room to spare.
 
 #include "base/Grid.h"
 
@@ -19,6 +25,8 @@ class ModeloGrid : public QAbstractTableModel {
 public:
     explicit ModeloGrid(QObject* padre = nullptr) : QAbstractTableModel(padre) {}
     void PonerGrid(Grid* g);
+    // The view whose fonts and column widths tell whether a text is cut.
+    void PonerVista(const QTableView* v) { vista_ = v; }
     Grid* grid() const { return grid_; }
 
     // Grid row f, column c (both from 1) against the model's index.
@@ -50,7 +58,11 @@ private:
         int fila, columna;
         QString texto;
     };
+    // True when the cell's text is wider than its column (or its joined
+    // columns) leaves for it.
+    bool TextoCortado(const QModelIndex& i, const QString& texto) const;
     Grid* grid_ = nullptr;
+    const QTableView* vista_ = nullptr;
     std::vector<Edicion> pendientes_;
 };
 
@@ -79,6 +91,14 @@ public:
     QWidget* createEditor(QWidget* padre, const QStyleOptionViewItem& o, const QModelIndex& i) const override;
     void setEditorData(QWidget* editor, const QModelIndex& i) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* m, const QModelIndex& i) const override;
+
+Q_SIGNALS:
+    // Enter in an open editor: the view commits it and moves `paso` rows
+    // (1 down, -1 up).
+    void Enter(QWidget* editor, int paso);
+
+protected:
+    bool eventFilter(QObject* editor, QEvent* e) override;
 };
 
 class VistaGrid : public QTableView {
@@ -114,6 +134,18 @@ public:
     void PermitirBloques();
     void QuitarBloque();
 
+    // The selected block (or the current cell) as the texts shown: cells by
+    // tabs, rows by line feeds, hidden columns left out, a joined cell's text
+    // once in its top-left.  Copiar puts it on the clipboard (Ctrl+C).
+    QString TextoSeleccion() const;
+    void Copiar();
+    // Ctrl+V: the clipboard's block from the current cell on, each cell
+    // committed as if typed.  Locked cells, cells under a join and cells
+    // past the grid's edge are skipped, their values dropped; a value the
+    // cell refuses stops the paste there, on that cell.
+    void Pegar(const QString& texto);
+    void Pegar();
+
 Q_SIGNALS:
     void BloqueSeleccionado(int fila1, int fila2, int columna1, int columna2);
 
@@ -122,13 +154,28 @@ protected:
     bool eventFilter(QObject* o, QEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     void keyReleaseEvent(QKeyEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    void resizeEvent(QResizeEvent* e) override;
+    void showEvent(QShowEvent* e) override;
 
 private:
     void AplicarForma();
     void AvisarBloque();
+    void Avanzar(int paso);
+    // The editor's value committed and acted on by the logic at once; the
+    // move follows unless the cell refused the value.
+    void ConfirmarYAvanzar(QWidget* editor, int paso);
+    // Text columns wider than their set width where the view has room
+    // left: each toward its longest text, up to a limit.
+    void AjustarAnchos();
+    int AnchoFijado(int columna) const;
     ModeloGrid modelo_;
     bool bloques_ = false;
     QWidget* esquina_ = nullptr;
     int filas_ = -1, columnas_ = -1;
     std::vector<Union> uniones_;
+    // The widths the text columns' texts need, for the grid's version.
+    std::vector<int> necesarios_;
+    unsigned long versionMedida_ = 0;
+    const Grid* gridMedido_ = nullptr;
 };

@@ -162,3 +162,52 @@ TEST_F(PantallaAnalisis, UnaNumeracionErradaAlVolverDelEditorMuestraSuMensajeYSi
     EXPECT_EQ(a.Spread3.Texto(3, 2), QStringLiteral("B"));
     EXPECT_EQ(a.SSPanel1, QStringLiteral("3"));
 }
+
+TEST_F(PantallaAnalisis, SinPresionesCalculadasElTanqueYLaValvulaDicenPorQue) {
+    Pequeno();
+    p.OpcionPresionInicial = 2;
+    AnalisisRed a(p, sp.s, d);
+    a.Cargar();
+    ASSERT_TRUE(a.Frame3Visible);
+    // Hazen-Williams with C = 0 divides by zero: the pressures of the edit stop.
+    p.OpcionPerdidas = 2;
+    p.CoeficienteC = 0.0;
+    EXPECT_THROW(a.EditarDiametroAsumido(1, QStringLiteral("1\"")), ErrorEjecucion);
+    const QString porQue = QStringLiteral("¡No se Pueden Calcular las Pérdidas y Presiones!\n"
+                                          "Revise los Datos de la Red...");
+    a.LSButton6_Click();
+    a.LSButton7_Click();
+    EXPECT_FALSE(a.EditarValvulaReductora(2, QStringLiteral("1")));
+    ASSERT_EQ(d.mensajes.size(), 3u);
+    for (const auto& m : d.mensajes) MensajeEs(m, porQue, QStringLiteral("Pérdidas y Presiones..."));
+    EXPECT_EQ(p.ValvulaR[2], 0.0);
+}
+
+TEST_F(PantallaAnalisis, AbrirUnaRedQueLaNumeracionRechazaLoDiceUnaVezYLoSenala) {
+    // Branch 3 of the apartment (PASILLO-COCINA) made to start from a node no
+    // branch reaches, so the lengths stop at it too; or the last one (BAÑO 1 -
+    // BAÑO 2), which feeds nothing, made to end where it starts, so the
+    // chain fills every grid.
+    const struct {
+        const char* cambio;
+        int filasPresiones;
+    } casos[] = {{"NodoI='DESVAN' WHERE Numero=3", 0}, {"Nodoj=NodoI WHERE Numero=6", 6}};
+    for (const auto& c : casos) {
+        Pequeno();
+        AnalisisRed a(p, sp.s, d);
+        a.Cargar();
+        EXPECT_TRUE(a.AvisoErrorRed().isEmpty());
+        const QString rota = sp.CopiaDeEjemplo(QStringLiteral("Edificio_ApartamentoTipo.nivo"), QStringLiteral("rota.plm"));
+        ASSERT_TRUE(EjecutarSql(rota, QStringLiteral("UPDATE DatosRamales SET %1").arg(c.cambio)));
+        d.mensajes.clear();
+        d.archivos = {rota};
+        EXPECT_TRUE(a.LSButton5_Click());
+        ASSERT_EQ(d.mensajes.size(), 1u) << c.cambio;
+        EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en la Numeración..."));
+        EXPECT_EQ(a.Spread4.Filas(), 6);
+        EXPECT_EQ(a.Spread3.Filas(), c.filasPresiones);
+        EXPECT_EQ(a.AvisoErrorRed(), QStringLiteral("La red tiene errores de numeración: los resultados no son válidos."));
+        // No pressures, no count of them.
+        EXPECT_EQ(a.TextoPresionNegativa().isEmpty(), c.filasPresiones == 0);
+    }
+}

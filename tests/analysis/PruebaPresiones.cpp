@@ -140,5 +140,36 @@ TEST_F(Presiones, SumaTrayectoSinElPrimero) {
 TEST_F(Presiones, DiametroFueraDeTablaEsUnError) {
     Red(10.0, {0, 0, 0, 0});
     p.DiametroAsumido[2] = 0.0;
-    EXPECT_EQ(NumeroDeError([&] { CalcularPresiones(p); }), Error::DivisionPorCero);
+    try {
+        CalcularPresiones(p);
+        ADD_FAILURE() << "sin error";
+    } catch (const ErrorEjecucion& e) {
+        // 0.5 l/s over a bore of 0: the fault names branch 2 by its nodes.
+        EXPECT_EQ(e.Mensaje(), QStringLiteral("Error 11: División por cero en el ramal 2 (A - B)."));
+        EXPECT_EQ(e.lugar(), QStringLiteral("el ramal 2 (A - B)"));
+    }
+}
+
+TEST_F(Presiones, AlturaDelTanqueFijadaAMano) {
+    // The riser of 2 m equivalent length loses 0.3332 m/m: (h + 2) x 0.3332.
+    // From 0 m at the tank, the first node gets h less that loss (the level
+    // goes into PresionRamal, carried to node 2); B and C lose 1.67 and 1.60.
+    const struct {
+        double h, perdida;
+        std::initializer_list<double> nodos;
+    } casos[] = {
+        {8.0, 3.33, {0, 0, 4.67, 3.0, 3.07}},  // the height the option computes: its pressures
+        {10.0, 4.0, {0, 0, 6.0, 4.33, 4.4}},
+        {0.0, 0.67, {0, 0, -0.67, -2.34, -2.27}},
+    };
+    for (const auto& c : casos) {
+        Red(5.0, {0, 0, 1.5, 0});
+        p.OpcionPresionInicial = 2;
+        CalcularPresiones(p);
+        PresionesConAlturaFija(p, c.h);
+        EXPECT_DOUBLE_EQ(p.PerdidaRamal[1], c.perdida) << c.h;
+        EXPECT_EQ(p.longitudReal[1], c.h);
+        EXPECT_EQ(p.CotaRelativa[1], c.h);
+        PresionesSon(c.nodos);
+    }
 }

@@ -96,6 +96,19 @@ TEST_F(Verbos, LosGridsSiguenLasMarcasDelLocaleYElJsonLaFormaC) {
     EXPECT_FALSE(salida.contains(QStringLiteral("1,03")));
 }
 
+TEST_F(Verbos, NodosConPresionNegativa) {
+    // A valve of 100 m on N2-N5 of the tank house takes N5 and the two nodes
+    // it feeds below zero; the tank itself leaves 3 m at the worst node.
+    const QString archivo = Copia("Vivienda con Tanque Elevado");
+    for (const auto& [valvula, negativos] : {std::pair{0, 0}, std::pair{100, 3}}) {
+        EjecutarSql(archivo, QStringLiteral("UPDATE DatosRamales SET ValvulaR=%1 WHERE Numero=5").arg(valvula));
+        ASSERT_EQ(Correr({QStringLiteral("analizar"), archivo, QStringLiteral("--json")}), 0);
+        EXPECT_EQ(Json()[QStringLiteral("NodosPresionNegativa")].toInt(), negativos);
+        ASSERT_EQ(Correr({QStringLiteral("analizar"), archivo}), 0);
+        EXPECT_TRUE(salida.contains(QStringLiteral("\nNodos con presión negativa: %1\n").arg(negativos)));
+    }
+}
+
 TEST_F(Verbos, ErrorDeNumeracionSaleConDos) {
     const QString archivo = Copia("Edificio_ApartamentoTipo");
     EjecutarSql(archivo, QStringLiteral("UPDATE DatosRamales SET Nodoj=NodoI WHERE Numero=3"));
@@ -115,6 +128,11 @@ TEST_F(Verbos, ErrorDeEjecucionSaleConTres) {
     const QJsonObject e = Json()[QStringLiteral("error")].toObject();
     EXPECT_EQ(e[QStringLiteral("numero")].toInt(), 11);
     EXPECT_EQ(e[QStringLiteral("descripcion")].toString(), QStringLiteral("División por cero"));
+    // The first branch's flow over a design velocity of 0.
+    EXPECT_EQ(e[QStringLiteral("lugar")].toString(), QStringLiteral("el ramal 1 (MONTANTE - ENTRADA)"));
+    EXPECT_EQ(Correr({QStringLiteral("analizar"), archivo}), 3);
+    EXPECT_TRUE(errores.contains(QStringLiteral("Error 11: División por cero en el ramal 1 (MONTANTE - ENTRADA).")))
+        << errores.toStdString();
     // Nothing was written: the sizes stay blank.
     Conexion c;
     ASSERT_TRUE(c.Abrir(archivo));
@@ -144,9 +162,15 @@ TEST_F(Verbos, TanqueSinProyecto) {
                       QStringLiteral("diez")}),
               1);
     EXPECT_TRUE(errores.contains(QStringLiteral("--caudal: \"diez\" no es un número")));
-    EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("2"), QStringLiteral("--pmax"),
-                      QStringLiteral("-10"), QStringLiteral("--json")}),
+    EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("2"), QStringLiteral("--pmin"),
+                      QStringLiteral("-20"), QStringLiteral("--pmax"), QStringLiteral("-10"), QStringLiteral("--json")}),
               3);
+    // A maximum not above the minimum is refused as data.
+    EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1"), QStringLiteral("--pmin"),
+                      QStringLiteral("20"), QStringLiteral("--pmax"), QStringLiteral("20")}),
+              2);
+    EXPECT_EQ(errores.trimmed(), QStringLiteral("La presión máxima debe ser mayor que la mínima."));
+    EXPECT_TRUE(salida.isEmpty());
 }
 
 TEST_F(Verbos, TanqueConElProyectoHidroneumatico) {

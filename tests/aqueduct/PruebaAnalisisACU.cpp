@@ -129,7 +129,8 @@ TEST(AnalisisACU, SinTanqueOConFallaSeCierra) {
     EXPECT_EQ(f.a.Spread2.Filas(), 0);
     MensajeEs(
         f.d.Ultimo(),
-        "Proyecto: red.acu\n¡Existe un Error al Realizar el Análisis de la Red!\nRevise los Datos del Proyecto...",
+        "Proyecto: red.acu\n¡Existe un Error al Realizar el Análisis de la Red!\nRevise los Datos del Proyecto...\n"
+        "Error 11: División por cero en el ramal 2 (A - B).",  // 1 over a resistance of no length
         "Error al Realizar el Cálculo...", TituloDatos);
 
     // A negative level passes the check (the solver then fixes nothing).

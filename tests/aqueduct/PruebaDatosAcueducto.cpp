@@ -6,6 +6,7 @@
 #include "aqueduct/ArchivoAcueducto.h"
 #include "aqueduct/DatosAcueducto.h"
 #include "aqueduct/LongitudTramosAcu.h"
+#include "base/Nivo.h"
 
 #include "base/Nivo.h"
 
@@ -92,6 +93,21 @@ TEST(DatosAcueducto, VerificacionDeCeldasVacias) {
     EXPECT_TRUE(t.datos.Botones().Anterior);
 }
 
+TEST(DatosAcueducto, ElEstadoDiceQueMostrarEnCadaPagina) {
+    Pantalla t;
+    t.p.Fecha = QDate();
+    EXPECT_EQ(t.datos.EstadoActual().fecha, Hoy());  // a project without a date shows today's
+    EXPECT_FALSE(t.datos.EstadoActual().botones.Reportes);  // no data reports yet, rows or not
+    // The right-click menu belongs to page 2; the length dialog wants rows.
+    for (int pagina : {1, 2, 3}) {
+        EXPECT_EQ(t.datos.EstadoActual().botones.MenuRamales, pagina == 2) << pagina;
+        t.datos.Siguiente();
+    }
+    EXPECT_TRUE(t.datos.Longitudes());
+    t.datos.Spread1.PonerFilas(0);
+    EXPECT_FALSE(t.datos.Longitudes());
+}
+
 TEST(DatosAcueducto, IslasYBarridosAcotados) {
     // Two sections apart from the rest: the first of them is named.
     Pantalla t;
@@ -165,11 +181,11 @@ TEST(DatosAcueducto, InsertarConNoYEliminarSinFilas) {
 
 TEST(DatosAcueducto, LlenadoDeBloques) {
     Pantalla t;
-    t.datos.LlenarBloque(1, 1, 3, 3, 4);  // two columns: nothing asked
+    EXPECT_FALSE(t.datos.LlenarBloque(1, 1, 3, 3, 4));  // two columns: nothing asked, the block stays
     EXPECT_TRUE(t.d.preguntas.isEmpty());
 
     t.d.textos = {QStringLiteral("0.2504")};
-    t.datos.LlenarBloque(1, 1, 2, 4, 4);
+    EXPECT_TRUE(t.datos.LlenarBloque(1, 1, 2, 4, 4));
     EXPECT_EQ(t.d.preguntas.last(), "Entre el Nuevo Diámetro:|Diametro de los Tramos|");
     EXPECT_EQ(t.p.Diametro[1], 0.25);
     EXPECT_EQ(t.p.Diametro[2], 0.25);

@@ -14,7 +14,7 @@
 #include <QDir>
 #include <deque>
 
-// The real message box (frmMsgBox) and busy pointer; the file dialogs
+// The real message box (VentanaMsgBox) and busy pointer; the file dialogs
 // answer from a script and record their title, filter and folder.
 class DialogosPantalla : public DialogosQt {
 public:

@@ -11,7 +11,7 @@
 
 #include "ApoyoPantallas.h"
 #include "base/Nivo.h"
-#include "analysis/screens/AnalisisRed.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
 #include "widgets/NivoToolTip.h"
@@ -331,7 +331,8 @@ TEST_F(PantallaAnalisis, UnaFallaDelCalculoSeMuestraYCierraLaPantalla) {
     MensajeVisto visto;
     Contestar(visto, 0);
     QApplication::processEvents();
-    EXPECT_TRUE(visto.texto.startsWith(QStringLiteral("Error 11: División por cero"))) << visto.texto.toStdString();
+    // The first branch with a flow is the first to divide.
+    EXPECT_EQ(visto.texto, QStringLiteral("Error 11: División por cero en el ramal 1 (TANQUE - N1)."));
     EXPECT_EQ(visto.encabezado, QStringLiteral("Error en el Cálculo..."));
     EXPECT_FALSE(v->isVisible());
 }
@@ -362,4 +363,54 @@ TEST(PantallaAnalisisCarga, ProyectoSinRamalesMuestraCuatroRejillasVacias) {
     for (int tab = 1; tab <= 4; ++tab) EXPECT_EQ(v.Vista(tab)->model()->rowCount(), 0);
     EXPECT_EQ(v.SSPanel1()->text(), QStringLiteral("0"));
     EXPECT_FALSE(v.Frame3()->isVisible());
+}
+
+TEST_F(PantallaAnalisis, LasValvulasSeEscribenConEnterFilaTrasFila) {
+    // Each valve refills the grid and brings back the edited row; Enter
+    // still leaves the next row current, and each value reaches the file.
+    v->Tabs()->PonerTab(4);
+    VistaGrid* g = v->Vista(4);
+    g->setCurrentIndex(g->model()->index(1, 13));
+    TeclearEnVista(g, QStringLiteral("1\n2\n"));
+    EXPECT_EQ(Texto(4, 2, 14), QStringLiteral("1.00"));
+    EXPECT_EQ(Texto(4, 3, 14), QStringLiteral("2.00"));
+    EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 2)), 1.0);
+    EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 3)), 2.0);
+    EXPECT_EQ(g->currentIndex().row(), 3);
+}
+
+TEST_F(PantallaAnalisis, ElPanelCuentaLosNodosConPresionNegativa) {
+    // The tank is sized so that the worst node keeps 3 m, and no node of a
+    // house nears 100 m: a valve of 100 m takes below zero the end of its
+    // branch and every node downstream (N5 feeds N6 and N7; branch 1 all).
+    EXPECT_EQ(v->PresionNegativa()->text(), QStringLiteral("Nodos con presión negativa: 0"));
+    EXPECT_FALSE(v->AvisoErrorRed()->isVisible());
+    const struct {
+        int ramal, negativos;
+    } casos[] = {{8, 1}, {5, 3}, {1, 8}};
+    for (const auto& c : casos) {
+        Editar(4, c.ramal, 14, QStringLiteral("100"));
+        EXPECT_EQ(v->PresionNegativa()->text(), QStringLiteral("Nodos con presión negativa: %1").arg(c.negativos));
+        EXPECT_EQ(v->PresionNegativa()->palette().color(QPalette::WindowText), QColor(Qt::red));
+        EXPECT_EQ(Spread(4).Cel(c.ramal, 15).colorTexto, ColorRojo);
+        Editar(4, c.ramal, 14, QStringLiteral("0"));
+    }
+    EXPECT_EQ(v->Logica().NodosPresionNegativa(), 0);
+    EXPECT_NE(v->PresionNegativa()->palette().color(QPalette::WindowText), QColor(Qt::red));
+}
+
+TEST_F(PantallaAnalisis, UnaRedConErroresLoDiceEnTodasLasPestanas) {
+    const QString rota = sp.CopiaDeEjemplo(QStringLiteral("Edificio_ApartamentoTipo.nivo"), QStringLiteral("rota.plm"));
+    ASSERT_TRUE(EjecutarSql(rota, QStringLiteral("UPDATE DatosRamales SET Nodoj=NodoI WHERE Numero=6")));
+    d.archivos = {rota};
+    MensajeVisto visto;
+    Contestar(visto, 0);
+    v->Boton(QStringLiteral("LSButton5"))->click();
+    EXPECT_EQ(visto.encabezado, QStringLiteral("Error en la Numeración..."));
+    for (int tab = 1; tab <= 4; ++tab) {
+        v->Tabs()->PonerTab(tab);
+        EXPECT_TRUE(v->AvisoErrorRed()->isVisible()) << tab;
+        EXPECT_GT(Spread(tab).Filas(), 0) << tab;
+    }
+    EXPECT_EQ(v->AvisoErrorRed()->palette().color(QPalette::WindowText), QColor(Qt::red));
 }

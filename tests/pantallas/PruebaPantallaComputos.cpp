@@ -5,7 +5,7 @@
 // hose): see the analysis screen's test for how those sizes come.
 
 #include "ApoyoPantallas.h"
-#include "takeoff/screens/Computos.h"
+#include "takeoff/screens/VentanaComputos.h"
 #include "widgets/NivoTab.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/VistaGrid.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-struct PantallaComputos_ : ::testing::Test {
+struct PantallaComputos : ::testing::Test {
     SesionPrueba sp;
     ProyectoEdificio p;
     DialogosPantalla d;
@@ -39,7 +39,7 @@ struct PantallaComputos_ : ::testing::Test {
 
 }  // namespace
 
-TEST_F(PantallaComputos_, AbreConLasPiezasDelProyectoSinAnalizar) {
+TEST_F(PantallaComputos, AbreConLasPiezasDelProyectoSinAnalizar) {
     Abrir();
     EXPECT_EQ(v->windowTitle(), QStringLiteral("LISTADO DE MATERIALES"));
     ASSERT_EQ(v->Tabs()->count(), 4);
@@ -59,7 +59,7 @@ TEST_F(PantallaComputos_, AbreConLasPiezasDelProyectoSinAnalizar) {
     EXPECT_FALSE(v->Boton(QStringLiteral("Imprimir"))->isEnabled());
 }
 
-TEST_F(PantallaComputos_, AbrirAnalizaYLlenaLasCuatroPaginas) {
+TEST_F(PantallaComputos, AbrirAnalizaYLlenaLasCuatroPaginas) {
     Abrir();
     d.archivos = {archivo};
     v->Boton(QStringLiteral("Abrir"))->click();
@@ -91,7 +91,7 @@ TEST_F(PantallaComputos_, AbrirAnalizaYLlenaLasCuatroPaginas) {
                                      QStringLiteral("TUBERIA DE DIAMETRO = 3/4\"|11.00")}));
 }
 
-TEST_F(PantallaComputos_, AbrirCanceladoNoCambiaNada) {
+TEST_F(PantallaComputos, AbrirCanceladoNoCambiaNada) {
     Abrir();
     d.archivos = {std::nullopt};
     v->Boton(QStringLiteral("Abrir"))->click();
@@ -102,13 +102,13 @@ TEST_F(PantallaComputos_, AbrirCanceladoNoCambiaNada) {
               QStringLiteral("Abrir un Proyecto Existente|*.plm|*.plm|") + sp.Datos(QStringLiteral("Proyectos")));
 }
 
-TEST_F(PantallaComputos_, DesdeElAnalisisNoHayAbrir) {
+TEST_F(PantallaComputos, DesdeElAnalisisNoHayAbrir) {
     Abrir(true);
     EXPECT_FALSE(v->Boton(QStringLiteral("Abrir"))->isVisible());
     EXPECT_TRUE(v->Boton(QStringLiteral("Retorno"))->isVisible());
 }
 
-TEST_F(PantallaComputos_, LasPestanasCambianDePaginaYEscCierra) {
+TEST_F(PantallaComputos, LasPestanasCambianDePaginaYEscCierra) {
     Abrir();
     v->Tabs()->PonerTab(4);
     EXPECT_EQ(v->Logica().Pagina, 4);
@@ -116,7 +116,7 @@ TEST_F(PantallaComputos_, LasPestanasCambianDePaginaYEscCierra) {
     EXPECT_FALSE(v->isVisible());
 }
 
-TEST_F(PantallaComputos_, UnaFallaDelAnalisisAlAbrirSeMuestraYCierra) {
+TEST_F(PantallaComputos, UnaFallaDelAnalisisAlAbrirSeMuestraYCierra) {
     Abrir();
     const QString otro = sp.CopiaDeEjemplo(QStringLiteral("Edificio_MontantePH.nivo"), QStringLiteral("ph.plm"));
     // Hazen-Williams with C of 0 divides by zero.

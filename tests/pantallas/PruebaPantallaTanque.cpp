@@ -4,9 +4,9 @@
 
 #include "ApoyoPantallas.h"
 #include "base/Nivo.h"
-#include "tank/screens/Hidroneumatico.h"
-#include "tank/screens/Peerlees.h"
-#include "tank/screens/ResultadosHidro.h"
+#include "tank/screens/VentanaHidroneumatico.h"
+#include "tank/screens/VentanaPeerlees.h"
+#include "tank/screens/VentanaResultadosHidro.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/VistaGrid.h"
@@ -23,14 +23,14 @@ struct PantallaTanque : ::testing::Test {
     DialogosPantalla d;
     // The main window behind the screen, when a test gives it one.
     std::unique_ptr<QWidget> principal;
-    std::unique_ptr<Hidroneumatico> v;
+    std::unique_ptr<VentanaHidroneumatico> v;
 
     void Abrir(bool conEjemplo) {
         if (conEjemplo) {
             CargarEjemplo(sp, p, d, QStringLiteral("Vivienda con Tanque Hidroneumatico"));
             sp.s.NombreProyecto = QStringLiteral("Vivienda con Tanque Hidroneumatico.plm");
         }
-        v = std::make_unique<Hidroneumatico>(p, sp.s, d);
+        v = std::make_unique<VentanaHidroneumatico>(p, sp.s, d);
         ASSERT_TRUE(v->Cargar());
         v->show();
     }
@@ -91,7 +91,7 @@ TEST_F(PantallaTanque, LosResultadosDelMetodoUnoCalculadosAMano) {
     EXPECT_EQ(v->Logica().Datos.Caudal, 10.0);
     QStringList valores;
     QString marco, util, maximo, minimo;
-    CuandoAbra<ResultadosHidro>([&](ResultadosHidro* r) {
+    CuandoAbra<VentanaResultadosHidro>([&](VentanaResultadosHidro* r) {
         for (int i = 0; i < 7; ++i) valores << r->Valor(i)->text();
         marco = r->Marco()->title();
         minimo = r->PorcentajeMinimo()->text();
@@ -115,6 +115,7 @@ TEST_F(PantallaTanque, LosResultadosDelMetodoUnoCalculadosAMano) {
 TEST_F(PantallaTanque, UnaFallaDelCalculoSeMuestraYLasEntradasQuedan) {
     Abrir(false);
     // A maximum pressure of -10 m divides by zero in the pressure ratio.
+    Teclear("PresionMinima", "-20");
     Teclear("PresionMaxima", "-10");
     MensajeVisto visto;
     Contestar(visto, 0);
@@ -142,10 +143,34 @@ TEST_F(PantallaTanque, LasCajasLeenAmbasMarcasYRechazanLoAmbiguo) {
     EXPECT_EQ(Caja("Succion")->text(), QStringLiteral("3.00"));
 }
 
+TEST_F(PantallaTanque, UnaPresionMaximaIgualALaMinimaSeRechazaSinResultados) {
+    Abrir(false);
+    Teclear("Caudal", "10");
+    Teclear("PresionMinima", "20");
+    Teclear("PresionMaxima", "20");
+    // Whichever opens, the box or the results, is seen and closed.
+    QString visto;
+    bool resultados = false;
+    QTimer::singleShot(0, [&] {
+        QWidget* w = QApplication::activeModalWidget();
+        if (auto* caja = qobject_cast<VentanaMsgBox*>(w)) {
+            visto = caja->findChild<QLabel*>(QStringLiteral("Label2"))->text();
+            caja->Boton(0)->click();
+        } else if (auto* r = qobject_cast<VentanaResultadosHidro*>(w)) {
+            resultados = true;
+            r->reject();
+        }
+    });
+    v->Boton(QStringLiteral("Calcular"))->click();
+    EXPECT_EQ(visto, QStringLiteral("La presión máxima debe ser mayor que la mínima."));
+    EXPECT_FALSE(resultados);
+    EXPECT_EQ(Caja("PresionMaxima")->text(), QStringLiteral("20.00"));
+}
+
 TEST_F(PantallaTanque, LaTablaDePeerlessDevuelveElFactor) {
     Abrir(false);
     v->Metodo(3)->click();
-    CuandoAbra<Peerlees>([](Peerlees* t) {
+    CuandoAbra<VentanaPeerlees>([](VentanaPeerlees* t) {
         EXPECT_EQ(t->windowTitle(), QStringLiteral("Tabla de Peerlees"));
         EXPECT_EQ(t->Vista()->TextoEsquina(), QStringLiteral("Clase de Edificio"));
         // Commercial buildings, 151 to 300 fixtures: 2.50.
@@ -160,7 +185,7 @@ TEST_F(PantallaTanque, LaTablaDePeerlessDevuelveElFactor) {
     EXPECT_EQ(Caja("FactorPeerlees")->text(), QStringLiteral("2.50"));
 
     // "Retorno" changes nothing.
-    CuandoAbra<Peerlees>([](Peerlees* t) {
+    CuandoAbra<VentanaPeerlees>([](VentanaPeerlees* t) {
         t->Vista()->setCurrentIndex(t->Vista()->Modelo().index(0, 0));
         t->findChild<QPushButton*>(QStringLiteral("Retorno"))->click();
     });
@@ -171,7 +196,7 @@ TEST_F(PantallaTanque, LaTablaDePeerlessDevuelveElFactor) {
 TEST_F(PantallaTanque, AbrirCambiaLosTitulosYVuelveAPrellenar) {
     principal = std::make_unique<QWidget>();
     principal->setWindowTitle(QStringLiteral("antes"));
-    v = std::make_unique<Hidroneumatico>(p, sp.s, d, principal.get());
+    v = std::make_unique<VentanaHidroneumatico>(p, sp.s, d, principal.get());
     v->Cargar();
     QDir().mkpath(sp.Datos(QStringLiteral("Proyectos")));
     d.archivos = {sp.CopiaDeEjemplo(QStringLiteral("Vivienda con Tanque Hidroneumatico.nivo"),

@@ -5,11 +5,11 @@
 
 #include "ApoyoPantallas.h"
 #include "analysis/ApoyoAnalisis.h"
-#include "analysis/screens/AnalisisRed.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
 #include "shell/screens/PantallasEscritorio.h"
 #include "shell/screens/VentanaPrincipal.h"
-#include "takeoff/screens/Computos.h"
-#include "tank/screens/Hidroneumatico.h"
+#include "takeoff/screens/VentanaComputos.h"
+#include "tank/screens/VentanaHidroneumatico.h"
 #include "widgets/NivoNumero.h"
 
 #include <QAction>
@@ -89,7 +89,7 @@ TEST_F(Escritorio, ElTanqueYLosComputosDesdeLaVentana) {
     d.archivos = {Muestra("Vivienda con Tanque Hidroneumatico")};
     v->EjecutarHerramienta(QStringLiteral("ID_M1_Abrir"));
     QString piezas;
-    CuandoAbra<Hidroneumatico>([&](Hidroneumatico* t) {
+    CuandoAbra<VentanaHidroneumatico>([&](VentanaHidroneumatico* t) {
         piezas = t->Caja(QStringLiteral("NumeroPiezas"))->text();
         t->accept();
     });

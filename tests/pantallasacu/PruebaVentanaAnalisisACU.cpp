@@ -186,8 +186,9 @@ TEST_F(AnalisisPantalla, SinEstanqueAvisaYSeCierra) {
 
 TEST_F(AnalisisPantalla, UnaFallaDelCalculoAvisaYSeCierra) {
     Cargar("EjemploRedA");
-    p.Diametro[4] = 0;  // no conductance can be computed for it
-    FallaAlAbrir(QStringLiteral("¡Existe un Error al Realizar el Análisis de la Red!\nRevise los Datos del Proyecto..."),
+    p.Diametro[4] = 0;  // its resistance divides by the bore: no conductance, and the fault names it
+    FallaAlAbrir(QStringLiteral("¡Existe un Error al Realizar el Análisis de la Red!\nRevise los Datos del Proyecto...\n"
+                                "Error 11: División por cero en el ramal 4 (Boli-3 - Boli-2)."),
                  QStringLiteral("Error al Realizar el Cálculo..."));
 }
 

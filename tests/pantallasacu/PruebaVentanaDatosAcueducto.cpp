@@ -11,6 +11,7 @@
 #include "widgets/NivoNumero.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QDateEdit>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -314,6 +315,12 @@ TEST_F(DatosACU, UnBloqueDeUnaColumnaPideUnSoloValor) {
               QStringLiteral("Entre el Consumo Medio de los Tramos:|Consumo Medio de los Tramos|"));
     for (int t = 1; t <= 26; ++t) EXPECT_DOUBLE_EQ(p.Demanda[t], 0.5) << t;
     EXPECT_EQ(s.DatosModificados, -1);
+    // A block over three columns asks nothing and stays selected, to be copied.
+    const int preguntas = int(falsos.preguntas.size());
+    soltar(m->index(1, 0), m->index(2, 2));
+    EXPECT_EQ(falsos.preguntas.size(), preguntas);
+    QTest::keyClick(g, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Entrada\tBoli-4\t180.00\nBoli-4\tBoli-3\t110.00"));
 }
 
 TEST_F(DatosACU, UnCoeficienteFueraDeLosLimitesSeAvisa) {
@@ -413,4 +420,38 @@ TEST_F(DatosACU, LaLongitudDeLasCoordenadasSeFijaEnLaFilaDelRamal) {
     EXPECT_EQ(falsos.Ultimo().texto, QStringLiteral("¡Limpiar los Valores de las Coordenadas!"));
     for (int i = 1; i <= 6; ++i) EXPECT_EQ(l.Caja(i)->text(), QStringLiteral("0.000")) << i;
     EXPECT_EQ(l.Longitud()->text(), QStringLiteral("0.00"));
+}
+
+TEST_F(DatosACU, LosNodosSeEscribenConEnterYSePeganDeUnaPlanilla) {
+    Abrir("EjemploRedA", falsos);
+    Boton("Siguiente")->click();
+    Boton("Siguiente")->click();
+    ASSERT_EQ(Pagina(), 3);
+    VistaGrid* g = v->Vista2();
+    const double cota5 = p.CotaTerreno[5];
+    // Four levels typed down column 3 from the first node, each with Enter.
+    g->setCurrentIndex(g->model()->index(0, 2));
+    TeclearEnVista(g, QStringLiteral("120\n100\n95\n92\n"));
+    const double tecleadas[] = {120, 100, 95, 92};
+    for (int n = 1; n <= 4; ++n) EXPECT_DOUBLE_EQ(p.CotaTerreno[n], tecleadas[n - 1]) << n;
+    EXPECT_DOUBLE_EQ(p.CotaTerreno[5], cota5);
+    EXPECT_EQ(g->currentIndex().row(), 4);
+    EXPECT_EQ(s.DatosModificados, -1);
+
+    // Four rows of level and tank copied from a spreadsheet, which ends
+    // with a line feed: each cell lands as if typed, a level of 0 shows empty.
+    s.DatosModificados = 0;
+    QGuiApplication::clipboard()->setText(QStringLiteral("81.5\t0\n80\t90\n79.25\t\n78\t95.5\n"));
+    QTest::keyClick(g, Qt::Key_V, Qt::ControlModifier);
+    Procesar();
+    const double cotas[] = {81.5, 80, 79.25, 78}, tanques[] = {0, 90, 0, 95.5};
+    const char* celdas[] = {"", "90.00", "", "95.50"};
+    for (int k = 0; k < 4; ++k) {
+        EXPECT_DOUBLE_EQ(p.CotaTerreno[5 + k], cotas[k]) << k;
+        EXPECT_DOUBLE_EQ(p.CotaBombaEstanque[5 + k], tanques[k]) << k;
+        EXPECT_EQ(Celda(g, 5 + k, 4), QString::fromLatin1(celdas[k])) << k;
+    }
+    EXPECT_EQ(Celda(g, 6, 3), QStringLiteral("80.00"));
+    EXPECT_EQ(s.DatosModificados, -1);
+    EXPECT_EQ(g->model()->rowCount(), 18);  // no row from the last line feed
 }

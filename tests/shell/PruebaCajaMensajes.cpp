@@ -8,7 +8,7 @@
 
 namespace {
 
-QStringList Visibles(const frmMsgBox& c) {
+QStringList Visibles(const VentanaMsgBox& c) {
     QStringList r;
     for (int i = 0; i < 3; ++i)
         if (!c.Boton(i)->isHidden()) r << c.Boton(i)->text();
@@ -18,9 +18,9 @@ QStringList Visibles(const frmMsgBox& c) {
 }  // namespace
 
 TEST(CajaMensajes, LasTresFormasDeBotones) {
-    frmMsgBox a(QStringLiteral("t"), QStringLiteral("e"), QStringLiteral("x"), 0, 5, 0, QImage());
-    frmMsgBox b(QStringLiteral("t"), QStringLiteral("e"), QStringLiteral("x"), 1, 0, 0, QImage());
-    frmMsgBox c(QStringLiteral("t"), QStringLiteral("e"), QStringLiteral("x"), 2, 1, 0, QImage());
+    VentanaMsgBox a(QStringLiteral("t"), QStringLiteral("e"), QStringLiteral("x"), 0, 5, 0, QImage());
+    VentanaMsgBox b(QStringLiteral("t"), QStringLiteral("e"), QStringLiteral("x"), 1, 0, 0, QImage());
+    VentanaMsgBox c(QStringLiteral("t"), QStringLiteral("e"), QStringLiteral("x"), 2, 1, 0, QImage());
     EXPECT_EQ(Visibles(a), QStringList({QStringLiteral("Aceptar")}));
     EXPECT_EQ(Visibles(b), QStringList({QStringLiteral("No"), QStringLiteral("Sí")}));
     EXPECT_EQ(Visibles(c), QStringList({QStringLiteral("Cancelar"), QStringLiteral("No"), QStringLiteral("Sí")}));
@@ -46,45 +46,46 @@ TEST(CajaMensajes, CadaBotonDevuelveSuResultado) {
     for (int forma = 0; forma < 3; ++forma)
         for (int i = 0; i < 3; ++i) {
             if (esperado[forma][i] < 0) continue;
-            CuandoAbra<frmMsgBox>([i](frmMsgBox* c) { c->Boton(i)->click(); });
-            EXPECT_EQ(frmMsgBox::MostrarMensaje(QStringLiteral("t"), QString(), QString(), forma, 0, 0, QImage()),
+            CuandoAbra<VentanaMsgBox>([i](VentanaMsgBox* c) { c->Boton(i)->click(); });
+            EXPECT_EQ(VentanaMsgBox::MostrarMensaje(QStringLiteral("t"), QString(), QString(), forma, 0, 0, QImage()),
                       esperado[forma][i])
                 << forma << " " << i;
         }
 }
 
 TEST(CajaMensajes, EscCierraAvisosYCancelaPeroNoContestaSiNo) {
-    CuandoAbra<frmMsgBox>([](frmMsgBox* c) { Tecla(c, Qt::Key_Escape); });
-    EXPECT_EQ(frmMsgBox::MostrarMensaje(QStringLiteral("t"), QString(), QString(), 0, 0, 0, QImage()), 0);
-    CuandoAbra<frmMsgBox>([](frmMsgBox* c) { Tecla(c, Qt::Key_Escape); });
-    EXPECT_EQ(frmMsgBox::MostrarMensaje(QStringLiteral("t"), QString(), QString(), 2, 2, 0, QImage()), 2);
+    CuandoAbra<VentanaMsgBox>([](VentanaMsgBox* c) { Tecla(c, Qt::Key_Escape); });
+    EXPECT_EQ(VentanaMsgBox::MostrarMensaje(QStringLiteral("t"), QString(), QString(), 0, 0, 0, QImage()), 0);
+    CuandoAbra<VentanaMsgBox>([](VentanaMsgBox* c) { Tecla(c, Qt::Key_Escape); });
+    EXPECT_EQ(VentanaMsgBox::MostrarMensaje(QStringLiteral("t"), QString(), QString(), 2, 2, 0, QImage()), 2);
     bool siguioAbierta = false;
-    CuandoAbra<frmMsgBox>([&](frmMsgBox* c) {
+    CuandoAbra<VentanaMsgBox>([&](VentanaMsgBox* c) {
         Tecla(c, Qt::Key_Escape);
         c->close();  // the close command is refused too
         siguioAbierta = c->isVisible();
         c->Boton(1)->click();
     });
-    EXPECT_EQ(frmMsgBox::MostrarMensaje(QStringLiteral("¿Salir?"), QString(), QString(), 1, 0, 0, QImage()), 1);
+    EXPECT_EQ(VentanaMsgBox::MostrarMensaje(QStringLiteral("¿Salir?"), QString(), QString(), 1, 0, 0, QImage()), 1);
     EXPECT_TRUE(siguioAbierta);
 }
 
 TEST(CajaMensajes, ElBotonPorDefectoTomaElFocoYEnterLoPulsa) {
     QString enfocado;
-    CuandoAbra<frmMsgBox>([&](frmMsgBox* c) {
+    CuandoAbra<VentanaMsgBox>([&](VentanaMsgBox* c) {
         enfocado = c->focusWidget() ? c->focusWidget()->objectName() : QString();
         Tecla(c->focusWidget() ? c->focusWidget() : c, Qt::Key_Return);
     });
-    EXPECT_EQ(frmMsgBox::MostrarMensaje(QStringLiteral("t"), QString(), QString(), 2, 5, 0, QImage()), 1);
+    EXPECT_EQ(VentanaMsgBox::MostrarMensaje(QStringLiteral("t"), QString(), QString(), 2, 5, 0, QImage()), 1);
     EXPECT_EQ(enfocado, QStringLiteral("Button3"));
 }
 
 TEST(CajaMensajes, TituloVacioYTextos) {
-    frmMsgBox c(QStringLiteral("uno\ndos"), QStringLiteral("Encabezado..."), QStringLiteral("   "), 0, 0, 2, QImage());
+    VentanaMsgBox c(QStringLiteral("uno\ndos"), QStringLiteral("Encabezado..."), QStringLiteral("   "), 0, 0, 2,
+                    QImage());
     EXPECT_EQ(c.windowTitle(), QStringLiteral("Nivo-Caja de Mensajes"));
     EXPECT_EQ(c.findChild<QLabel*>(QStringLiteral("Label1"))->text(), QStringLiteral("Encabezado..."));
     EXPECT_EQ(c.findChild<QLabel*>(QStringLiteral("Label2"))->text(), QStringLiteral("uno\ndos"));
-    frmMsgBox t(QStringLiteral("x"), QString(), QStringLiteral("Proyecto de Fontaria"), 0, 0, 0, QImage());
+    VentanaMsgBox t(QStringLiteral("x"), QString(), QStringLiteral("Proyecto de Fontaria"), 0, 0, 0, QImage());
     EXPECT_EQ(t.windowTitle(), QStringLiteral("Proyecto de Fontaria"));
 }
 
@@ -92,15 +93,15 @@ TEST(CajaMensajes, ElTextoLargoSeAjustaYLaCajaCreceEnAlto) {
     const QString corto = QStringLiteral("Corto");
     QString largo;
     for (int i = 0; i < 60; ++i) largo += QStringLiteral("palabra ");
-    frmMsgBox a(corto, QString(), QString(), 0, 0, 0, QImage());
-    frmMsgBox b(largo, QString(), QString(), 0, 0, 0, QImage());
+    VentanaMsgBox a(corto, QString(), QString(), 0, 0, 0, QImage());
+    VentanaMsgBox b(largo, QString(), QString(), 0, 0, 0, QImage());
     auto* etiqueta = b.findChild<QLabel*>(QStringLiteral("Label2"));
     EXPECT_TRUE(etiqueta->wordWrap());
     EXPECT_FALSE(a.findChild<QLabel*>(QStringLiteral("Label2"))->wordWrap());
     EXPECT_GT(b.height(), a.height());
     // Never narrower than 3900 twips with one button, 4300 with two or three.
     EXPECT_GE(a.width(), 3900 / TwipsPorPixel);
-    frmMsgBox dos(corto, QString(), QString(), 1, 0, 0, QImage());
+    VentanaMsgBox dos(corto, QString(), QString(), 1, 0, 0, QImage());
     EXPECT_GE(dos.width(), 4300 / TwipsPorPixel);
     // The width stops at the label's limit.
     EXPECT_LE(b.width(), (AnchoMaximoEtiqueta + 1200 + 400) / TwipsPorPixel + 1);

@@ -1,8 +1,8 @@
 // The settings screen: its logic, the record widths it writes to
 // Tapiz.nivo, and the Qt screen driven by its controls.
 
-#include "shell/ConfiguracionPrograma.h"
-#include "shell/screens/ConfigurarPrograma.h"
+#include "shell/ConfigurarPrograma.h"
+#include "shell/screens/VentanaConfigurarPrograma.h"
 #include "support/Apoyo.h"
 
 #include <QCheckBox>
@@ -29,7 +29,7 @@ struct Configuracion : ::testing::Test {
 }  // namespace
 
 TEST_F(Configuracion, Check2SoloConCheck1) {
-    ConfiguracionPrograma c(sp.s);
+    ConfigurarPrograma c(sp.s);
     EXPECT_FALSE(c.Check2Habilitado());
     c.PonerProporcion(true);
     EXPECT_FALSE(c.Valores().ProporcionTapiz);
@@ -43,7 +43,7 @@ TEST_F(Configuracion, UnTapizNuevoVuelveLaPosicionYElEfectoACero) {
     sp.s.Tapiz.PosicionVertical = 2;
     sp.s.Tapiz.PosicionHorizontal = 1;
     sp.s.Tapiz.EfectoTapiz = 7;
-    ConfiguracionPrograma c(sp.s);
+    ConfigurarPrograma c(sp.s);
     c.Abrir(d);  // cancelled: all stays
     EXPECT_EQ(c.Valores().PosicionVertical, 2);
     EXPECT_EQ(c.Valores().EfectoTapiz, 7);
@@ -60,7 +60,7 @@ TEST_F(Configuracion, UnTapizNuevoVuelveLaPosicionYElEfectoACero) {
 }
 
 TEST_F(Configuracion, LosColoresCanceladosSeConservan) {
-    ConfiguracionPrograma c(sp.s);
+    ConfigurarPrograma c(sp.s);
     c.ElegirColorFondo(d);
     EXPECT_EQ(c.Valores().ColorFondoTip, ColorFondoTipDefecto);
     d.colores = {0x112233, 0x445566};
@@ -85,7 +85,7 @@ TEST_F(Configuracion, AceptarEscribeLosAnchosDeLaPantalla) {
     QByteArray antes = LeerArchivo(Archivo());
     for (int n : {2, 3, 5, 7}) antes[(n - 1) * 128 + 1] = char(0x5A);
     EscribirArchivo(Archivo(), antes);
-    ConfiguracionPrograma c(sp.s);
+    ConfigurarPrograma c(sp.s);
     c.PonerVertical(2);
     c.PonerHorizontal(1);
     c.PonerAjustar(true);
@@ -122,7 +122,7 @@ TEST_F(Configuracion, AceptarEscribeLosAnchosDeLaPantalla) {
 
 TEST_F(Configuracion, LaPantallaCanceladaDejaElArchivo) {
     const QByteArray antes = LeerArchivo(Archivo());
-    ConfigurarPrograma pantalla(sp.s, d);
+    VentanaConfigurarPrograma pantalla(sp.s, d);
     pantalla.findChild<QRadioButton*>(QStringLiteral("Option3"))->setChecked(true);
     EXPECT_EQ(pantalla.Logica().Valores().PosicionVertical, 2);
     pantalla.findChild<QPushButton*>(QStringLiteral("Command5"))->click();
@@ -131,7 +131,7 @@ TEST_F(Configuracion, LaPantallaCanceladaDejaElArchivo) {
 }
 
 TEST_F(Configuracion, LaPantallaAceptadaEscribeLoQueMuestran) {
-    ConfigurarPrograma pantalla(sp.s, d);
+    VentanaConfigurarPrograma pantalla(sp.s, d);
     auto* check1 = pantalla.findChild<QCheckBox*>(QStringLiteral("Check1"));
     auto* check2 = pantalla.findChild<QCheckBox*>(QStringLiteral("Check2"));
     EXPECT_FALSE(check2->isEnabled());

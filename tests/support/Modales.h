@@ -2,13 +2,15 @@
 // Screen tests: act on the next modal window from inside its loop, read and
 // answer the program's message box, press keys and type into boxes.
 
-#include "shell/screens/frmMsgBox.h"
+#include "shell/screens/VentanaMsgBox.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -32,7 +34,7 @@ struct MensajeVisto {
 // once: each takes a box in turn.
 inline void Contestar(MensajeVisto& visto, int boton, int intentos = 100) {
     QTimer::singleShot(intentos == 100 ? 0 : 10, [&visto, boton, intentos] {
-        auto* caja = qobject_cast<frmMsgBox*>(QApplication::activeModalWidget());
+        auto* caja = qobject_cast<VentanaMsgBox*>(QApplication::activeModalWidget());
         if ((!caja || caja->property("contestada").toBool()) && intentos > 0) {
             Contestar(visto, boton, intentos - 1);
             return;
@@ -59,5 +61,21 @@ inline void Escribir(QLineEdit* caja, const QString& texto) {
     for (const QChar c : texto) {
         QKeyEvent e(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
         QApplication::sendEvent(caja, &e);
+    }
+}
+
+// Types into a grid view as a person does, key by key: each key goes to the
+// cell editor when one is open, else to the view, which opens one; '\n' is
+// Enter.  What the keys set going runs between them.
+inline void TeclearEnVista(QAbstractItemView* v, const QString& texto) {
+    for (const QChar c : texto) {
+        QWidget* destino = v;
+        for (QLineEdit* e : v->viewport()->findChildren<QLineEdit*>())
+            if (e->isVisible()) destino = e;
+        if (c == QLatin1Char('\n'))
+            QTest::keyClick(destino, Qt::Key_Return);
+        else
+            QTest::keyClick(destino, c.toLatin1());
+        for (int i = 0; i < 3; ++i) QApplication::processEvents();
     }
 }

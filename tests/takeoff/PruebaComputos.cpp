@@ -37,7 +37,7 @@ struct Computo : ::testing::Test {
 }  // namespace
 
 TEST_F(Computo, EncabezadosDeLasCuatroPaginas) {
-    Computos c;
+    PaginasComputos c;
     EXPECT_EQ(c.Piezas.Encabezado(1, 1), QStringLiteral("Piezas Sanitarias"));
     EXPECT_EQ(c.Piezas.Encabezado(1, 2), QStringLiteral("Cantidad"));
     EXPECT_EQ(c.Piezas.Encabezado(2, 2), QStringLiteral("Piezas"));
@@ -45,12 +45,12 @@ TEST_F(Computo, EncabezadosDeLasCuatroPaginas) {
     EXPECT_EQ(c.Reducciones.Encabezado(2, 2), QStringLiteral("Reduciones"));
     EXPECT_EQ(c.Tuberias.Encabezado(1, 1), QStringLiteral("Tuberías en el Proyecto"));
     EXPECT_EQ(c.Tuberias.Encabezado(2, 2), QStringLiteral("Long. (m)"));
-    EXPECT_EQ(Computos::TituloPagina(4), QStringLiteral("Tuberías"));
+    EXPECT_EQ(PaginasComputos::TituloPagina(4), QStringLiteral("Tuberías"));
 }
 
 TEST_F(Computo, LasCuatroListas) {
     Proyecto();
-    Computos c;
+    PaginasComputos c;
     CalcularComputos(c, sp.s.ConexionProyecto);
     // Fixtures by name: the sub-branch and key 0 are left out; keys 10 and 99 share a name.
     EXPECT_EQ(Filas(c.Piezas), "LAVAMANOS|6");
@@ -75,7 +75,7 @@ TEST_F(Computo, SinPiezasNiTamanosLasListasQuedanVacias) {
     ProyectoDeRamales(p, sp.s, {{"O", "A"}});
     PonerConexiones(p, 1, {{5, 1, 0.0, "CODO DE 90 GRADOS"}});
     GuardarYAbrir(p, sp);
-    Computos c;
+    PaginasComputos c;
     CalcularComputos(c, sp.s.ConexionProyecto);
     EXPECT_EQ(c.Piezas.Filas() + c.Conexiones.Filas() + c.Tuberias.Filas(), 0);
 }
@@ -87,4 +87,25 @@ TEST_F(Computo, TotalMayorQueElEnteroDesborda) {
     GuardarYAbrir(p, sp);
     Grid g;
     EXPECT_EQ(NumeroDeError([&] { CalculeComputosConexiones(g, sp.s.ConexionProyecto); }), Error::Desbordamiento);
+}
+
+TEST_F(Computo, LosNombresSeAgrupanSinMayusculasNiAcentosEnOrdenEspanol) {
+    // One row per name whatever its case or accents, under its spelling first
+    // written; "Á" sorts with "A", before "Z".
+    ProyectoDeRamales(p, sp.s, {{"O", "A"}, {"A", "B"}});
+    p.Predimensionado[1] = p.Predimensionado[2] = QStringLiteral("1");
+    p.Reduccion[1] = QStringLiteral("reducción de 1\" a 3/4\"");
+    p.Reduccion[2] = QStringLiteral("REDUCCION DE 1\" A 3/4\"");
+    PonerPiezas(p, 1, {{10, 1, 1.0, "Lavamanos"}, {10, 1, 1.0, "Zanja"}, {10, 2, 1.0, "LAVAMANOS"}});
+    PonerPiezas(p, 2, {{10, 3, 1.0, "lavamanos"}, {10, 1, 1.0, "Ázotea"}});
+    PonerConexiones(p, 1, {{12, 1, 1.0, "Ángulo especial"}, {5, 1, 0.0, "CODO DE 90 GRADOS"}});
+    PonerConexiones(p, 2, {{12, 2, 1.0, "ANGULO ESPECIAL"}});
+    GuardarYAbrir(p, sp);
+    PaginasComputos c;
+    CalcularComputos(c, sp.s.ConexionProyecto);
+    EXPECT_EQ(Filas(c.Piezas), Lineas({QStringLiteral("Ázotea|1"), QStringLiteral("Lavamanos|6"),
+                                       QStringLiteral("Zanja|1")}));
+    EXPECT_EQ(Filas(c.Conexiones), Lineas({QStringLiteral("Ángulo especial|3"),
+                                           QStringLiteral("CODO DE 90 GRADOS DE  1\"|1")}));
+    EXPECT_EQ(Filas(c.Reducciones), "REDUCCIÓN DE 1\" A 3/4\"|2");
 }

@@ -1,6 +1,8 @@
 #include "analysis/ApoyoAnalisis.h"
 #include "analysis/CargaProyecto.h"
 #include "tank/Hidroneumatico.h"
+#include "tank/Peerlees.h"
+#include "tank/ResultadosHidro.h"
 
 #include <cmath>
 
@@ -44,23 +46,45 @@ TEST(Tanque, CasosLimite) {
     DatosTanque t;
     t.Caudal = 10.0;
     t.PresionMinima = t.PresionMaxima = 25.0;  // R of 1
-    PantallaResultadosHidro r(t);
+    ResultadosHidro r(t);
     EXPECT_EQ(r.Resultado.VolumenTotal, 0.0);
     EXPECT_EQ(r.Resultado.VolumenMaximo, r.Resultado.VolumenUtil);
     EXPECT_EQ(r.PorcentajeUtil, QStringLiteral("0.00%"));
     EXPECT_EQ(r.PorcentajeMaximo, QStringLiteral("0.00%"));
     EXPECT_EQ(r.PorcentajeMinimo, QStringLiteral("10%"));
-    EXPECT_EQ(PantallaResultadosHidro::Etiquetas()[1], QStringLiteral("Voumen Total del Tanque (lts):"));
+    EXPECT_EQ(ResultadosHidro::Etiquetas()[1], QStringLiteral("Voumen Total del Tanque (lts):"));
 
     t.Arranques = 0.0;  // no starts: no volumes
     EXPECT_EQ(CalcularTanque(t).VolumenUtil, 0.0);
 
     t.Arranques = 6.0;
-    t.PresionMaxima = 20.0;  // below the minimum: a negative total, shown as it is
-    EXPECT_LT(CalcularTanque(t).VolumenTotal, 0.0);
-
+    t.PresionMinima = -20.0;
     t.PresionMaxima = -10.0;
     EXPECT_EQ(NumeroDeError([&] { CalcularTanque(t); }), Error::DivisionPorCero);
+}
+
+TEST(Tanque, CalcularRechazaUnaPresionMaximaQueNoSuperaLaMinima) {
+    // Not above the minimum, R = (Pmin + 10) / (Pmax + 10) is 1 or more: no
+    // tank, or a negative one.
+    const struct {
+        double minima, maxima;
+        bool calcula;
+    } casos[] = {{20.0, 20.0, false}, {0.0, 0.0, false},      {20.0, 19.99, false},
+                 {20.0, 5.0, false},  {20.0, 20.01, true},    {-20.0, -15.0, true}};
+    SesionPrueba sp;
+    ProyectoEdificio p;
+    for (const auto& c : casos) {
+        DialogosFalsos d;
+        Hidroneumatico pantalla(p, sp.s, d);
+        pantalla.Datos.PresionMinima = c.minima;
+        pantalla.Datos.PresionMaxima = c.maxima;
+        EXPECT_EQ(pantalla.Calcular(), c.calcula) << c.minima << " " << c.maxima;
+        ASSERT_EQ(d.mensajes.size(), c.calcula ? 0u : 1u);
+        if (!c.calcula)
+            MensajeEs(d.Ultimo(), QStringLiteral("La presión máxima debe ser mayor que la mínima."),
+                      QStringLiteral("Error en Datos del Sistema..."));
+        EXPECT_EQ(pantalla.Datos.PresionMaxima, c.maxima);
+    }
 }
 
 TEST(Tanque, TablaDePeerlessYCaptura) {
@@ -76,7 +100,7 @@ TEST(Tanque, SinProyectoOConOtraOpcionLasCajasQuedan) {
     SesionPrueba sp;
     DialogosFalsos d;
     ProyectoEdificio p;
-    PantallaHidroneumatico sin(p, sp.s, d);
+    Hidroneumatico sin(p, sp.s, d);
     sin.Datos.Caudal = 4.0;
     sin.Cargar();
     EXPECT_EQ(sin.Datos.Caudal, 4.0);
@@ -84,7 +108,7 @@ TEST(Tanque, SinProyectoOConOtraOpcionLasCajasQuedan) {
     const QString ruta = sp.CopiaDeEjemplo(QStringLiteral("Vivienda con Tanque Elevado.nivo"), QStringLiteral("t.plm"));
     QString error;
     ASSERT_TRUE(CargarProyectoEdificio(p, sp.s, ruta, error));
-    PantallaHidroneumatico otra(p, sp.s, d);
+    Hidroneumatico otra(p, sp.s, d);
     otra.Cargar();
     EXPECT_EQ(otra.Datos.Caudal, 0.0);
     EXPECT_EQ(otra.Datos.PresionMinima, 0.0);
@@ -94,7 +118,7 @@ TEST(Tanque, AbrirOtroProyecto) {
     SesionPrueba sp;
     DialogosFalsos d;
     ProyectoEdificio p;
-    PantallaHidroneumatico pantalla(p, sp.s, d);
+    Hidroneumatico pantalla(p, sp.s, d);
     EXPECT_FALSE(pantalla.Abrir());
     d.archivos = {sp.CopiaDeEjemplo(QStringLiteral("Edificio_MontantePH.nivo"), QStringLiteral("ph.plm"))};
     pantalla.Datos.NumeroMetodo = 3;
@@ -110,7 +134,7 @@ TEST(Tanque, UnaFallaAlAbrirDejaElProyectoNuevoConLosValoresPorDefecto) {
     SesionPrueba sp;
     DialogosFalsos d;
     ProyectoEdificio p;
-    PantallaHidroneumatico pantalla(p, sp.s, d);
+    Hidroneumatico pantalla(p, sp.s, d);
     // The sample computes its losses by Hazen-Williams: a C of 0 divides by zero.
     const QString ruta = sp.CopiaDeEjemplo(QStringLiteral("Edificio_MontantePH.nivo"), QStringLiteral("ph.plm"));
     ASSERT_TRUE(EjecutarSql(ruta, QStringLiteral("UPDATE DatosGenerales SET CoeficienteC=0")));

@@ -3,9 +3,11 @@
 
 #include "base/Nivo.h"
 #include "support/Apoyo.h"
+#include "support/Modales.h"
 #include "widgets/VistaGrid.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <gtest/gtest.h>
@@ -179,4 +181,148 @@ TEST(VistaGrid, RefrescarRehaceLasUnionesSoloCuandoCambian) {
     g.Vaciar();
     v.Refrescar();
     EXPECT_EQ(v.Modelo().rowCount(), 0);
+}
+
+using Ediciones = std::vector<std::tuple<int, int, QString>>;
+
+TEST(VistaGrid, EnterConfirmaYBajaUnaFila) {
+    struct Caso {
+        int fila;              // where the typing starts, in the velocities (1.00 each)
+        const char* teclas;    // '\n' is Enter
+        double valores[3];     // the velocities afterwards
+        int ediciones, filaFinal;
+    };
+    const Caso casos[] = {
+        {1, "2.5\n", {2.5, 1, 1}, 1, 2},
+        {1, "7\n8\n9\n", {7, 8, 9}, 3, 3},  // the last row keeps the cell
+        {1, "\n\n", {1, 1, 1}, 0, 3},       // Enter alone walks down
+        {2, "-4\n", {1, 1, 1}, 0, 2},        // refused below 0: the cell stays current
+    };
+    for (const Caso& caso : casos) {
+        Grid g = Ejemplo();
+        VistaGrid v;
+        v.MostrarGrid(&g);
+        v.show();
+        Ediciones ediciones;
+        v.AlEditar([&](int f, int c, const QString& t) { ediciones.emplace_back(f, c, t); });
+        v.setCurrentIndex(v.Modelo().index(caso.fila - 1, 4));
+        TeclearEnVista(&v, QString::fromLatin1(caso.teclas));
+        for (int f = 1; f <= 3; ++f) EXPECT_DOUBLE_EQ(g.Valor(f, 5), caso.valores[f - 1]) << caso.teclas << f;
+        EXPECT_EQ(int(ediciones.size()), caso.ediciones) << caso.teclas;
+        EXPECT_EQ(v.currentIndex().row() + 1, caso.filaFinal) << caso.teclas;
+        EXPECT_EQ(v.currentIndex().column(), 4) << caso.teclas;
+    }
+}
+
+TEST(VistaGrid, CopiarDaLosTextosVistosPorTabuladoresYLineas) {
+    // Ejemplo(): N1 joined over rows 1-2 of column 1, column 2 empty,
+    // flows 0.25 0.50 0.75, diameters 3/4", velocities 1.00.
+    struct Caso {
+        int f1, f2, c1, c2;
+        bool ocultarColumna2;
+        const char* esperado;
+    };
+    const Caso casos[] = {
+        {2, 2, 3, 3, false, "0.50"},
+        {1, 3, 1, 3, false, "N1\t\t0.25\n\t\t0.50\nN3\t\t0.75"},  // N2 lies under the join
+        {1, 1, 1, 5, true, "N1\t0.25\t3/4\"\t1.00"},
+        {2, 3, 4, 5, false, "3/4\"\t1.00\n3/4\"\t1.00"},
+    };
+    for (const Caso& caso : casos) {
+        Grid g = Ejemplo();
+        VistaGrid v;
+        v.MostrarGrid(&g);
+        v.setColumnHidden(1, caso.ocultarColumna2);
+        v.setCurrentIndex(v.Modelo().index(caso.f1 - 1, caso.c1 - 1));
+        v.selectionModel()->select(QItemSelection(v.Modelo().index(caso.f1 - 1, caso.c1 - 1),
+                                                  v.Modelo().index(caso.f2 - 1, caso.c2 - 1)),
+                                   QItemSelectionModel::ClearAndSelect);
+        QTest::keyClick(&v, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), QString::fromUtf8(caso.esperado)) << caso.esperado;
+    }
+}
+
+TEST(VistaGrid, PegarPasaCadaCeldaPorLaMismaEntrada) {
+    struct Caso {
+        const char* nombre;
+        int fila, columna;  // the current cell
+        const char* texto;
+        Ediciones ediciones;
+        int filaFinal, columnaFinal;
+    };
+    // Into the diameters (a list) and the velocities (numbers from 0); each
+    // edit is also a value in the grid, so the list says what was written.
+    const Caso casos[] = {
+        {"bloque con salto final", 1, 4, "1/2\"\t1.5\n1\"\t2\n",
+         {{1, 4, "1/2\""}, {1, 5, "1.50"}, {2, 4, "1\""}, {2, 5, "2.00"}}, 1, 4},
+        {"fines de línea de Windows", 2, 4, "1\"\t1.5\r\n1\"\t2\r\n",
+         {{2, 4, "1\""}, {2, 5, "1.50"}, {3, 4, "1\""}, {3, 5, "2.00"}}, 2, 4},
+        // The locked flow and the column past the edge drop their values.
+        {"bloqueadas y fuera", 1, 3, "7\t1\"\t5\t9", {{1, 4, "1\""}, {1, 5, "5.00"}}, 1, 3},
+        {"filas de más", 2, 5, "7\n8\n9\n", {{2, 5, "7.00"}, {3, 5, "8.00"}}, 2, 5},
+        // Below the column's limit, or not a number: the paste stops on that cell.
+        {"rechazo", 1, 5, "1\n-4\n6", {{1, 5, "1.00"}}, 2, 5},
+        {"texto en un número", 2, 5, "uno\n6", {}, 2, 5},
+    };
+    for (const Caso& caso : casos) {
+        Grid g = Ejemplo();
+        VistaGrid v;
+        v.MostrarGrid(&g);
+        Ediciones ediciones;
+        v.AlEditar([&](int f, int c, const QString& t) { ediciones.emplace_back(f, c, t); });
+        v.setCurrentIndex(v.Modelo().index(caso.fila - 1, caso.columna - 1));
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(caso.texto));
+        QTest::keyClick(&v, Qt::Key_V, Qt::ControlModifier);
+        QApplication::processEvents();
+        EXPECT_EQ(ediciones, caso.ediciones) << caso.nombre;
+        EXPECT_EQ(g.Texto(1, 3), QStringLiteral("0.25")) << caso.nombre;
+        EXPECT_EQ(v.currentIndex().row() + 1, caso.filaFinal) << caso.nombre;
+        EXPECT_EQ(v.currentIndex().column() + 1, caso.columnaFinal) << caso.nombre;
+    }
+}
+
+TEST(VistaGrid, UnTextoUnidoSeMideSobreSusColumnas) {
+    // 15 characters: cut in one column of 10, whole over two (a cut text
+    // in one column is checked with the widths below).
+    Grid g(3);
+    g.PonerFilas(1);
+    g.PonerTexto(1, 1, QString(15, QLatin1Char('x')));
+    g.PonerTexto(1, 3, QString(15, QLatin1Char('x')));
+    g.Unir(1, 1, 1, 2);
+    VistaGrid v;
+    v.resize(100, 100);  // no room for the columns to grow
+    v.MostrarGrid(&g);
+    EXPECT_FALSE(v.Modelo().data(v.Modelo().index(0, 0), Qt::ToolTipRole).isValid());
+    EXPECT_EQ(v.Modelo().data(v.Modelo().index(0, 2), Qt::ToolTipRole).toString(), QString(15, QLatin1Char('x')));
+}
+
+TEST(VistaGrid, LasColumnasDeTextoCrecenConElEspacioLibre) {
+    // A name of 30 characters in a text column of 8 and a number column of 8.
+    Grid g(2);
+    g.Col(1).ancho = g.Col(2).ancho = 8;
+    g.Col(2).tipo = TipoCelda::Numero;
+    g.PonerFilas(2);
+    const QString nombre(30, QLatin1Char('n'));
+    g.PonerTexto(2, 1, nombre);
+    g.PonerNumero(1, 2, 12345678.5, 2);
+    VistaGrid v;
+    v.MostrarGrid(&g);
+    v.show();
+    const int fijo = v.columnWidth(1);  // both were set to 8 characters
+    const int caracter = v.fontMetrics().averageCharWidth();
+    // Narrow, the column keeps its width and the name its tool-tip; wide,
+    // the name fits and the number column stays as set.
+    v.resize(2 * fijo, 200);
+    QApplication::processEvents();
+    EXPECT_EQ(v.columnWidth(0), fijo);
+    EXPECT_TRUE(v.Modelo().data(v.Modelo().index(1, 0), Qt::ToolTipRole).isValid());
+    v.resize(100 * caracter, 200);
+    QApplication::processEvents();
+    EXPECT_GE(v.columnWidth(0), v.fontMetrics().horizontalAdvance(nombre));
+    EXPECT_FALSE(v.Modelo().data(v.Modelo().index(1, 0), Qt::ToolTipRole).isValid());
+    EXPECT_EQ(v.columnWidth(1), fijo);
+    // A text beyond the limit of 60 characters is cut there.
+    g.PonerTexto(1, 1, QString(200, QLatin1Char('n')));
+    v.Refrescar();
+    EXPECT_LE(v.columnWidth(0), 60 * caracter);
 }

@@ -73,7 +73,7 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
         Accion([this] { logica_.AbrirProyecto(); });
         CerrarSiHaceFalta();
     });
-    // The workbook and the reports come with their own parts of the program.
+    // The aqueduct workbook and reports are not built yet: their buttons show, disabled.
     boton("LSButton4", "Exportar a Excel", [] {})->setEnabled(false);
     boton("LSButton8", "Imprimir el Análisis", [] {})->setEnabled(false);
     pie->addStretch();

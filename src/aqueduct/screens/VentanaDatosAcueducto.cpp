@@ -75,7 +75,6 @@ VentanaDatosAcueducto::VentanaDatosAcueducto(ProyectoAcueducto& p, Sesion& s, Di
     Proteger(d_, [this] { logica_.Cargar(); });
     spread1_->MostrarGrid(&logica_.Spread1);
     spread2_->MostrarGrid(&logica_.Spread2);
-    MostrarValores();
     Refrescar();
     InstalarAyudas(this, tip_, s_.Tapiz, AyudasDatosAcueducto());
     AvisarNumerosRechazados(this, d_);
@@ -226,8 +225,9 @@ QWidget* VentanaDatosAcueducto::Pagina2() {
     };
     connect(spread1_, &VistaGrid::BloqueSeleccionado, this,
             [this](int f1, int f2, int c1, int c2) {
-                Accion([&] { logica_.LlenarBloque(1, f1, f2, c1, c2); });
-                spread1_->QuitarBloque();
+                bool pregunto = false;
+                Accion([&] { pregunto = logica_.LlenarBloque(1, f1, f2, c1, c2); });
+                if (pregunto) spread1_->QuitarBloque();
             },
             Qt::QueuedConnection);
     connect(spread1_, &QWidget::customContextMenuRequested, this, &VentanaDatosAcueducto::MenuRamales);
@@ -249,8 +249,9 @@ QWidget* VentanaDatosAcueducto::Pagina3() {
     };
     connect(spread2_, &VistaGrid::BloqueSeleccionado, this,
             [this](int f1, int f2, int c1, int c2) {
-                Accion([&] { logica_.LlenarBloque(2, f1, f2, c1, c2); });
-                spread2_->QuitarBloque();
+                bool pregunto = false;
+                Accion([&] { pregunto = logica_.LlenarBloque(2, f1, f2, c1, c2); });
+                if (pregunto) spread2_->QuitarBloque();
             },
             Qt::QueuedConnection);
     return marco;
@@ -266,18 +267,11 @@ QWidget* VentanaDatosAcueducto::Botonera() {
         connect(b, &QPushButton::clicked, this, accion);
         return b;
     };
-    boton("Abrir", [this] {
-        Accion([this] { logica_.Abrir(); });
-        MostrarValores();
-    });
+    boton("Abrir", [this] { Accion([this] { logica_.Abrir(); }); });
     boton("Salvar", [this] { Accion([this] { logica_.Salvar(); }); });
-    // The data reports come with the reports of the program.
-    boton("Reportes", [] {})->setEnabled(false);
+    boton("Reportes", [] {});
     boton("Insertar", [this] { Accion([this] { logica_.Insertar(); }); });
-    boton("Eliminar", [this] {
-        Accion([this] { logica_.Eliminar(); });
-        MostrarValores();
-    });
+    boton("Eliminar", [this] { Accion([this] { logica_.Eliminar(); }); });
     boton("Compatibilidad", [this] { Accion([this] { logica_.Compatibilidad(); }); });
     boton("Longitudes", [this] { AbrirLongitudes(); });
     capa->addStretch();
@@ -289,33 +283,29 @@ QWidget* VentanaDatosAcueducto::Botonera() {
 
 QPushButton* VentanaDatosAcueducto::Boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
 
-void VentanaDatosAcueducto::MostrarValores() {
-    mostrando_ = true;
-    const ProyectoAcueducto& p = logica_.Proyecto();
-    const QString textos[4] = {p.Proyecto, p.Calculista, p.Cliente, p.Comentario};
-    for (int i = 0; i < 4; ++i) text_[i]->setText(textos[i]);
-    date1_->setDate(p.Fecha.isValid() ? p.Fecha : Hoy());
-    Marcar(consumo_, p.OpcionConsumo);
-    Marcar(diametro_, p.OpcionDiametro);
-    Marcar(porcentaje_, p.CasoPorcentaje);
-    const double numeros[4] = {p.DeltaPorcentaje, p.FactorQMax, p.FactorIncendio, p.LitrosIncendio};
-    for (int i = 0; i < 4; ++i) double_[i]->PonerValor(numeros[i]);
-    mostrando_ = false;
-}
-
 void VentanaDatosAcueducto::Refrescar() {
     mostrando_ = true;
-    setWindowTitle(logica_.Titulo());
-    paginas_->setCurrentIndex(logica_.Pagina() - 1);
-    const DatosAcueducto::Habilitados h = logica_.Botones();
+    const DatosAcueducto::Estado e = logica_.EstadoActual();
+    setWindowTitle(e.titulo);
+    paginas_->setCurrentIndex(e.pagina - 1);
+    const DatosAcueducto::Habilitados& h = e.botones;
     const std::pair<const char*, bool> estados[] = {
-        {"Abrir", h.Abrir},         {"Salvar", h.Salvar},   {"Insertar", h.Insertar},
-        {"Eliminar", h.Eliminar},   {"Compatibilidad", h.Compatibilidad}, {"Longitudes", h.Longitudes},
-        {"Anterior", h.Anterior},   {"Siguiente", h.Siguiente}};
+        {"Abrir", h.Abrir},         {"Salvar", h.Salvar},   {"Reportes", h.Reportes},
+        {"Insertar", h.Insertar},   {"Eliminar", h.Eliminar}, {"Compatibilidad", h.Compatibilidad},
+        {"Longitudes", h.Longitudes}, {"Anterior", h.Anterior}, {"Siguiente", h.Siguiente}};
     for (const auto& [nombre, si] : estados) Boton(QString::fromLatin1(nombre))->setEnabled(si);
+    // A box is set only when its value changed, so that what is being typed stays.
+    for (int i = 0; i < 4; ++i)
+        if (text_[i]->text() != e.textos[i]) text_[i]->setText(e.textos[i]);
+    if (date1_->date() != e.fecha) date1_->setDate(e.fecha);
+    Marcar(consumo_, e.opcionConsumo);
+    Marcar(diametro_, e.opcionDiametro);
+    Marcar(porcentaje_, e.casoPorcentaje);
+    for (int i = 0; i < 4; ++i)
+        if (double_[i]->Valor() != e.numeros[i] || double_[i]->text().isEmpty()) double_[i]->PonerValor(e.numeros[i]);
     double_[0]->setEnabled(h.Double1);
-    long1_->PonerValor(logica_.Long1());
-    long2_->PonerValor(logica_.Long2());
+    long1_->PonerValor(e.long1);
+    long2_->PonerValor(e.long2);
     for (VistaGrid* v : {spread1_, spread2_}) {
         v->Refrescar();
         v->MostrarActiva();
@@ -328,7 +318,7 @@ void VentanaDatosAcueducto::Refrescar() {
     case DatosAcueducto::Foco::Spread2: spread2_->setFocus(); break;
     case DatosAcueducto::Foco::PrimerControl: {
         QWidget* primeros[3] = {text_[0], long2_, spread2_};
-        primeros[logica_.Pagina() - 1]->setFocus();
+        primeros[e.pagina - 1]->setFocus();
         break;
     }
     case DatosAcueducto::Foco::Ninguno: break;
@@ -348,22 +338,13 @@ void VentanaDatosAcueducto::Accion(const std::function<void()>& accion) {
 }
 
 void VentanaDatosAcueducto::EditarCelda(int grid, int fila, int columna, const QString& texto) {
-    // A number cell hands over the number it holds, as typed, not its
-    // rounded picture.
-    Proteger(d_, [&] {
-        const Grid& g = grid == 1 ? logica_.Spread1 : logica_.Spread2;
-        const bool numero = g.EsNumero(fila, columna);
-        if (grid == 1)
-            numero ? logica_.EditarRamal(fila, columna, g.Valor(fila, columna))
-                   : logica_.EditarRamal(fila, columna, texto);
-        else
-            logica_.EditarNodo(fila, columna, g.Valor(fila, columna));
-    });
+    // The report comes after the editor closed: no edit is left to hand over.
+    Proteger(d_, [&] { logica_.EditarCelda(grid, fila, columna, texto); });
     Refrescar();
 }
 
 void VentanaDatosAcueducto::MenuRamales(const QPoint& donde) {
-    if (logica_.Pagina() != 2) return;
+    if (!logica_.Botones().MenuRamales) return;
     const QModelIndex i = spread1_->indexAt(donde);
     if (i.isValid()) spread1_->setCurrentIndex(i);
     QMenu menu(this);
@@ -373,10 +354,8 @@ void VentanaDatosAcueducto::MenuRamales(const QPoint& donde) {
         QAction* accion = menu.addAction(a.texto);
         accion->setObjectName(a.control);
         const bool insertar = a.control == QLatin1String("ID_Insertar");
-        connect(accion, &QAction::triggered, this, [this, insertar] {
-            Accion([this, insertar] { insertar ? logica_.Insertar() : logica_.Eliminar(); });
-            MostrarValores();
-        });
+        connect(accion, &QAction::triggered, this,
+                [this, insertar] { Accion([this, insertar] { insertar ? logica_.Insertar() : logica_.Eliminar(); }); });
     }
     menu.exec(spread1_->viewport()->mapToGlobal(donde));
 }
@@ -402,8 +381,9 @@ void VentanaDatosAcueducto::AbrirCoeficientes() {
 }
 
 void VentanaDatosAcueducto::AbrirLongitudes() {
-    Accion([this] { logica_.Longitudes(); });
-    if (logica_.Spread1.Filas() == 0) return;
+    bool abrir = false;
+    Accion([this, &abrir] { abrir = logica_.Longitudes(); });
+    if (!abrir) return;
     VentanaLongitudTramosAcu longitudes(logica_, [this] { Refrescar(); }, this);
     AvisarNumerosRechazados(&longitudes, d_);
     longitudes.exec();

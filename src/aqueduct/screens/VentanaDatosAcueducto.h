@@ -2,8 +2,8 @@
 // The data screen of an aqueduct project, "Datos Generales del Acueducto":
 // three pages walked with "Anterior" and "Siguiente" (general data, the
 // sections in Spread1, the nodes in Spread2) and the buttons at the bottom.
-// Every event goes to the logic of DatosAcueducto; the screen draws what
-// the logic then holds.
+// Every event goes to the logic of DatosAcueducto; after it the screen
+// draws itself whole from the logic's state, through Refrescar alone.
 
 #include "aqueduct/DatosAcueducto.h"
 
@@ -35,7 +35,8 @@ public:
 
     // Closes an open cell editor and hands every typed value to the logic.
     void TerminarEdicion();
-    // Draws the logic's state: title, page, buttons, boxes, grids, focus.
+    // Draws the logic's state: title, page, buttons, every box, grids, focus.
+    // A box already showing its value is left as typed.
     void Refrescar();
 
 public Q_SLOTS:
@@ -47,7 +48,6 @@ private:
     QWidget* Pagina2();
     QWidget* Pagina3();
     QWidget* Botonera();
-    void MostrarValores();
     // Every action: typed cells handed over first, a fault shown, the screen drawn.
     void Accion(const std::function<void()>& accion);
     void EditarCelda(int grid, int fila, int columna, const QString& texto);

@@ -1,6 +1,6 @@
 #include "shell/screens/DialogosQt.h"
 
-#include "shell/screens/frmMsgBox.h"
+#include "shell/screens/VentanaMsgBox.h"
 #include "widgets/Colores.h"
 
 #include <QApplication>
@@ -42,7 +42,7 @@ std::optional<QString> Dialogo(bool guardar, const QString& titulo, const QStrin
 int DialogosQt::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
                                int defecto, int icono, const QImage& imagen) {
     PunteroEnPausa pausa;
-    return frmMsgBox::MostrarMensaje(texto, encabezado, titulo, botones, defecto, icono, imagen, Padre());
+    return VentanaMsgBox::MostrarMensaje(texto, encabezado, titulo, botones, defecto, icono, imagen, Padre());
 }
 
 std::optional<QString> DialogosQt::AbrirArchivo(const QString& titulo, const QString& filtro, const QString& carpeta) {

@@ -1,13 +1,13 @@
 #include "shell/screens/PantallasEscritorio.h"
 
-#include "analysis/screens/AnalisisRed.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
 #include "aqueduct/screens/VentanaAnalisisACU.h"
 #include "aqueduct/screens/VentanaDatosAcueducto.h"
-#include "shell/screens/ConfigurarPrograma.h"
+#include "shell/screens/VentanaConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
-#include "shell/screens/Sobre.h"
-#include "takeoff/screens/Computos.h"
-#include "tank/screens/Hidroneumatico.h"
+#include "shell/screens/VentanaSobre.h"
+#include "takeoff/screens/VentanaComputos.h"
+#include "tank/screens/VentanaHidroneumatico.h"
 
 bool PantallasEscritorio::Disponible(Pantalla p) const {
     switch (p) {
@@ -34,7 +34,7 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
         break;
     }
     case Pantalla::Hidroneumatico: {
-        Hidroneumatico pantalla(p_, s_, d_, ventana_);
+        VentanaHidroneumatico pantalla(p_, s_, d_, ventana_);
         // A fault in the pre-filling has been shown; the boxes can be typed.
         pantalla.Cargar();
         pantalla.exec();
@@ -46,12 +46,12 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
         break;
     }
     case Pantalla::ConfigurarPrograma: {
-        ConfigurarPrograma pantalla(s_, d_, ventana_);
+        VentanaConfigurarPrograma pantalla(s_, d_, ventana_);
         pantalla.exec();
         break;
     }
     case Pantalla::Sobre: {
-        Sobre pantalla(ventana_);
+        VentanaSobre pantalla(ventana_);
         pantalla.exec();
         break;
     }

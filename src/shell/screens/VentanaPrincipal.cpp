@@ -3,7 +3,7 @@
 #include "shell/Herramientas.h"
 #include "shell/Inicio.h"
 #include "shell/Sesion.h"
-#include "shell/screens/frmMsgBox.h"
+#include "shell/screens/VentanaMsgBox.h"
 #include "widgets/NivoTab.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/PanelTapiz.h"
@@ -157,7 +157,7 @@ void VentanaPrincipal::CrearBarra() {
 QString VentanaPrincipal::TextoBanner() const { return banner_->text(); }
 
 void VentanaPrincipal::Arrancar(const QString& rutaPrograma) {
-    // Step 1: tips and the caption with no project.
+    // The tips and the caption come first, while no project is open.
     ConfigurarToolTips(this, tip_, s_.Tapiz);
     Refrescar();
     // The session's start, the first mode's menus, the banner.

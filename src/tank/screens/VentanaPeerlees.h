@@ -12,12 +12,12 @@ class NivoToolTip;
 class VistaGrid;
 struct Sesion;
 
-class Peerlees : public QDialog {
+class VentanaPeerlees : public QDialog {
     Q_OBJECT
 public:
-    Peerlees(Sesion& s, Dialogos& d, QWidget* padre = nullptr);
+    VentanaPeerlees(Sesion& s, Dialogos& d, QWidget* padre = nullptr);
     // The views let go of the grids before the logic that owns them goes.
-    ~Peerlees() override;
+    ~VentanaPeerlees() override;
 
     VistaGrid* Vista() const { return vista_; }
     Grid& Tabla() { return tabla_; }

@@ -2,7 +2,7 @@
 // The screen "CÁLCULO DE TANQUE HIDRONUEMÁTICO": the three methods of the
 // pump flow with their boxes, the pressures, starts and suction, the kind of
 // tank, and the buttons "Abrir", "Calcular" and "Retorno".  Each box writes
-// its input as it changes; the logic is PantallaHidroneumatico.
+// its input as it changes; the logic is Hidroneumatico.
 
 #include "tank/Hidroneumatico.h"
 
@@ -13,17 +13,17 @@ class QRadioButton;
 class NivoNumero;
 class NivoToolTip;
 
-class Hidroneumatico : public QDialog {
+class VentanaHidroneumatico : public QDialog {
     Q_OBJECT
 public:
-    Hidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre = nullptr);
+    VentanaHidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre = nullptr);
 
     // The load: the pre-filling from the project and the defaults.  False
     // when a fault of the calculation was shown; the boxes then hold the
     // defaults and the screen can still be used.
     bool Cargar();
 
-    PantallaHidroneumatico& Logica() { return logica_; }
+    Hidroneumatico& Logica() { return logica_; }
     // A box by the name of its input ("Caudal", "Porcentaje", "Dotacion",
     // "NumeroPiezas", "FactorPeerlees", "PresionMinima", "PresionMaxima",
     // "Arranques", "Succion").
@@ -50,7 +50,7 @@ private:
 
     Sesion& s_;
     Dialogos& d_;
-    PantallaHidroneumatico logica_;
+    Hidroneumatico logica_;
     QRadioButton* metodo_[3];
     QRadioButton* tanque_[2];
     NivoNumero* piezas_ = nullptr;

@@ -1,14 +1,14 @@
-#include "shell/screens/Sobre.h"
+#include "shell/screens/VentanaSobre.h"
 
 #include "shell/MenuPrincipal.h"
-#include "shell/screens/frmMsgBox.h"
+#include "shell/screens/VentanaMsgBox.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-Sobre::Sobre(QWidget* padre) : QDialog(padre) {
+VentanaSobre::VentanaSobre(QWidget* padre) : QDialog(padre) {
     setObjectName(QStringLiteral("Sobre"));
     setWindowTitle(QStringLiteral("Sobre Nivo-Fontaria"));
     auto* capa = new QHBoxLayout(this);

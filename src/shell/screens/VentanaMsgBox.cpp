@@ -1,4 +1,4 @@
-#include "shell/screens/frmMsgBox.h"
+#include "shell/screens/VentanaMsgBox.h"
 
 #include "shell/CajaMensajes.h"
 
@@ -65,8 +65,8 @@ QIcon IconoPrograma() {
     return QIcon(pm);
 }
 
-frmMsgBox::frmMsgBox(const QString& texto, const QString& encabezado, const QString& titulo, int botones, int defecto,
-                     int icono, const QImage& imagen, QWidget* padre)
+VentanaMsgBox::VentanaMsgBox(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
+                             int defecto, int icono, const QImage& imagen, QWidget* padre)
     : QDialog(padre), botones_(botones < 0 || botones > 2 ? 0 : botones) {
     setObjectName(QStringLiteral("frmMsgBox"));
     setModal(true);
@@ -115,7 +115,7 @@ frmMsgBox::frmMsgBox(const QString& texto, const QString& encabezado, const QStr
     Disponer(texto, encabezado);
 }
 
-void frmMsgBox::Disponer(const QString& texto, const QString& encabezado) {
+void VentanaMsgBox::Disponer(const QString& texto, const QString& encabezado) {
     encabezado_->setText(encabezado);
     texto_->setText(texto);
     const QFontMetrics mc(encabezado_->font()), mt(texto_->font());
@@ -154,25 +154,25 @@ void frmMsgBox::Disponer(const QString& texto, const QString& encabezado) {
     setFixedSize(Px(m.anchoVentana), Px(alto));
 }
 
-int frmMsgBox::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
-                              int defecto, int icono, const QImage& imagen, QWidget* padre) {
+int VentanaMsgBox::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
+                                  int defecto, int icono, const QImage& imagen, QWidget* padre) {
     if (!padre) padre = QApplication::activeWindow();
-    frmMsgBox caja(texto, encabezado, titulo, botones, defecto, icono, imagen, padre);
+    VentanaMsgBox caja(texto, encabezado, titulo, botones, defecto, icono, imagen, padre);
     caja.exec();
     return caja.Cerrado();
 }
 
-void frmMsgBox::Terminar(int resultado) {
+void VentanaMsgBox::Terminar(int resultado) {
     cerrado_ = resultado;
     terminado_ = true;
     done(QDialog::Accepted);
 }
 
-void frmMsgBox::reject() {
+void VentanaMsgBox::reject() {
     if (const auto r = ResultadoEscape(botones_)) Terminar(*r);
 }
 
-void frmMsgBox::closeEvent(QCloseEvent* e) {
+void VentanaMsgBox::closeEvent(QCloseEvent* e) {
     if (terminado_) {
         QDialog::closeEvent(e);
         return;
@@ -187,7 +187,7 @@ void frmMsgBox::closeEvent(QCloseEvent* e) {
     QDialog::closeEvent(e);
 }
 
-void frmMsgBox::showEvent(QShowEvent* e) {
+void VentanaMsgBox::showEvent(QShowEvent* e) {
     QDialog::showEvent(e);
     if (!enfocado_) {
         enfocado_ = true;
@@ -195,7 +195,7 @@ void frmMsgBox::showEvent(QShowEvent* e) {
     }
 }
 
-void frmMsgBox::resizeEvent(QResizeEvent* e) {
+void VentanaMsgBox::resizeEvent(QResizeEvent* e) {
     QDialog::resizeEvent(e);
     const int ancho = width() - Px(60);
     panel_->resize(ancho, panel_->height());

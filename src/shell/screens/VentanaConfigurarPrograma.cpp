@@ -1,4 +1,4 @@
-#include "shell/screens/ConfigurarPrograma.h"
+#include "shell/screens/VentanaConfigurarPrograma.h"
 
 #include "base/Dialogos.h"
 #include "shell/Sesion.h"
@@ -48,7 +48,7 @@ QPushButton* Boton(const QString& nombre, const QString& texto, const QString& t
 
 }  // namespace
 
-ConfigurarPrograma::ConfigurarPrograma(Sesion& s, Dialogos& d, QWidget* padre)
+VentanaConfigurarPrograma::VentanaConfigurarPrograma(Sesion& s, Dialogos& d, QWidget* padre)
     : QDialog(padre), s_(s), d_(d), logica_(s) {
     setObjectName(QStringLiteral("ConfigurarPrograma"));
     setWindowTitle(QStringLiteral("Configuración"));
@@ -77,9 +77,9 @@ ConfigurarPrograma::ConfigurarPrograma(Sesion& s, Dialogos& d, QWidget* padre)
     ConfigurarToolTips(this, tip_, s_.Tapiz);
 }
 
-QGroupBox* ConfigurarPrograma::GrupoOpciones(const QString& titulo, std::array<const char*, 3> nombres,
-                                             std::array<const char*, 3> textos, QRadioButton* (&botones)[3],
-                                             void (ConfiguracionPrograma::*poner)(int)) {
+QGroupBox* VentanaConfigurarPrograma::GrupoOpciones(const QString& titulo, std::array<const char*, 3> nombres,
+                                                    std::array<const char*, 3> textos, QRadioButton* (&botones)[3],
+                                                    void (ConfigurarPrograma::*poner)(int)) {
     auto* grupo = new QGroupBox(titulo);
     auto* capa = new QVBoxLayout(grupo);
     for (int i = 0; i < 3; ++i) {
@@ -96,7 +96,7 @@ QGroupBox* ConfigurarPrograma::GrupoOpciones(const QString& titulo, std::array<c
     return grupo;
 }
 
-QWidget* ConfigurarPrograma::PaginaTapiz() {
+QWidget* VentanaConfigurarPrograma::PaginaTapiz() {
     auto* pagina = new QWidget(this);
     auto* capa = new QGridLayout(pagina);
     image1_ = new PanelTapiz(pagina);
@@ -123,9 +123,9 @@ QWidget* ConfigurarPrograma::PaginaTapiz() {
     // Option1..3 give record 2 the values 0, 1, 2; Option5, Option4, Option6
     // give record 3 the values 0, 1, 2.
     auto* v = GrupoOpciones(QStringLiteral("Posición Vertical"), {"Option1", "Option2", "Option3"},
-                            {"Centro", "Arriba", "Abajo"}, vertical_, &ConfiguracionPrograma::PonerVertical);
+                            {"Centro", "Arriba", "Abajo"}, vertical_, &ConfigurarPrograma::PonerVertical);
     auto* h = GrupoOpciones(QStringLiteral("Posición Horizontal"), {"Option5", "Option4", "Option6"},
-                            {"Izquierda", "Centro", "Derecha"}, horizontal_, &ConfiguracionPrograma::PonerHorizontal);
+                            {"Izquierda", "Centro", "Derecha"}, horizontal_, &ConfigurarPrograma::PonerHorizontal);
     auto* posiciones = new QHBoxLayout;
     posiciones->addWidget(v);
     posiciones->addWidget(h);
@@ -158,13 +158,13 @@ QWidget* ConfigurarPrograma::PaginaTapiz() {
     return pagina;
 }
 
-QWidget* ConfigurarPrograma::PaginaTip() {
+QWidget* VentanaConfigurarPrograma::PaginaTip() {
     auto* pagina = new QWidget(this);
     auto* capa = new QGridLayout(pagina);
     capa->addWidget(new QLabel(QStringLiteral("Tamaño de la Letra:"), pagina), 0, 0);
     combo1_ = new QComboBox(pagina);
     combo1_->setObjectName(QStringLiteral("Combo1"));
-    combo1_->addItems(ConfiguracionPrograma::TamanosLetra());
+    combo1_->addItems(ConfigurarPrograma::TamanosLetra());
     capa->addWidget(combo1_, 0, 1);
     connect(combo1_, &QComboBox::currentIndexChanged, this, [this](int i) {
         if (!mostrando_) {
@@ -194,13 +194,13 @@ QWidget* ConfigurarPrograma::PaginaTip() {
 
     auto* predefinidos = new QGroupBox(QStringLiteral("Colores Predefinidos"), pagina);
     auto* cp = new QHBoxLayout(predefinidos);
-    for (int i = 0; i < ConfiguracionPrograma::ColoresPredefinidos().size(); ++i) {
+    for (int i = 0; i < ConfigurarPrograma::ColoresPredefinidos().size(); ++i) {
         auto* l = new EtiquetaColor(QStringLiteral(" Abc "), predefinidos);
         l->setObjectName(QStringLiteral("LSLabel%1").arg(i + 3));
         l->setToolTip(QStringLiteral(" Haga Clic para Seleccionar el Color "));
         l->setAlignment(Qt::AlignCenter);
         l->setCursor(Qt::PointingHandCursor);
-        const ParColores par = ConfiguracionPrograma::ColoresPredefinidos()[i];
+        const ParColores par = ConfigurarPrograma::ColoresPredefinidos()[i];
         PintarMuestra(l, par.fondo, par.texto);
         l->alClic = [this, i] {
             logica_.PonerColoresPredefinidos(i);
@@ -252,7 +252,7 @@ QWidget* ConfigurarPrograma::PaginaTip() {
     return pagina;
 }
 
-void ConfigurarPrograma::Mostrar() {
+void VentanaConfigurarPrograma::Mostrar() {
     mostrando_ = true;
     const ConfiguracionTapiz& v = logica_.Valores();
     ruta_->setText(v.RutaTapiz);
@@ -270,7 +270,7 @@ void ConfigurarPrograma::Mostrar() {
     mostrando_ = false;
 }
 
-void ConfigurarPrograma::keyPressEvent(QKeyEvent* e) {
+void VentanaConfigurarPrograma::keyPressEvent(QKeyEvent* e) {
     if (e->key() == Qt::Key_Escape) {
         reject();
         return;

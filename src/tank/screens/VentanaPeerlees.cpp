@@ -1,7 +1,7 @@
-#include "tank/screens/Peerlees.h"
+#include "tank/screens/VentanaPeerlees.h"
 
 #include "shell/Sesion.h"
-#include "tank/Hidroneumatico.h"
+#include "tank/Peerlees.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
 #include "widgets/VistaGrid.h"
@@ -13,7 +13,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-Peerlees::Peerlees(Sesion& s, Dialogos& d, QWidget* padre) : QDialog(padre), d_(d), tabla_(TablaPeerlees()) {
+VentanaPeerlees::VentanaPeerlees(Sesion& s, Dialogos& d, QWidget* padre)
+    : QDialog(padre), d_(d), tabla_(TablaPeerlees()) {
     setObjectName(QStringLiteral("Peerlees"));
     setWindowTitle(QStringLiteral("Tabla de Peerlees"));
     tip_ = new NivoToolTip(this);
@@ -35,7 +36,7 @@ Peerlees::Peerlees(Sesion& s, Dialogos& d, QWidget* padre) : QDialog(padre), d_(
     pie->addWidget(capturar);
     pie->addWidget(retorno);
     capa->addLayout(pie);
-    connect(capturar, &QPushButton::clicked, this, &Peerlees::Capturar);
+    connect(capturar, &QPushButton::clicked, this, &VentanaPeerlees::Capturar);
     connect(retorno, &QPushButton::clicked, this, &QDialog::reject);
     PonerCentrado(this, capa);
     ConfigurarToolTips(this, tip_, s.Tapiz);
@@ -49,9 +50,9 @@ Peerlees::Peerlees(Sesion& s, Dialogos& d, QWidget* padre) : QDialog(padre), d_(
                          columnas->sizeHint().height() + filas->length() + marcoVista);
 }
 
-Peerlees::~Peerlees() { vista_->MostrarGrid(nullptr); }
+VentanaPeerlees::~VentanaPeerlees() { vista_->MostrarGrid(nullptr); }
 
-void Peerlees::Capturar() {
+void VentanaPeerlees::Capturar() {
     if (SinFallaDeCalculo(d_, [this] {
             capturado_ = CapturarFactorPeerlees(tabla_, tabla_.FilaActiva(), tabla_.ColumnaActiva());
         }))

@@ -1,9 +1,9 @@
-#include "tank/screens/Hidroneumatico.h"
+#include "tank/screens/VentanaHidroneumatico.h"
 
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
-#include "tank/screens/Peerlees.h"
-#include "tank/screens/ResultadosHidro.h"
+#include "tank/screens/VentanaPeerlees.h"
+#include "tank/screens/VentanaResultadosHidro.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
@@ -31,7 +31,7 @@ QLabel* Nota(const char* texto, QWidget* padre) {
 
 }  // namespace
 
-Hidroneumatico::Hidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre)
+VentanaHidroneumatico::VentanaHidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre)
     : QDialog(padre), s_(s), d_(d), logica_(p, s, d) {
     setObjectName(QStringLiteral("Hidroneumatico"));
     tip_ = new NivoToolTip(this);
@@ -50,8 +50,8 @@ Hidroneumatico::Hidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWid
     pie->addWidget(calcular);
     pie->addWidget(retorno);
     capa->addLayout(pie);
-    connect(abrir, &QPushButton::clicked, this, &Hidroneumatico::Abrir);
-    connect(calcular, &QPushButton::clicked, this, &Hidroneumatico::Calcular);
+    connect(abrir, &QPushButton::clicked, this, &VentanaHidroneumatico::Abrir);
+    connect(calcular, &QPushButton::clicked, this, &VentanaHidroneumatico::Calcular);
     connect(retorno, &QPushButton::clicked, this, &QDialog::accept);
     PonerCentrado(this, capa);
 
@@ -61,7 +61,7 @@ Hidroneumatico::Hidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWid
     Mostrar();
 }
 
-NivoNumero* Hidroneumatico::NuevaCaja(const QString& nombre, int decimales, double* variable, QWidget* padre) {
+NivoNumero* VentanaHidroneumatico::NuevaCaja(const QString& nombre, int decimales, double* variable, QWidget* padre) {
     auto* caja = new NivoNumero(decimales, padre);
     caja->setObjectName(nombre);
     caja->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("000,000.00")) + 16);
@@ -71,7 +71,7 @@ NivoNumero* Hidroneumatico::NuevaCaja(const QString& nombre, int decimales, doub
     return caja;
 }
 
-QWidget* Hidroneumatico::Metodos() {
+QWidget* VentanaHidroneumatico::Metodos() {
     auto* marco = new QGroupBox(QStringLiteral("Seleccione el Método del Cálculo"), this);
     auto* capa = new QGridLayout(marco);
     DatosTanque& t = logica_.Datos;
@@ -108,7 +108,7 @@ QWidget* Hidroneumatico::Metodos() {
     auto* tabla = BotonNivo(QStringLiteral("Peerless"), QStringLiteral("Tabla de Peerles"), marco, std::nullopt,
                             QStringLiteral("Tabla de factores de consumo \nrecomendado por Peerless)"));
     capa->addWidget(tabla, 2, 4);
-    connect(tabla, &QPushButton::clicked, this, &Hidroneumatico::TablaPeerless);
+    connect(tabla, &QPushButton::clicked, this, &VentanaHidroneumatico::TablaPeerless);
 
     auto* notas = new QVBoxLayout;
     notas->addWidget(Nota("Método 1: El Caudal de Bombeo se asume como un porcentaje del caudal máximo probable. "
@@ -128,7 +128,7 @@ QWidget* Hidroneumatico::Metodos() {
     return marco;
 }
 
-QWidget* Hidroneumatico::Sistema() {
+QWidget* VentanaHidroneumatico::Sistema() {
     auto* fila = new QWidget(this);
     auto* capa = new QHBoxLayout(fila);
     capa->setContentsMargins(0, 0, 0, 0);
@@ -173,11 +173,11 @@ QWidget* Hidroneumatico::Sistema() {
     return fila;
 }
 
-NivoNumero* Hidroneumatico::Caja(const QString& nombre) const { return findChild<NivoNumero*>(nombre); }
+NivoNumero* VentanaHidroneumatico::Caja(const QString& nombre) const { return findChild<NivoNumero*>(nombre); }
 
-QPushButton* Hidroneumatico::Boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
+QPushButton* VentanaHidroneumatico::Boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
 
-void Hidroneumatico::Mostrar() {
+void VentanaHidroneumatico::Mostrar() {
     mostrando_ = true;
     const DatosTanque& t = logica_.Datos;
     const std::pair<const char*, double> valores[] = {
@@ -200,7 +200,7 @@ void Hidroneumatico::Mostrar() {
     mostrando_ = false;
 }
 
-bool Hidroneumatico::Cargar() {
+bool VentanaHidroneumatico::Cargar() {
     const bool bien = SinFallaDeCalculo(d_, [this] {
         CursorEspera espera;
         logica_.Cargar();
@@ -209,20 +209,21 @@ bool Hidroneumatico::Cargar() {
     return bien;
 }
 
-void Hidroneumatico::Calcular() {
-    ResultadosHidro resultados(logica_.Datos, s_, this);
+void VentanaHidroneumatico::Calcular() {
+    if (!logica_.Calcular()) return;
+    VentanaResultadosHidro resultados(logica_.Datos, s_, this);
     // A fault of the sizing ends the calculation; the inputs stay.
     if (SinFallaDeCalculo(d_, [&] { resultados.Cargar(); })) resultados.exec();
 }
 
-void Hidroneumatico::TablaPeerless() {
-    Peerlees tabla(s_, d_, this);
+void VentanaHidroneumatico::TablaPeerless() {
+    VentanaPeerlees tabla(s_, d_, this);
     if (tabla.exec() != QDialog::Accepted) return;
     logica_.PonerFactorPeerlees(tabla.Capturado());
     Mostrar();
 }
 
-void Hidroneumatico::Abrir() {
+void VentanaHidroneumatico::Abrir() {
     bool abierto = false;
     // A fault in the pre-filling comes after the load: the new project stands.
     if (SinFallaDeCalculo(d_, [&] { abierto = logica_.Abrir(); }) && !abierto) return;

@@ -1,7 +1,8 @@
 #pragma once
 // The program's message box, the only one it uses: an icon, a head line
 // (Label1), the body (Label2) and one of three button forms, sized to its
-// text.  Yes/No boxes have no close command and ignore Esc.
+// text.  Yes/No boxes have no close command and ignore Esc.  The screen is
+// frmMsgBox; its rules are in shell/CajaMensajes.h.
 
 #include <QDialog>
 #include <QImage>
@@ -10,11 +11,11 @@ class QLabel;
 class QPushButton;
 class QFrame;
 
-class frmMsgBox : public QDialog {
+class VentanaMsgBox : public QDialog {
     Q_OBJECT
 public:
-    frmMsgBox(const QString& texto, const QString& encabezado, const QString& titulo, int botones, int defecto,
-              int icono, const QImage& imagen, QWidget* padre = nullptr);
+    VentanaMsgBox(const QString& texto, const QString& encabezado, const QString& titulo, int botones, int defecto,
+                  int icono, const QImage& imagen, QWidget* padre = nullptr);
 
     // Shows the box modally; 1 "Sí", 0 "No" or "Aceptar", 2 "Cancelar".
     static int MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,

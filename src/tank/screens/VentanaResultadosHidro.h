@@ -3,7 +3,7 @@
 // tank at its load and shows the seven results under the method's title, the
 // volumes in percent and a sketch of the tank.
 
-#include "tank/Hidroneumatico.h"
+#include "tank/ResultadosHidro.h"
 
 #include <QDialog>
 #include <optional>
@@ -12,10 +12,10 @@ class QGroupBox;
 class QLabel;
 class NivoToolTip;
 
-class ResultadosHidro : public QDialog {
+class VentanaResultadosHidro : public QDialog {
     Q_OBJECT
 public:
-    ResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* padre = nullptr);
+    VentanaResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* padre = nullptr);
 
     // The sizing; a fault of it (ErrorEjecucion) leaves the screen unshown.
     void Cargar();

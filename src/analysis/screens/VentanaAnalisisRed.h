@@ -37,12 +37,17 @@ public:
     NivoDouble* Double1() const { return double1_; }
     QGroupBox* Frame3() const { return frame3_; }
     QLabel* SSPanel1() const { return panel_; }
+    // The status lines under the grids: nodes with a negative pressure, and
+    // the warning of a network with errors (hidden while it is sound).
+    QLabel* PresionNegativa() const { return presionNegativa_; }
+    QLabel* AvisoErrorRed() const { return avisoRed_; }
     NivoToolTip* Tip() const { return tip_; }
     // A button by its control name ("LSButton1" ...).
     QPushButton* Boton(const QString& nombre) const;
 
 private:
     QWidget* Botonera();
+    QWidget* LineaEstado();
     void CambiarTab(int tab);
     void EditarSpread4(int fila, int columna, const QString& texto);
     void EditarSpread3(int fila, int columna, const QString& texto);
@@ -61,5 +66,7 @@ private:
     QGroupBox* frame3_;
     NivoDouble* double1_;
     QLabel* panel_;
+    QLabel* presionNegativa_;
+    QLabel* avisoRed_;
     NivoToolTip* tip_;
 };

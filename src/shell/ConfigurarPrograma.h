@@ -16,9 +16,9 @@ struct ParColores {
     int texto;
 };
 
-class ConfiguracionPrograma {
+class ConfigurarPrograma {
 public:
-    explicit ConfiguracionPrograma(const Sesion& s);
+    explicit ConfigurarPrograma(const Sesion& s);
 
     const ConfiguracionTapiz& Valores() const { return valores_; }
 

@@ -1,4 +1,4 @@
-#include "analysis/screens/AnalisisRed.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
 
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
@@ -15,6 +15,17 @@
 #include <QStackedWidget>
 #include <QStyle>
 #include <QVBoxLayout>
+
+namespace {
+
+// Red for a figure that cannot be right, the palette's own colour otherwise.
+void ColorTexto(QLabel* l, bool rojo) {
+    QPalette paleta = l->parentWidget()->palette();
+    if (rojo) paleta.setColor(QPalette::WindowText, Qt::red);
+    l->setPalette(paleta);
+}
+
+}  // namespace
 
 VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre)
     : QDialog(padre), s_(s), d_(d), logica_(p, s, d) {
@@ -41,6 +52,7 @@ VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos&
     // The comment column takes the width left over.
     vistas_[0]->horizontalHeader()->setStretchLastSection(true);
     capa->addWidget(pila_, 1);
+    capa->addWidget(LineaEstado());
     capa->addWidget(Botonera());
 
     connect(tab_, &QTabBar::currentChanged, this, [this](int i) { CambiarTab(i + 1); });
@@ -61,6 +73,22 @@ VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos&
 
 VentanaAnalisisRed::~VentanaAnalisisRed() {
     for (VistaGrid* v : vistas_) v->MostrarGrid(nullptr);
+}
+
+QWidget* VentanaAnalisisRed::LineaEstado() {
+    auto* linea = new QWidget(this);
+    auto* capa = new QHBoxLayout(linea);
+    capa->setContentsMargins(0, 0, 0, 0);
+    presionNegativa_ = new QLabel(linea);
+    presionNegativa_->setObjectName(QStringLiteral("PresionNegativa"));
+    avisoRed_ = new QLabel(linea);
+    avisoRed_->setObjectName(QStringLiteral("AvisoErrorRed"));
+    ColorTexto(avisoRed_, true);
+    capa->addWidget(presionNegativa_);
+    capa->addSpacing(24);
+    capa->addWidget(avisoRed_);
+    capa->addStretch(1);
+    return linea;
 }
 
 QWidget* VentanaAnalisisRed::Botonera() {
@@ -155,6 +183,11 @@ bool VentanaAnalisisRed::Cargar() {
 void VentanaAnalisisRed::MostrarEstado() {
     setWindowTitle(logica_.Caption);
     panel_->setText(logica_.SSPanel1);
+    presionNegativa_->setText(logica_.TextoPresionNegativa());
+    presionNegativa_->setVisible(!logica_.TextoPresionNegativa().isEmpty());
+    ColorTexto(presionNegativa_, logica_.NodosPresionNegativa() > 0);
+    avisoRed_->setText(logica_.AvisoErrorRed());
+    avisoRed_->setVisible(!logica_.AvisoErrorRed().isEmpty());
     frame3_->setVisible(logica_.Frame3Visible);
     double1_->PonerValor(logica_.Double1);
     Boton(QStringLiteral("LSButton2"))->setEnabled(logica_.LSButton2Disponible());

@@ -2,7 +2,7 @@
 // The screen "LISTADO DE MATERIALES": four tabs, one grid each (fixtures,
 // fittings, reductions, pipes), "Abrir" for another project, the report
 // button and "Retorno".  The lists come from the take-off logic
-// (PantallaComputos), read from the project file.
+// (Computos), read from the project file.
 
 #include "takeoff/Computos.h"
 
@@ -27,7 +27,7 @@ public:
     // screen is then not to be shown.
     bool Cargar();
 
-    PantallaComputos& Logica() { return logica_; }
+    Computos& Logica() { return logica_; }
     NivoTab* Tabs() const { return tab_; }
     VistaGrid* Vista(int pagina) const { return vistas_[pagina - 1]; }
     QPushButton* Boton(const QString& nombre) const;
@@ -41,7 +41,7 @@ private:
 
     Sesion& s_;
     Dialogos& d_;
-    PantallaComputos logica_;
+    Computos logica_;
     NivoTab* tab_;
     QStackedWidget* pila_;
     VistaGrid* vistas_[4];

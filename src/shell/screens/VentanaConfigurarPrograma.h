@@ -2,7 +2,7 @@
 // The settings screen "Configuración": wallpaper and tool-tip settings,
 // written to Tapiz.nivo on " Aceptar ".
 
-#include "shell/ConfiguracionPrograma.h"
+#include "shell/ConfigurarPrograma.h"
 
 #include <QDialog>
 #include <array>
@@ -19,12 +19,12 @@ class NivoToolTip;
 class PanelTapiz;
 struct Sesion;
 
-class ConfigurarPrograma : public QDialog {
+class VentanaConfigurarPrograma : public QDialog {
     Q_OBJECT
 public:
-    ConfigurarPrograma(Sesion& s, Dialogos& d, QWidget* padre = nullptr);
+    VentanaConfigurarPrograma(Sesion& s, Dialogos& d, QWidget* padre = nullptr);
 
-    ConfiguracionPrograma& Logica() { return logica_; }
+    ConfigurarPrograma& Logica() { return logica_; }
     // Shows the values of the logic in the controls.
     void Mostrar();
 
@@ -36,10 +36,10 @@ private:
     QWidget* PaginaTip();
     // A frame of three options that give a setting the values 0, 1, 2.
     QGroupBox* GrupoOpciones(const QString& titulo, std::array<const char*, 3> nombres, std::array<const char*, 3> textos,
-                             QRadioButton* (&botones)[3], void (ConfiguracionPrograma::*poner)(int));
+                             QRadioButton* (&botones)[3], void (ConfigurarPrograma::*poner)(int));
     Sesion& s_;
     Dialogos& d_;
-    ConfiguracionPrograma logica_;
+    ConfigurarPrograma logica_;
     NivoToolTip* tip_;
     QTabWidget* tabs_;
     PanelTapiz* image1_;

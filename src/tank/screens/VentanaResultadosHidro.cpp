@@ -1,4 +1,4 @@
-#include "tank/screens/ResultadosHidro.h"
+#include "tank/screens/VentanaResultadosHidro.h"
 
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
@@ -61,7 +61,8 @@ QLabel* Panel(QWidget* padre) {
 
 }  // namespace
 
-ResultadosHidro::ResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* padre) : QDialog(padre), datos_(datos) {
+VentanaResultadosHidro::VentanaResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* padre)
+    : QDialog(padre), datos_(datos) {
     setObjectName(QStringLiteral("ResultadosHidro"));
     setWindowTitle(QStringLiteral("RESULTADOS DE CÁLCULO DEL TANQUE HIDRONEUMÁTICO"));
     tip_ = new NivoToolTip(this);
@@ -71,7 +72,7 @@ ResultadosHidro::ResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* p
     marco_ = new QGroupBox(this);
     marco_->setObjectName(QStringLiteral("Frame1"));
     auto* rejilla = new QGridLayout(marco_);
-    const QStringList etiquetas = PantallaResultadosHidro::Etiquetas();
+    const QStringList etiquetas = ResultadosHidro::Etiquetas();
     for (int i = 0; i < 7; ++i) {
         rejilla->addWidget(new QLabel(etiquetas[i], marco_), i, 0);
         valores_[i] = Panel(marco_);
@@ -113,8 +114,8 @@ ResultadosHidro::ResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* p
            sizeHint().height());
 }
 
-void ResultadosHidro::Cargar() {
-    const PantallaResultadosHidro r(datos_);
+void VentanaResultadosHidro::Cargar() {
+    const ResultadosHidro r(datos_);
     marco_->setTitle(r.Marco);
     for (int i = 0; i < 7; ++i) valores_[i]->setText(r.Valores[i]);
     porcentajes_[0]->setText(r.PorcentajeMinimo);

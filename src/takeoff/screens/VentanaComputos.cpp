@@ -1,4 +1,4 @@
-#include "takeoff/screens/Computos.h"
+#include "takeoff/screens/VentanaComputos.h"
 
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
@@ -25,7 +25,8 @@ VentanaComputos::VentanaComputos(ProyectoEdificio& p, Sesion& s, Dialogos& d, bo
     auto* capa = new QVBoxLayout(this);
     tab_ = new NivoTab(this);
     tab_->setObjectName(QStringLiteral("Tab1"));
-    for (int t = 1; t <= 4; ++t) tab_->addTab(QStringLiteral("  ") + Computos::TituloPagina(t) + QStringLiteral("  "));
+    for (int t = 1; t <= 4; ++t)
+        tab_->addTab(QStringLiteral("  ") + PaginasComputos::TituloPagina(t) + QStringLiteral("  "));
     capa->addWidget(tab_, 0, Qt::AlignHCenter);
 
     pila_ = new QStackedWidget(this);
