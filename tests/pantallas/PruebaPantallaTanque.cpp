@@ -3,7 +3,6 @@
 // factor, the results worked by hand, and a fault through the real box.
 
 #include "ApoyoPantallas.h"
-#include "base/Nivo.h"
 #include "tank/screens/VentanaHidroneumatico.h"
 #include "tank/screens/VentanaPeerlees.h"
 #include "tank/screens/VentanaResultadosHidro.h"
@@ -123,24 +122,6 @@ TEST_F(PantallaTanque, UnaFallaDelCalculoSeMuestraYLasEntradasQuedan) {
     MensajeEs(visto, QStringLiteral("Error 11: División por cero"), QStringLiteral("Error en el Cálculo..."));
     EXPECT_TRUE(v->isVisible());
     EXPECT_EQ(Caja("PresionMaxima")->Valor(), -10.0);
-}
-
-TEST_F(PantallaTanque, LasCajasLeenAmbasMarcasYRechazanLoAmbiguo) {
-    Abrir(false);
-    // "4,5" starts per hour are four and a half, never 45.
-    Teclear("Arranques", "4,5");
-    Tecla(Caja("Arranques"), Qt::Key_Return);
-    EXPECT_DOUBLE_EQ(v->Logica().Datos.Arranques, 4.5);
-    EXPECT_EQ(Caja("Arranques")->text(), QStringLiteral("4.50"));
-    // "1,234" m reads two ways: the box says so and keeps 3 m.
-    MensajeVisto visto;
-    Contestar(visto, 0);
-    Teclear("Succion", "1,234");
-    Tecla(Caja("Succion"), Qt::Key_Return);
-    QApplication::processEvents();
-    MensajeEs(visto, LeerNumeroTecleado(QStringLiteral("1,234")).motivo, QStringLiteral("Error en el Número..."));
-    EXPECT_DOUBLE_EQ(v->Logica().Datos.Succion, 3.0);
-    EXPECT_EQ(Caja("Succion")->text(), QStringLiteral("3.00"));
 }
 
 TEST_F(PantallaTanque, UnaPresionMaximaIgualALaMinimaSeRechazaSinResultados) {

@@ -117,25 +117,6 @@ TEST(VistaGrid, UnaEdicionLlegaALaLogicaConFilaColumnaYTexto) {
     EXPECT_TRUE(g.EsNumero(3, 5));
 }
 
-TEST(VistaGrid, LaCeldaNumericaLeeAmbasMarcasYDevuelveLoQueRechaza) {
-    // Under '.' decimals: "1,5" is one and a half, "1,234" reads two ways.
-    Grid g = Ejemplo();
-    VistaGrid v;
-    v.MostrarGrid(&g);
-    std::vector<std::tuple<int, int, QString>> rechazos;
-    v.Modelo().alRechazar = [&](int f, int c, const QString& t) { rechazos.emplace_back(f, c, t); };
-    ModeloGrid& m = v.Modelo();
-    EXPECT_TRUE(m.setData(m.index(0, 4), QStringLiteral("1,5"), Qt::EditRole));
-    EXPECT_EQ(g.Texto(1, 5), QStringLiteral("1.50"));
-    for (const char* texto : {"1,234", "uno", "-1"})
-        EXPECT_FALSE(m.setData(m.index(0, 4), QString::fromLatin1(texto), Qt::EditRole)) << texto;
-    EXPECT_EQ(g.Texto(1, 5), QStringLiteral("1.50"));
-    QApplication::processEvents();
-    ASSERT_EQ(rechazos.size(), 3u);
-    EXPECT_EQ(rechazos[0], std::make_tuple(1, 5, QStringLiteral("1,234")));
-    EXPECT_EQ(std::get<2>(rechazos[2]), QStringLiteral("-1"));
-}
-
 TEST(VistaGrid, LaCeldaDeListaEditaConSuLista) {
     Grid g = Ejemplo();
     VistaGrid v;
