@@ -111,14 +111,17 @@ public:
     void EditarDiametroAsumido(int fila, const QString& texto);
 
     // Spread3 column 14 of row `fila`: the reducing valve (m).  Pressures are
-    // rerun and the value written to the file.  A text that is not a number is
-    // refused (false) and the cell shows the valve as it was.
+    // rerun and the value written to the file.  A text that is not a number,
+    // or reads two ways, is refused (false) with the reader's reason and the
+    // cell shows the valve as it was.
     //
     // The valve and the two tank buttons need the pressures of a whole chain:
     // when the last run stopped (a fault of the network or of the
     // calculation) they say so and change nothing.
     bool EditarValvulaReductora(int fila, const QString& texto);
     bool EditarValvulaReductora(int fila, double valor);
+    // A text the valve cell refused before any edit: the reader's reason.
+    void NumeroRechazado(const QString& texto);
 
     // LSButton2: asks, then makes every assumed size the theoretical one,
     // writes them, and reruns from the pre-sizing grid on.  True when done.

@@ -46,13 +46,19 @@ void AnalisisRed::EditarDiametroAsumido(int fila, const QString& texto) {
 bool AnalisisRed::EditarValvulaReductora(int fila, const QString& texto) {
     if (fila < 1 || fila > Spread3.Filas()) return false;
     double valor = 0.0;
-    if (!Trim(texto).isEmpty() && !LeerNumero(texto, valor)) {
+    if (!Trim(texto).isEmpty() && !LeerNumeroOAvisar(d_, texto, valor)) {
         ColoqueValvula(fila);
         return false;
     }
     if (EditarValvulaReductora(fila, valor)) return true;
     ColoqueValvula(fila);
     return false;
+}
+
+void AnalisisRed::NumeroRechazado(const QString& texto) {
+    // A number out of the column's bounds stays silent, as the cell always was.
+    double valor = 0.0;
+    LeerNumeroOAvisar(d_, texto, valor);
 }
 
 bool AnalisisRed::EditarValvulaReductora(int fila, double valor) {

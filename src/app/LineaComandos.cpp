@@ -50,10 +50,7 @@ int DialogosConsola::MostrarMensaje(const QString& texto, const QString& encabez
 
 void PrepararSesion(Sesion& s) {
     s.RutaPrograma = QCoreApplication::applicationDirPath();
-    const Separadores sep = SeparadoresDelSistema();
-    SeparadoresActuales() = sep;
-    s.SeparadorDecimal = sep.decimal;
-    s.SeparadorMiles = sep.miles;
+    SeparadorPrograma(s);
     s.NombreUsuario = NombreUsuarioSistema();
     s.DirectorioDatos = DirectorioDatosPorDefecto();
     s.DirectorioTemporal = s.RutaDatos(QStringLiteral("Temporales"));

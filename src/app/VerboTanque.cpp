@@ -13,16 +13,17 @@ const char* Uso() {
            "--factor F --pmin P --pmax P --arranques N --succion H --k 1|2] [--json]";
 }
 
-// Reads a number option into `destino`; false with a message when it is not one.
+// Reads a number option, typed with the session's marks, into `destino`;
+// false with the reader's reason when it is refused.
 bool Opcion(const ArgumentosVerbo& a, const char* nombre, double& destino, QString& error) {
     const QString texto = a.Valor(QString::fromLatin1(nombre));
     if (texto.isNull()) return true;
-    double v = 0.0;
-    if (!LeerNumero(texto, v) || !std::isfinite(v)) {
-        error = QStringLiteral("El valor de --%1 no es un número: %2").arg(QString::fromLatin1(nombre), texto);
+    const NumeroLeido leido = LeerNumeroTecleado(texto);
+    if (!leido.valido) {
+        error = QStringLiteral("--%1: ").arg(QString::fromLatin1(nombre)) + leido.motivo;
         return false;
     }
-    destino = v;
+    destino = leido.valor;
     return true;
 }
 

@@ -444,7 +444,7 @@ bool DatosAcueducto::EscribirNumeroRamal(int fila, int columna, double valor) {
 bool DatosAcueducto::EditarRamal(int fila, int columna, const QString& texto) {
     if (columna != RI && columna != RJ) {
         double v = 0.0;
-        return LeerNumero(texto, v) && EditarRamal(fila, columna, v);
+        return LeerNumeroOAvisar(d_, texto, v) && EditarRamal(fila, columna, v);
     }
     if (fila < 1 || fila > Spread1.Filas() || fila > p_.NumeroTramos) return false;
     EscribirTextoRamal(fila, columna, texto);
@@ -479,7 +479,7 @@ bool DatosAcueducto::EscribirNumeroNodo(int fila, int columna, double valor) {
 
 bool DatosAcueducto::EditarNodo(int fila, int columna, const QString& texto) {
     double v = 0.0;
-    return LeerNumero(texto, v) && EditarNodo(fila, columna, v);
+    return LeerNumeroOAvisar(d_, texto, v) && EditarNodo(fila, columna, v);
 }
 
 bool DatosAcueducto::EditarNodo(int fila, int columna, double valor) {
@@ -497,7 +497,9 @@ bool DatosAcueducto::EditarCelda(int grid, int fila, int columna, const QString&
     return EditarNodo(fila, columna, g.Valor(fila, columna));
 }
 
-void DatosAcueducto::NumeroRechazado(int grid, int columna) {
+void DatosAcueducto::NumeroRechazado(int grid, int columna, const QString& texto) {
+    double v = 0.0;
+    if (!LeerNumeroOAvisar(d_, texto, v)) return;
     const Columna& c = (grid == 1 ? Spread1 : Spread2).Col(columna);
     d_.MostrarMensaje(QStringLiteral("¡Debe Entrar un Número entre %1 y %2!").arg(c.minimo).arg(c.maximo),
                       MensajeErrorNumero(), TituloFontaria);
@@ -512,9 +514,14 @@ bool DatosAcueducto::LlenarBloque(int grid, int fila1, int fila2, int columna1, 
     const int hasta = std::clamp(std::max(fila1, fila2), 1, g.Filas());
     const auto respuesta = d_.PedirTexto(QString::fromUtf8(aviso->texto), QString::fromUtf8(aviso->titulo));
     if (!respuesta || Trim(*respuesta).isEmpty()) return true;
-    double v = 0.0;
+    const NumeroLeido leido = LeerNumeroTecleado(*respuesta);
+    if (leido.ambiguo) {
+        MostrarNumeroRechazado(d_, leido.motivo);
+        return true;
+    }
+    double v = leido.valor;
     int entero = 0;
-    if (!LeerNumero(*respuesta, v) || (grid == 1 && columna1 == RC && !EnteroDe(RoundNivo(v, 3), entero))) {
+    if (!leido.valido || (grid == 1 && columna1 == RC && !EnteroDe(RoundNivo(v, 3), entero))) {
         d_.MostrarMensaje(QStringLiteral("¡Debe Entrar un Número!"), MensajeErrorNumero(), TituloFontaria);
         return true;
     }

@@ -121,7 +121,8 @@ public:
     // A value typed into a cell.  Spread1 columns 1-6 write their array (1
     // and 2 trimmed) and run RecalculeNodos; Spread2 columns 2-4 write the
     // node's data.  False, with nothing changed, for a locked or read-only
-    // cell or a text that is not a number in a numeric column.
+    // cell or a text that is not a number in a numeric column (its reason
+    // shown).
     bool EditarRamal(int fila, int columna, const QString& texto);
     // The same with a number, for the numeric columns 3 to 6.
     bool EditarRamal(int fila, int columna, double valor);
@@ -130,9 +131,10 @@ public:
     // The report of a cell of grid 1 (Spread1) or 2 (Spread2): a number
     // cell hands over the number it holds, as typed, not its rounded picture.
     bool EditarCelda(int grid, int fila, int columna, const QString& texto);
-    // A number the cell refused for its column's limits (the coefficient C
-    // is a 16-bit whole number from 0): the message, nothing changed.
-    void NumeroRechazado(int grid, int columna);
+    // A text a number cell refused: the reader's reason when it is not a
+    // number or reads two ways, else the column's limits (the coefficient C
+    // is a 16-bit whole number from 0); nothing changed.
+    void NumeroRechazado(int grid, int columna, const QString& texto);
 
     // A block selected in one column of a grid (1 Spread1, 2 Spread2), rows
     // fila1..fila2: asks one value and writes it into every row of the block.

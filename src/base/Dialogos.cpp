@@ -20,3 +20,14 @@ QStringList FiltroComoPatrones(const QString& filtro) {
     }
     return res;
 }
+
+void MostrarNumeroRechazado(Dialogos& d, const QString& motivo) {
+    d.MostrarMensaje(motivo, QStringLiteral("Error en el Número..."), QStringLiteral("Proyecto de Fontaria"));
+}
+
+bool LeerNumeroOAvisar(Dialogos& d, const QString& texto, double& valor) {
+    const NumeroLeido r = LeerNumeroTecleado(texto);
+    if (r.valido) valor = r.valor;
+    else MostrarNumeroRechazado(d, r.motivo);
+    return r.valido;
+}

@@ -53,3 +53,10 @@ public:
 
 // File-dialog filters "Texto|*.a;*.b|..." as pairs of (caption, patterns).
 QStringList FiltroComoPatrones(const QString& filtro);
+
+// A typed number that was refused: the reader's reason, under the heading
+// of the program's number errors.
+void MostrarNumeroRechazado(Dialogos& d, const QString& motivo);
+// Reads a typed number with the session's marks; a refused text shows its
+// reason through `d` and leaves `valor` as it was.
+bool LeerNumeroOAvisar(Dialogos& d, const QString& texto, double& valor);

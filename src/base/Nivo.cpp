@@ -41,22 +41,19 @@ Separadores& SeparadoresActuales() {
     return sep;
 }
 
-Separadores SeparadoresDelSistema() {
-    const QLocale loc = QLocale::system();
-    QLocale conGrupos(loc);
-    conGrupos.setNumberOptions(QLocale::DefaultNumberOptions);
-    const QString s = conGrupos.toString(1234.56, 'f', 2);
+Separadores SeparadoresDelSistema(const QLocale& locale) {
+    // The marks are those the locale writes 1234.56 with, which is why they
+    // are learnt at start; they are asked of the locale itself, as many
+    // locales leave a four-digit number without a thousands mark.
     Separadores sep;
-    // "1,234.56": position 2 holds the thousands separator, position 6 the decimal one.
-    if (s.size() >= 7) {
-        sep.miles = s[1];
-        sep.decimal = s[5];
-    } else {
-        sep.decimal = loc.decimalPoint().isEmpty() ? QLatin1Char('.') : loc.decimalPoint()[0];
-        sep.miles = sep.decimal == QLatin1Char(',') ? QLatin1Char('.') : QLatin1Char(',');
-    }
+    const QString decimal = locale.decimalPoint(), miles = locale.groupSeparator();
+    if (decimal.size() == 1) sep.decimal = decimal[0];
+    if (miles.size() == 1) sep.miles = miles[0];
+    else sep.miles = sep.decimal == QLatin1Char(',') ? QLatin1Char('.') : QLatin1Char(',');
     return sep;
 }
+
+Separadores SeparadoresDelSistema() { return SeparadoresDelSistema(QLocale::system()); }
 
 QString Formato(double valor, const QString& mascara) {
     return Formato(valor, mascara, SeparadoresActuales());
@@ -122,19 +119,129 @@ QString Formato(double valor, const QString& mascara, const Separadores& sep) {
     return res + sufijo;
 }
 
-bool LeerNumero(const QString& texto, double& valor) {
-    QString t = Trim(texto);
-    if (t.isEmpty()) return false;
-    const Separadores& sep = SeparadoresActuales();
+namespace {
+
+bool EsCifra(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
+bool PuedeSerDecimal(QChar c, const Separadores& sep) {
+    return c == QLatin1Char('.') || c == QLatin1Char(',') || c == sep.decimal;
+}
+bool PuedeSerMiles(QChar c, const Separadores& sep) {
+    return c == QLatin1Char('.') || c == QLatin1Char(',') || c == sep.miles;
+}
+// A first group of thousands: one to three digits, not led by a zero.
+bool GrupoInicial(const QString& g) { return g.size() >= 1 && g.size() <= 3 && g[0] != QLatin1Char('0'); }
+
+// How a number is written under the session's marks, the tail of every refusal.
+QString ComoEscribirlo(const Separadores& sep) {
+    return QStringLiteral("escríbalo con \"%1\" como separador decimal, por ejemplo 1234").arg(sep.decimal) +
+           sep.decimal + QStringLiteral("5.");
+}
+
+NumeroLeido Rechazo(const QString& motivo) {
+    NumeroLeido r;
+    r.motivo = motivo;
+    return r;
+}
+
+NumeroLeido NoEsNumero(const QString& texto, const Separadores& sep) {
+    return Rechazo(QStringLiteral("\"%1\" no es un número: ").arg(texto) + ComoEscribirlo(sep));
+}
+
+}  // namespace
+
+NumeroLeido LeerNumeroTecleado(const QString& texto, const Separadores& sep) {
+    const QString t = texto.trimmed();
+    if (t.isEmpty()) return Rechazo(QStringLiteral("Falta el número: ") + ComoEscribirlo(sep));
+    int i = 0;
+    const bool negativo = t[0] == QLatin1Char('-');
+    if (negativo || t[0] == QLatin1Char('+')) ++i;
+    // Digit runs between single marks, then an exponent to the end.
+    QStringList grupos{QString()};
+    QString marcas;
+    for (; i < t.size(); ++i) {
+        const QChar c = t[i];
+        if (EsCifra(c)) {
+            grupos.last() += c;
+        } else if (PuedeSerDecimal(c, sep) || PuedeSerMiles(c, sep)) {
+            marcas += c;
+            grupos << QString();
+        } else {
+            break;
+        }
+    }
+    QString exponente = t.mid(i);
+    static const QRegularExpression formaExponente(QStringLiteral("^[eE][-+]?[0-9]+$"));
+    if (!exponente.isEmpty() && !formaExponente.match(exponente).hasMatch()) return NoEsNumero(t, sep);
+    if (grupos.join(QString()).isEmpty()) return NoEsNumero(t, sep);
+    for (int g = 1; g + 1 < grupos.size(); ++g)
+        if (grupos[g].isEmpty()) return NoEsNumero(t, sep);  // two marks in a row
+
+    QString entero, fraccion;
+    const int k = marcas.size();
+    if (k == 0) {
+        entero = grupos[0];
+    } else if (k == 1) {
+        const QChar m = marcas[0];
+        const bool miles = PuedeSerMiles(m, sep) && GrupoInicial(grupos[0]) && grupos[1].size() == 3;
+        const bool decimal = PuedeSerDecimal(m, sep) && (!miles || m == sep.decimal);
+        if (miles && !decimal && PuedeSerDecimal(m, sep)) {
+            // "1,234" under '.' decimals: a thousand or a decimal alike.
+            const QString signo = negativo ? QStringLiteral("-") : QString();
+            const QString comoMiles = signo + grupos[0] + grupos[1] + exponente;
+            const QString comoDecimal = signo + grupos[0] + sep.decimal + grupos[1] + exponente;
+            NumeroLeido r = Rechazo(QStringLiteral("El número \"%1\" puede leerse como %2 o como %3: escríbalo sin "
+                                                   "separador de miles (%2) o con \"%4\" como separador decimal (%3).")
+                                        .arg(t, comoMiles, comoDecimal, QString(sep.decimal)));
+            r.ambiguo = true;
+            return r;
+        }
+        if (decimal) {
+            entero = grupos[0];
+            fraccion = grupos[1];
+        } else if (miles) {
+            entero = grupos[0] + grupos[1];
+        } else {
+            return NoEsNumero(t, sep);
+        }
+    } else {
+        // Groups of three after a first of one to three, all with one mark,
+        // and perhaps a decimal mark of the other kind after them.
+        const QChar m = marcas[0];
+        const bool conDecimal = marcas[k - 1] != m;
+        const int separadores = conDecimal ? k - 1 : k;
+        bool bien = PuedeSerMiles(m, sep) && GrupoInicial(grupos[0]) &&
+                    (!conDecimal || PuedeSerDecimal(marcas[k - 1], sep));
+        for (int g = 1; bien && g <= separadores; ++g) bien = marcas[g - 1] == m && grupos[g].size() == 3;
+        if (!bien) return NoEsNumero(t, sep);
+        for (int g = 0; g <= separadores; ++g) entero += grupos[g];
+        if (conDecimal) fraccion = grupos[k];
+    }
+    QString forma = (negativo ? QStringLiteral("-") : QString()) + (entero.isEmpty() ? QStringLiteral("0") : entero);
+    if (!fraccion.isEmpty()) forma += QLatin1Char('.') + fraccion;
+    forma += exponente;
     bool ok = false;
-    // The session's form first: thousands separators dropped, decimal made a point.
-    QString s = t;
-    if (sep.miles != sep.decimal) s.remove(sep.miles);
-    s.replace(sep.decimal, QLatin1Char('.'));
-    valor = s.toDouble(&ok);
-    if (ok) return true;
-    valor = t.toDouble(&ok);
-    return ok;
+    const double v = forma.toDouble(&ok);
+    if (!ok || !std::isfinite(v)) return NoEsNumero(t, sep);
+    NumeroLeido r;
+    r.valido = true;
+    r.valor = v;
+    return r;
+}
+
+NumeroLeido LeerNumeroTecleado(const QString& texto) { return LeerNumeroTecleado(texto, SeparadoresActuales()); }
+
+bool LeerNumero(const QString& texto, double& valor) {
+    const NumeroLeido r = LeerNumeroTecleado(texto);
+    if (r.valido) valor = r.valor;
+    return r.valido;
+}
+
+bool LeerNumeroGuardado(const QString& texto, double& valor) {
+    bool ok = false;
+    const double v = texto.trimmed().toDouble(&ok);
+    if (!ok || !std::isfinite(v)) return false;
+    valor = v;
+    return true;
 }
 
 double Val(const QString& texto) {

@@ -6,6 +6,8 @@
 #include <QDate>
 #include <QString>
 
+class QLocale;
+
 // Rounds half away from zero to `decimales` places.  A scaled value that lies
 // within a few units of the last place of a half is taken as the half, so
 // that 2.675 (2.67499999... in binary) rounds to 2.68 as typed.
@@ -25,16 +27,33 @@ struct Separadores {
 };
 // Separators in force for the formats below (set once by the start-up).
 Separadores& SeparadoresActuales();
-// The separators of the system locale, found by formatting 1234.56.
+// The marks a locale writes 1234.56 with, and those of the system locale.
+Separadores SeparadoresDelSistema(const QLocale& locale);
 Separadores SeparadoresDelSistema();
 
 // Number formats of the older runtime: "#,##0.00", "0.00", "0.000", "0",
 // "#,##0" (a picture of digits, an optional thousands comma and decimals).
 QString Formato(double valor, const QString& mascara);
 QString Formato(double valor, const QString& mascara, const Separadores& sep);
-// Reads a number typed with the session's separators (or plain C form);
-// false when the text is not a number.
+// A typed number, or why the text was refused.
+struct NumeroLeido {
+    bool valido = false;
+    bool ambiguo = false;  // a number, but read two ways
+    double valor = 0.0;
+    QString motivo;  // names the text and says how to write it
+};
+// Reads what the engineer meant, whichever mark was typed: a mark followed
+// by other than exactly three digits is the decimal; thousands groups are
+// taken only when well formed; a lone mark of the locale's decimal kind is
+// the decimal; a text still ambiguous ("1,234" with '.' decimals) is
+// refused.  Signs, blanks at the ends and an exponent are taken.
+NumeroLeido LeerNumeroTecleado(const QString& texto, const Separadores& sep);
+// The same with the session's marks, for every number box and cell.
+NumeroLeido LeerNumeroTecleado(const QString& texto);
 bool LeerNumero(const QString& texto, double& valor);
+// A number stored in a file or database, always in plain C form, whatever
+// the locale; false when the text is not one.
+bool LeerNumeroGuardado(const QString& texto, double& valor);
 // Val(): the leading number of a text, 0 when none.
 double Val(const QString& texto);
 

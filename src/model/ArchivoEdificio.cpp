@@ -16,7 +16,7 @@ bool Numero(const Valor& v, double& destino) {
     if (!v.isValid() || v.isNull()) return false;
     if (v.typeId() == QMetaType::QString) {
         double d = 0.0;
-        if (!LeerNumero(v.toString(), d)) return false;
+        if (!LeerNumeroGuardado(v.toString(), d)) return false;
         destino = d;
         return true;
     }

@@ -106,15 +106,19 @@ QString NombreUsuarioSistema() {
     return Trim(QString::fromLocal8Bit(pw->pw_gecos).section(QLatin1Char(','), 0, 0));
 }
 
+void SeparadorPrograma(Sesion& s) {
+    const Separadores sep = SeparadoresDelSistema();
+    SeparadoresActuales() = sep;
+    s.SeparadorDecimal = sep.decimal;
+    s.SeparadorMiles = sep.miles;
+}
+
 void Iniciar(Sesion& s, const QString& rutaPrograma) {
     QString ruta = rutaPrograma.isEmpty() ? QCoreApplication::applicationDirPath() : rutaPrograma;
     if (ruta.endsWith(QLatin1Char('/'))) ruta.chop(1);
     s.RutaPrograma = ruta;
 
-    const Separadores sep = SeparadoresDelSistema();
-    SeparadoresActuales() = sep;
-    s.SeparadorDecimal = sep.decimal;
-    s.SeparadorMiles = sep.miles;
+    SeparadorPrograma(s);
 
     s.TipoRed = 0;
     s.NombreUsuario = NombreUsuarioSistema();

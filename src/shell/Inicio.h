@@ -14,6 +14,9 @@ struct Sesion;
 void Iniciar(Sesion& s, const QString& rutaPrograma = QString());
 
 // The pieces of the start, for the screens and the tests.
+// The session's number marks, from the system locale; the command line
+// learns them as the desktop does.
+void SeparadorPrograma(Sesion& s);
 QString DirectorioDatosPorDefecto();
 void VerifiqueDirectorios(Sesion& s);
 void VerificaTapizNivo(const Sesion& s);

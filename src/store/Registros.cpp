@@ -181,7 +181,7 @@ bool Registros::BuscarClave(const QString& criterio) {
     if (buscado.size() >= 2 && (buscado.startsWith(QLatin1Char('\'')) || buscado.startsWith(QLatin1Char('"'))))
         buscado = buscado.mid(1, buscado.size() - 2);
     double numero = 0.0;
-    const bool esNumero = LeerNumero(buscado, numero);
+    const bool esNumero = LeerNumeroGuardado(buscado, numero);
     auto coincide = [&](int fila) {
         const Valor& v = filas_[size_t(fila)][size_t(col)];
         if (!v.isValid() || v.isNull()) return false;

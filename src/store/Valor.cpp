@@ -15,7 +15,7 @@ double ComoDoble(const Valor& v) {
     if (!v.isValid() || v.isNull()) return 0.0;
     if (v.typeId() == QMetaType::QString) {
         double d = 0.0;
-        if (LeerNumero(v.toString(), d)) return d;
+        if (LeerNumeroGuardado(v.toString(), d)) return d;
         return 0.0;
     }
     return v.toDouble();

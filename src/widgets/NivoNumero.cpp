@@ -1,5 +1,6 @@
 #include "widgets/NivoNumero.h"
 
+#include "base/Dialogos.h"
 #include "base/Nivo.h"
 
 #include <QKeyEvent>
@@ -7,10 +8,8 @@
 
 QRegularExpression ExpresionNumero() {
     const Separadores& sep = SeparadoresActuales();
-    // Digits, a sign, the session's separators and the plain point.
-    return QRegularExpression(QStringLiteral("[-+]?[0-9") + QRegularExpression::escape(QString(sep.miles)) +
-                              QStringLiteral("]*[") + QRegularExpression::escape(QString(sep.decimal)) +
-                              QStringLiteral(".]?[0-9]*"));
+    const QString marcas = QStringLiteral(".,") + sep.miles + sep.decimal;
+    return QRegularExpression(QStringLiteral("[-+]?[0-9") + QRegularExpression::escape(marcas) + QStringLiteral("]*"));
 }
 
 NivoNumero::NivoNumero(int decimales, QWidget* padre) : QLineEdit(padre), decimales_(decimales) {
@@ -37,12 +36,17 @@ void NivoNumero::PonerLimites(double minimo, double maximo) {
     PonerValor(valor_);
 }
 
-bool NivoNumero::Leer(double& v) const {
-    QString t = Trim(text());
+bool NivoNumero::Leer(double& v, QString* motivo) const {
+    const QString t = Trim(text());
     if (t.isEmpty() || t == QLatin1String("-") || t == QLatin1String("+")) {
         v = 0.0;
-    } else if (!LeerNumero(t, v)) {
-        return false;
+    } else {
+        const NumeroLeido r = LeerNumeroTecleado(t);
+        if (!r.valido) {
+            if (motivo) *motivo = r.motivo;
+            return false;
+        }
+        v = r.valor;
     }
     if (decimales_ == 0) v = double(qRound64(v));
     return v >= minimo_ && v <= maximo_;
@@ -76,16 +80,25 @@ void NivoNumero::Confirmar() {
     // A text out of bounds or not a number goes back to the value the box
     // held before the typing began.
     double v = 0.0;
-    if (!Leer(v)) v = confirmado_;
+    QString motivo;
+    if (!Leer(v, &motivo)) v = confirmado_;
     confirmado_ = v;
     if (v != valor_) {
         valor_ = v;
         Q_EMIT ValorCambiado(valor_);
     }
     Mostrar();
+    if (!motivo.isEmpty()) Q_EMIT Rechazado(motivo);
 }
 
 void NivoNumero::focusOutEvent(QFocusEvent* e) {
     Confirmar();
     QLineEdit::focusOutEvent(e);
+}
+
+void AvisarNumerosRechazados(QWidget* pantalla, Dialogos& d) {
+    for (NivoNumero* caja : pantalla->findChildren<NivoNumero*>())
+        // Queued: the message box must not open inside the focus change.
+        QObject::connect(caja, &NivoNumero::Rechazado, pantalla,
+                         [&d](const QString& motivo) { MostrarNumeroRechazado(d, motivo); }, Qt::QueuedConnection);
 }

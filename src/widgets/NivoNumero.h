@@ -6,8 +6,10 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 
-// What a number box takes as it is typed: a sign, digits, the session's
-// separators and the plain point.
+class Dialogos;
+
+// What a number box takes as it is typed: a sign, digits and either mark
+// (the session's thousands mark too); the reader then decides.
 QRegularExpression ExpresionNumero();
 
 class NivoNumero : public QLineEdit {
@@ -25,14 +27,18 @@ Q_SIGNALS:
     void Enter();
     // Each accepted change, as the typed text becomes a valid number.
     void ValorCambiado(double valor);
+    // A text confirmed that is not a number or reads two ways; the box is
+    // back at its old value.
+    void Rechazado(const QString& motivo);
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;
     void focusOutEvent(QFocusEvent* e) override;
 
 private:
-    // Reads the text; false when it is not a number within the limits.
-    bool Leer(double& v) const;
+    // Reads the text; false when it is not a number within the limits,
+    // with the reader's reason when it is not a number.
+    bool Leer(double& v, QString* motivo = nullptr) const;
     void Mostrar();
     void AlEscribir(const QString& texto);
     void Confirmar();
@@ -54,3 +60,7 @@ public:
     explicit NivoLong(QWidget* padre = nullptr) : NivoNumero(0, padre) {}
     long long ValorEntero() const { return qRound64(Valor()); }
 };
+
+// Every number box of a screen shows its refusals through the screen's
+// dialogs, once the box has let the focus go.
+void AvisarNumerosRechazados(QWidget* pantalla, Dialogos& d);

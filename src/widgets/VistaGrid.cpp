@@ -129,17 +129,20 @@ bool ModeloGrid::setData(const QModelIndex& i, const QVariant& v, int rol) {
     const QString texto = v.toString();
     const TipoCelda t = grid_->Tipo(f, c);
     if (t == TipoCelda::Numero || t == TipoCelda::Entero) {
-        double numero = 0.0;
-        if (Trim(texto).isEmpty()) {
-            numero = 0.0;
-        } else if (!LeerNumero(Trim(texto), numero)) {
-            return false;  // a number cell refuses other text, as the grid did
-        }
-        const Columna& col = grid_->Col(c);
-        if (numero < col.minimo || numero > col.maximo) {
+        // The cell keeps its value; the screen's logic says why, once the
+        // editor has closed.
+        auto rechazar = [&] {
             if (alRechazar) QTimer::singleShot(0, this, [this, f, c, texto] { if (alRechazar) alRechazar(f, c, texto); });
             return false;
+        };
+        double numero = 0.0;
+        if (!Trim(texto).isEmpty()) {
+            const NumeroLeido leido = LeerNumeroTecleado(texto);
+            if (!leido.valido) return rechazar();
+            numero = leido.valor;
         }
+        const Columna& col = grid_->Col(c);
+        if (numero < col.minimo || numero > col.maximo) return rechazar();
         if (t == TipoCelda::Entero)
             grid_->PonerEntero(f, c, qRound64(numero));
         else

@@ -45,7 +45,8 @@ public:
     void Repintar();
 
     std::function<void(int fila, int columna, const QString& texto)> alEditar;
-    // A number typed beyond its column's limits, which the cell refused.
+    // A text a number cell refused: not a number, read two ways, or beyond
+    // its column's limits.
     std::function<void(int fila, int columna, const QString& texto)> alRechazar;
     // Reports now the edits still waiting for their turn (they are reported
     // once the editor has closed), so that nothing typed is missed by an

@@ -1,6 +1,7 @@
 #include "ApoyoAnalisis.h"
 #include "analysis/AnalisisRed.h"
 #include "analysis/Numeracion.h"
+#include "base/Nivo.h"
 
 namespace {
 
@@ -63,10 +64,22 @@ TEST_F(PantallaAnalisis, ValvulaReductoraDejaLasPresionesDelCalculo) {
     EXPECT_EQ(a.Spread3.FilaActiva(), 2);
     EXPECT_EQ(a.RamalEditado, 0);
 
-    // A text that is not a number is refused and the cell shows the valve.
-    EXPECT_FALSE(a.EditarValvulaReductora(2, QStringLiteral("dos")));
-    EXPECT_EQ(a.Spread3.Texto(2, 14), QStringLiteral("2.50"));
-    EXPECT_DOUBLE_EQ(p.ValvulaR[2], 2.5);
+    // A text that is not a number, or reads two ways, is refused with the
+    // reader's reason and the cell shows the valve; "1,5" is a metre and a half.
+    for (const char* texto : {"dos", "1,234"}) {
+        EXPECT_FALSE(a.EditarValvulaReductora(2, QString::fromLatin1(texto)));
+        EXPECT_EQ(a.Spread3.Texto(2, 14), QStringLiteral("2.50"));
+        EXPECT_DOUBLE_EQ(p.ValvulaR[2], 2.5);
+        MensajeEs(d.Ultimo(), LeerNumeroTecleado(QString::fromLatin1(texto)).motivo,
+                  QStringLiteral("Error en el Número..."));
+    }
+    EXPECT_TRUE(a.EditarValvulaReductora(2, QStringLiteral("1,5")));
+    EXPECT_DOUBLE_EQ(p.ValvulaR[2], 1.5);
+    // A cell's refusal shows the same reason.
+    const size_t vistos = d.mensajes.size();
+    a.NumeroRechazado(QStringLiteral("1,234"));
+    ASSERT_EQ(d.mensajes.size(), vistos + 1);
+    EXPECT_EQ(d.Ultimo().texto, LeerNumeroTecleado(QStringLiteral("1,234")).motivo);
 }
 
 TEST_F(PantallaAnalisis, ColoresDeLaVelocidadEnSusLimites) {

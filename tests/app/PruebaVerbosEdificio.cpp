@@ -83,6 +83,20 @@ TEST_F(Verbos, TextoYGrids) {
         EXPECT_TRUE(salida.contains(QString::fromUtf8(t))) << t;
 }
 
+TEST_F(Verbos, LosGridsSiguenLasMarcasDelLocaleYElJsonLaFormaC) {
+    // Branch 1 of the elevated-tank house carries 23 units, 1.03 l/s (worked
+    // in the analysis screen's test); Spain writes them "23,00" and "1,03".
+    const QString archivo = Copia("Vivienda con Tanque Elevado");
+    const QStringList entorno = {QStringLiteral("FONTARIA_DATOS=") + sp.s.DirectorioDatos,
+                                 QStringLiteral("LC_ALL=es_ES.UTF-8"), QStringLiteral("LANG=es_ES.UTF-8")};
+    ASSERT_EQ(EjecutarPrograma({QStringLiteral("analizar"), archivo, QStringLiteral("--grids")}, &salida, &errores, entorno), 0);
+    EXPECT_TRUE(salida.contains(QStringLiteral("\n1|TANQUE|N1|23,00|1,03|"))) << salida.left(600).toStdString();
+    ASSERT_EQ(EjecutarPrograma({QStringLiteral("analizar"), archivo, QStringLiteral("--json")}, &salida, &errores, entorno), 0);
+    const QJsonObject primero = Json()[QStringLiteral("ramales")].toArray()[0].toObject();
+    EXPECT_DOUBLE_EQ(primero[QStringLiteral("UnidadesAcumuladas")].toDouble(), 23.0);
+    EXPECT_FALSE(salida.contains(QStringLiteral("1,03")));
+}
+
 TEST_F(Verbos, NodosConPresionNegativa) {
     // A valve of 100 m on N2-N5 of the tank house takes N5 and the two nodes
     // it feeds below zero; the tank itself leaves 3 m at the worst node.
@@ -185,7 +199,7 @@ TEST_F(Verbos, TanqueSinProyecto) {
     EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("1"), QStringLiteral("--caudal"),
                       QStringLiteral("diez")}),
               1);
-    EXPECT_TRUE(errores.contains(QStringLiteral("--caudal no es un número")));
+    EXPECT_TRUE(errores.contains(QStringLiteral("--caudal: \"diez\" no es un número")));
     EXPECT_EQ(Correr({QStringLiteral("tanque"), QStringLiteral("--metodo"), QStringLiteral("2"), QStringLiteral("--pmin"),
                       QStringLiteral("-20"), QStringLiteral("--pmax"), QStringLiteral("-10"), QStringLiteral("--json")}),
               3);

@@ -8,6 +8,9 @@
 #include "aqueduct/LongitudTramosAcu.h"
 #include "base/Nivo.h"
 
+#include "base/Nivo.h"
+
+#include <QLocale>
 #include <gtest/gtest.h>
 #include <cmath>
 
@@ -207,6 +210,36 @@ TEST(DatosAcueducto, LlenadoDeBloques) {
     const int preguntas = int(t.d.preguntas.size());
     t.datos.LlenarBloque(2, 1, 4, 2, 2);  // locked by section demand
     EXPECT_EQ(t.d.preguntas.size(), preguntas);
+}
+
+TEST(DatosAcueducto, LosNumerosSeLeenConCualquierMarcaYLoAmbiguoSeRechaza) {
+    Pantalla t;
+    const QString ambiguo = LeerNumeroTecleado(QStringLiteral("1,234")).motivo;
+    // Under '.' decimals "0,125" is an eighth, never 125.
+    t.d.textos = {QStringLiteral("0,125"), QStringLiteral("1,234")};
+    t.datos.LlenarBloque(1, 1, 3, 4, 4);
+    for (int i = 1; i <= 3; ++i) EXPECT_DOUBLE_EQ(t.p.Diametro[i], 0.125) << i;
+    t.datos.LlenarBloque(2, 1, 4, 3, 3);
+    MensajeEs(t.d.Ultimo(), ambiguo, "Error en el Número...");
+    EXPECT_EQ(t.p.CotaTerreno[4], 35.0);
+
+    EXPECT_TRUE(t.datos.EditarNodo(3, 3, QStringLiteral("4,5")));
+    EXPECT_EQ(t.p.CotaTerreno[3], 4.5);
+    const size_t vistos = t.d.mensajes.size();
+    EXPECT_FALSE(t.datos.EditarRamal(1, 3, QStringLiteral("1,234")));
+    EXPECT_EQ(t.p.Longitud[1], 100.0);
+    ASSERT_EQ(t.d.mensajes.size(), vistos + 1);
+    // A cell's refusal: the reader's reason, or the column's limits for a number.
+    t.datos.NumeroRechazado(2, 3, QStringLiteral("1,234"));
+    MensajeEs(t.d.Ultimo(), ambiguo, "Error en el Número...");
+    t.datos.NumeroRechazado(1, 5, QStringLiteral("40000"));
+    MensajeEs(t.d.Ultimo(), "¡Debe Entrar un Número entre 0 y 32767!", "Error en el Número...");
+
+    SeparadoresActuales() = SeparadoresDelSistema(QLocale(QStringLiteral("es_VE")));
+    const bool leido = t.datos.EditarNodo(3, 3, QStringLiteral("1.5"));
+    SeparadoresActuales() = Separadores();
+    EXPECT_TRUE(leido);
+    EXPECT_EQ(t.p.CotaTerreno[3], 1.5);  // not 15
 }
 
 TEST(DatosAcueducto, CerrarSalvarYAbrir) {

@@ -5,6 +5,7 @@
 #include "base/Nivo.h"
 #include "support/Apoyo.h"
 
+#include <QLocale>
 #include <gtest/gtest.h>
 
 TEST(RoundNivo, MitadSeAlejaDeCero) {
@@ -63,13 +64,147 @@ TEST(Formato, MascarasConSeparadoresDeLaSesion) {
     EXPECT_EQ(g.Texto(1, 1), QStringLiteral("8"));
 }
 
-TEST(Formato, LeerNumeroAceptaLaFormaDeLaSesion) {
-    SeparadoresActuales() = Separadores();
+TEST(Formato, LasMarcasSonLasDelLocale) {
+    // Spain writes 1234.56 as "1234,56": its thousands mark shows only from
+    // five digits on, yet it is '.'.  Mexico writes "1,234.56"; Venezuela,
+    // Argentina and Colombia "1.234,56"; C "1234.56" with ',' for groups.
+    const struct {
+        const char* locale;
+        char decimal, miles;
+        const char* miles2, *fraccion3, *flujo;  // 1234.56 "#,##0.00", 0.0617 "0.0000", 23 "0.00"
+    } casos[] = {
+        {"es_ES", ',', '.', "1.234,56", "0,0617", "23,00"}, {"es_MX", '.', ',', "1,234.56", "0.0617", "23.00"},
+        {"es_VE", ',', '.', "1.234,56", "0,0617", "23,00"}, {"es_AR", ',', '.', "1.234,56", "0,0617", "23,00"},
+        {"es_CO", ',', '.', "1.234,56", "0,0617", "23,00"}, {"C", '.', ',', "1,234.56", "0.0617", "23.00"},
+    };
+    for (const auto& c : casos) {
+        const Separadores sep = SeparadoresDelSistema(QLocale(QString::fromLatin1(c.locale)));
+        EXPECT_EQ(sep.decimal, QLatin1Char(c.decimal)) << c.locale;
+        EXPECT_EQ(sep.miles, QLatin1Char(c.miles)) << c.locale;
+        EXPECT_EQ(Formato(1234.56, QStringLiteral("#,##0.00"), sep), QString::fromLatin1(c.miles2)) << c.locale;
+        EXPECT_EQ(Formato(0.0617, QStringLiteral("0.0000"), sep), QString::fromLatin1(c.fraccion3)) << c.locale;
+        EXPECT_EQ(Formato(23.0, QStringLiteral("0.00"), sep), QString::fromLatin1(c.flujo)) << c.locale;
+    }
+}
+
+namespace {
+enum class Lectura { Valor, Ambigua, NoNumero };
+const char* const SeisLocales = "es_ES es_MX es_VE es_AR es_CO C";
+const char* const ComaDecimal = "es_ES es_VE es_AR es_CO";
+const char* const PuntoDecimal = "es_MX C";
+}  // namespace
+
+TEST(LeerNumeroTecleado, TablaDeCasosEnSeisLocales) {
+    // Read by hand: a mark followed by other than three digits is the
+    // decimal; a lone mark of the locale's decimal kind is the decimal;
+    // groups are 1-3 digits not led by 0, then threes, one mark for all.
+    const struct {
+        const char* locales;
+        const char* texto;
+        Lectura lectura;
+        double valor;
+    } casos[] = {
+        {SeisLocales, "1,5", Lectura::Valor, 1.5},
+        {SeisLocales, "1.5", Lectura::Valor, 1.5},
+        {SeisLocales, "0,125", Lectura::Valor, 0.125},
+        {SeisLocales, "0.125", Lectura::Valor, 0.125},
+        {SeisLocales, "4,5", Lectura::Valor, 4.5},
+        {SeisLocales, "12,34", Lectura::Valor, 12.34},
+        {SeisLocales, "1234,567", Lectura::Valor, 1234.567},  // four digits lead no group
+        {SeisLocales, ",5", Lectura::Valor, 0.5},
+        {SeisLocales, "7.", Lectura::Valor, 7.0},
+        {SeisLocales, "1.234.567,5", Lectura::Valor, 1234567.5},
+        {SeisLocales, "1,234.5", Lectura::Valor, 1234.5},
+        {SeisLocales, "1,234,567", Lectura::Valor, 1234567.0},
+        {SeisLocales, "1.234.567", Lectura::Valor, 1234567.0},
+        {SeisLocales, " -2,5 ", Lectura::Valor, -2.5},
+        {SeisLocales, "+3", Lectura::Valor, 3.0},
+        {SeisLocales, "-0", Lectura::Valor, 0.0},
+        {SeisLocales, "1e3", Lectura::Valor, 1000.0},
+        {SeisLocales, "2,5E-2", Lectura::Valor, 0.025},
+        {PuntoDecimal, "1.234", Lectura::Valor, 1.234},
+        {PuntoDecimal, "1,234", Lectura::Ambigua, 0},
+        {PuntoDecimal, "-12,500", Lectura::Ambigua, 0},
+        {ComaDecimal, "1,234", Lectura::Valor, 1.234},
+        {ComaDecimal, "1.234", Lectura::Ambigua, 0},
+        {ComaDecimal, "999.000", Lectura::Ambigua, 0},
+        {SeisLocales, "", Lectura::NoNumero, 0},
+        {SeisLocales, "   ", Lectura::NoNumero, 0},
+        {SeisLocales, "-", Lectura::NoNumero, 0},
+        {SeisLocales, "abc", Lectura::NoNumero, 0},
+        {SeisLocales, "12 m", Lectura::NoNumero, 0},
+        {SeisLocales, "1 234", Lectura::NoNumero, 0},
+        {SeisLocales, "1,,5", Lectura::NoNumero, 0},
+        {SeisLocales, "1,2,3", Lectura::NoNumero, 0},
+        {SeisLocales, "12,34.5", Lectura::NoNumero, 0},   // a group of two
+        {SeisLocales, "0.234,5", Lectura::NoNumero, 0},   // 0 leads no group
+        {SeisLocales, "1.234.5", Lectura::NoNumero, 0},
+        {SeisLocales, "1,234.5,6", Lectura::NoNumero, 0},
+        {SeisLocales, "1e", Lectura::NoNumero, 0},
+        {SeisLocales, "1e400", Lectura::NoNumero, 0},
+        {SeisLocales, "inf", Lectura::NoNumero, 0},
+        {SeisLocales, "--1", Lectura::NoNumero, 0},
+    };
+    int vistos = 0;
+    for (const auto& c : casos) {
+        for (const QString& nombre : QString::fromLatin1(c.locales).split(QLatin1Char(' '))) {
+            const NumeroLeido r = LeerNumeroTecleado(QString::fromUtf8(c.texto), SeparadoresDelSistema(QLocale(nombre)));
+            const std::string donde = std::string("\"") + c.texto + "\" en " + nombre.toStdString();
+            ++vistos;
+            EXPECT_EQ(r.valido, c.lectura == Lectura::Valor) << donde;
+            EXPECT_EQ(r.motivo.isEmpty(), r.valido) << donde;
+            if (c.lectura == Lectura::Valor) EXPECT_DOUBLE_EQ(r.valor, c.valor) << donde;
+            EXPECT_EQ(r.ambiguo, c.lectura == Lectura::Ambigua) << donde;
+        }
+    }
+    EXPECT_GT(vistos, 200);
+}
+
+TEST(LeerNumeroTecleado, ElMensajeNombraElTextoYDiceComoEscribirlo) {
+    const Separadores punto = SeparadoresDelSistema(QLocale::c());
+    const Separadores coma = SeparadoresDelSistema(QLocale(QStringLiteral("es_ES")));
+    EXPECT_EQ(LeerNumeroTecleado(QStringLiteral("1,234"), punto).motivo,
+              QStringLiteral("El número \"1,234\" puede leerse como 1234 o como 1.234: escríbalo sin separador de "
+                             "miles (1234) o con \".\" como separador decimal (1.234)."));
+    EXPECT_EQ(LeerNumeroTecleado(QStringLiteral(" 1.234 "), coma).motivo,
+              QStringLiteral("El número \"1.234\" puede leerse como 1234 o como 1,234: escríbalo sin separador de "
+                             "miles (1234) o con \",\" como separador decimal (1,234)."));
+    EXPECT_EQ(LeerNumeroTecleado(QStringLiteral("dos"), coma).motivo,
+              QStringLiteral("\"dos\" no es un número: escríbalo con \",\" como separador decimal, por ejemplo 1234,5."));
+    EXPECT_EQ(LeerNumeroTecleado(QString(), punto).motivo,
+              QStringLiteral("Falta el número: escríbalo con \".\" como separador decimal, por ejemplo 1234.5."));
+}
+
+TEST(LeerNumeroTecleado, LoQueSeMuestraSeLeeIgual) {
+    // Every shown form, grouped or not, reads back to its value under every locale.
+    for (const QString& nombre : QString::fromLatin1(SeisLocales).split(QLatin1Char(' '))) {
+        const Separadores sep = SeparadoresDelSistema(QLocale(nombre));
+        for (double v : {0.0, 0.0617, 1.03, 23.0, -7.25, 1234.56, 999999.99, 1234567.5}) {
+            for (const char* mascara : {"0.00", "0.000", "0.0000", "#,##0.00"}) {
+                const QString texto = Formato(v, QString::fromLatin1(mascara), sep);
+                const NumeroLeido r = LeerNumeroTecleado(texto, sep);
+                EXPECT_TRUE(r.valido) << texto.toStdString() << " en " << nombre.toStdString();
+                EXPECT_DOUBLE_EQ(r.valor, RoundNivo(v, QString::fromLatin1(mascara).section('.', 1).size()))
+                    << texto.toStdString();
+            }
+        }
+    }
+}
+
+TEST(LeerNumero, LaSesionLeeTecleadoYLosArchivosLaFormaC) {
+    SeparadoresActuales() = SeparadoresDelSistema(QLocale(QStringLiteral("es_ES")));
     double v = 0;
-    EXPECT_TRUE(LeerNumero(QStringLiteral(" 1,234.5 "), v));
-    EXPECT_DOUBLE_EQ(v, 1234.5);
-    EXPECT_FALSE(LeerNumero(QStringLiteral("abc"), v));
-    EXPECT_FALSE(LeerNumero(QStringLiteral("   "), v));
+    EXPECT_TRUE(LeerNumero(QStringLiteral("1,5"), v));
+    EXPECT_DOUBLE_EQ(v, 1.5);
+    EXPECT_FALSE(LeerNumero(QStringLiteral("1.234"), v));
+    // A stored "1.234" is the decimal, whatever the locale.
+    EXPECT_TRUE(LeerNumeroGuardado(QStringLiteral("1.234"), v));
+    EXPECT_DOUBLE_EQ(v, 1.234);
+    EXPECT_TRUE(LeerNumeroGuardado(QStringLiteral(" -2.5e3 "), v));
+    EXPECT_DOUBLE_EQ(v, -2500.0);
+    EXPECT_FALSE(LeerNumeroGuardado(QStringLiteral("1,5"), v));
+    EXPECT_FALSE(LeerNumeroGuardado(QStringLiteral(""), v));
+    SeparadoresActuales() = Separadores();
     EXPECT_DOUBLE_EQ(Val(QStringLiteral("12.5 m")), 12.5);
     EXPECT_DOUBLE_EQ(Val(QStringLiteral("m 12")), 0.0);
 }

@@ -10,6 +10,7 @@
 // 1.02 m/s; as 3/4" it is 0.0008/(0.02093^2 pi) = 0.58 m/s.
 
 #include "ApoyoPantallas.h"
+#include "base/Nivo.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
@@ -17,6 +18,8 @@
 #include "widgets/VistaGrid.h"
 
 #include <QComboBox>
+#include <QLocale>
+#include <cmath>
 #include <QGroupBox>
 #include <QPushButton>
 
@@ -109,6 +112,48 @@ TEST_F(PantallaAnalisis, LasRejillasMuestranLosValoresDelEjemplo) {
     EXPECT_EQ(Spread(4).Cel(peor, 15).colorFondo, ColoresAnalisis::NodoDesfavorable);
 }
 
+TEST(PantallaAnalisisLocales, LosNumerosMostradosSeLeenDeVueltaEnSeisLocales) {
+    // Branch 1 carries 23 units and 1.03 l/s (worked above); every shown
+    // number reads back through the typed-number reader to the value within
+    // half of its last shown place.
+    const struct {
+        const char* locale;
+        const char *unidades, *gasto;
+    } casos[] = {{"es_ES", "23,00", "1,03"}, {"es_MX", "23.00", "1.03"}, {"es_VE", "23,00", "1,03"},
+                 {"es_AR", "23,00", "1,03"}, {"es_CO", "23,00", "1,03"}, {"C", "23.00", "1.03"}};
+    for (const auto& c : casos) {
+        SesionPrueba sp;
+        SeparadoresActuales() = SeparadoresDelSistema(QLocale(QString::fromLatin1(c.locale)));
+        ProyectoEdificio p;
+        DialogosPantalla d;
+        CargarEjemplo(sp, p, d, QStringLiteral("Vivienda con Tanque Elevado"));
+        VentanaAnalisisRed v(p, sp.s, d);
+        ASSERT_TRUE(v.Cargar());
+        const QAbstractItemModel* primera = v.Vista(1)->model();
+        EXPECT_EQ(primera->data(primera->index(0, 2)).toString(), QString::fromLatin1(c.unidades)) << c.locale;
+        EXPECT_EQ(primera->data(primera->index(0, 3)).toString(), QString::fromLatin1(c.gasto)) << c.locale;
+        int leidos = 0;
+        for (int tab = 1; tab <= 4; ++tab) {
+            const Grid& g = *v.Vista(tab)->grid();
+            const QAbstractItemModel* m = v.Vista(tab)->model();
+            for (int f = 1; f <= g.Filas(); ++f)
+                for (int col = 1; col <= g.Columnas(); ++col) {
+                    if (!g.EsNumero(f, col)) continue;
+                    const QString mostrado = m->data(m->index(f - 1, col - 1)).toString();
+                    const NumeroLeido r = LeerNumeroTecleado(mostrado);
+                    ASSERT_TRUE(r.valido) << c.locale << " " << mostrado.toStdString() << ": " << r.motivo.toStdString();
+                    const int marca = std::max(mostrado.lastIndexOf(QLatin1Char('.')), mostrado.lastIndexOf(QLatin1Char(',')));
+                    const int decimales = marca < 0 ? 0 : int(mostrado.size()) - marca - 1;
+                    EXPECT_NEAR(r.valor, g.Cel(f, col).valor, 0.5 * std::pow(10.0, -decimales) + 1e-9)
+                        << c.locale << " pestaña " << tab << " " << f << "," << col << " " << mostrado.toStdString();
+                    ++leidos;
+                }
+        }
+        EXPECT_GT(leidos, 100) << c.locale;
+    }
+    SeparadoresActuales() = Separadores();
+}
+
 TEST_F(PantallaAnalisis, LaListaDeDiametrosTieneLosCatorceNombres) {
     ModeloGrid& m = v->Vista(1)->Modelo();
     const QModelIndex i = m.index(7, 6);
@@ -166,10 +211,21 @@ TEST_F(PantallaAnalisis, UnaValvulaBajaLaPresionAguasAbajoYSeGuarda) {
     }
     // The edited row stays the current one.
     EXPECT_EQ(v->Vista(4)->currentIndex().row(), 1);
-    // A text that is not a number is refused by the cell.
+    // A text that is not a number, or reads two ways, is refused by the
+    // cell, which says why; "1,5" is a metre and a half, not 15 m.
     ModeloGrid& m = v->Vista(4)->Modelo();
-    EXPECT_FALSE(m.setData(m.index(1, 13), QStringLiteral("abc"), Qt::EditRole));
-    EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 2)), 1.0);
+    for (const char* texto : {"abc", "1,234"}) {
+        MensajeVisto visto;
+        Contestar(visto, 0);
+        EXPECT_FALSE(m.setData(m.index(1, 13), QString::fromLatin1(texto), Qt::EditRole));
+        QApplication::processEvents();
+        MensajeEs(visto, LeerNumeroTecleado(QString::fromLatin1(texto)).motivo, QStringLiteral("Error en el Número..."));
+        EXPECT_EQ(Texto(4, 2, 14), QStringLiteral("1.00"));
+        EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 2)), 1.0);
+    }
+    Editar(4, 2, 14, QStringLiteral("1,5"));
+    EXPECT_EQ(Texto(4, 2, 14), QStringLiteral("1.50"));
+    EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 2)), 1.5);
 }
 
 TEST_F(PantallaAnalisis, IgualarDiametrosPreguntaConLaCajaDelPrograma) {

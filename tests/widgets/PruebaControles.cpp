@@ -46,6 +46,42 @@ TEST(NivoNumero, MuestraYLeeConLosSeparadoresDeLaSesion) {
     EXPECT_TRUE(caja.text().isEmpty());
 }
 
+TEST(NivoNumero, LeeAmbasMarcasYRechazaLoAmbiguoConSuMensaje) {
+    // Starts per hour typed as the engineer means them, under '.' and ',' decimals.
+    QWidget pantalla;
+    auto* caja = new NivoDouble(&pantalla, 2);
+    DialogosFalsos d;
+    AvisarNumerosRechazados(&pantalla, d);
+    const struct {
+        char decimal, miles;
+        const char* texto;
+        double valor;  // the old value 6 when refused
+        const char* mostrado;
+    } casos[] = {
+        {'.', ',', "4,5", 4.5, "4.50"},   {',', '.', "1.5", 1.5, "1,50"},      {'.', ',', "0,125", 0.125, "0.13"},
+        {'.', ',', "1,234", 6.0, "6.00"}, {',', '.', "1.234", 6.0, "6,00"},    {',', '.', "1.234,5", 1234.5, "1234,50"},
+        {'.', ',', "4x", 6.0, "6.00"},    {'.', ',', "1,234.5", 1234.5, "1234.50"},
+    };
+    for (const auto& c : casos) {
+        ConSeparadores marcas(c.decimal, c.miles);
+        caja->PonerValor(6.0);
+        d.mensajes.clear();
+        caja->setText(QString::fromLatin1(c.texto));  // as typed, the validator aside
+        Tecla(caja, Qt::Key_Return);
+        QApplication::processEvents();
+        EXPECT_NEAR(caja->Valor(), c.valor, 1e-9) << c.texto;
+        EXPECT_EQ(caja->text(), QString::fromLatin1(c.mostrado)) << c.texto;
+        const bool rechazado = c.valor == 6.0;
+        ASSERT_EQ(d.mensajes.size(), rechazado ? 1u : 0u) << c.texto;
+        if (rechazado)
+            MensajeEs(d.Ultimo(), LeerNumeroTecleado(QString::fromLatin1(c.texto)).motivo,
+                      QStringLiteral("Error en el Número..."));
+    }
+    // Both marks get in through the keyboard.
+    Escribir(caja, QStringLiteral("1.234,5"));
+    EXPECT_EQ(caja->text(), QStringLiteral("1.234,5"));
+}
+
 TEST(NivoNumero, FueraDeLimitesVuelveAlUltimoValor) {
     NivoDouble caja(nullptr, 1);
     caja.PonerLimites(0.0, 100.0);

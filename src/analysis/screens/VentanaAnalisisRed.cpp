@@ -58,10 +58,12 @@ VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos&
     connect(tab_, &QTabBar::currentChanged, this, [this](int i) { CambiarTab(i + 1); });
     vistas_[0]->AlEditar([this](int f, int c, const QString& t) { EditarSpread4(f, c, t); });
     vistas_[3]->AlEditar([this](int f, int c, const QString& t) { EditarSpread3(f, c, t); });
+    vistas_[3]->Modelo().alRechazar = [this](int, int, const QString& t) { logica_.NumeroRechazado(t); };
 
     for (const AyudaControl& a : AnalisisRed::AyudasControles())
         if (QPushButton* b = Boton(a.control)) b->setToolTip(a.texto);
     ConfigurarToolTips(this, tip_, s_.Tapiz);
+    AvisarNumerosRechazados(this, d_);
     // The tips with a title of their own.
     for (const AyudaControl& a : AnalisisRed::AyudasControles())
         if (!a.titulo.isEmpty()) tip_->Registrar(Boton(a.control), a.texto, a.titulo);

@@ -77,6 +77,7 @@ VentanaDatosAcueducto::VentanaDatosAcueducto(ProyectoAcueducto& p, Sesion& s, Di
     spread2_->MostrarGrid(&logica_.Spread2);
     Refrescar();
     InstalarAyudas(this, tip_, s_.Tapiz, AyudasDatosAcueducto());
+    AvisarNumerosRechazados(this, d_);
 }
 
 VentanaDatosAcueducto::~VentanaDatosAcueducto() {
@@ -219,8 +220,8 @@ QWidget* VentanaDatosAcueducto::Pagina2() {
     spread1_->setContextMenuPolicy(Qt::CustomContextMenu);
     capa->addWidget(spread1_, 1);
     spread1_->AlEditar([this](int f, int c, const QString& t) { EditarCelda(1, f, c, t); });
-    spread1_->Modelo().alRechazar = [this](int, int c, const QString&) {
-        Accion([&] { logica_.NumeroRechazado(1, c); });
+    spread1_->Modelo().alRechazar = [this](int, int c, const QString& t) {
+        Accion([&] { logica_.NumeroRechazado(1, c, t); });
     };
     connect(spread1_, &VistaGrid::BloqueSeleccionado, this,
             [this](int f1, int f2, int c1, int c2) {
@@ -243,6 +244,9 @@ QWidget* VentanaDatosAcueducto::Pagina3() {
     spread2_->horizontalHeader()->setStretchLastSection(true);
     capa->addWidget(spread2_, 1);
     spread2_->AlEditar([this](int f, int c, const QString& t) { EditarCelda(2, f, c, t); });
+    spread2_->Modelo().alRechazar = [this](int, int c, const QString& t) {
+        Accion([&] { logica_.NumeroRechazado(2, c, t); });
+    };
     connect(spread2_, &VistaGrid::BloqueSeleccionado, this,
             [this](int f1, int f2, int c1, int c2) {
                 bool pregunto = false;
@@ -381,6 +385,7 @@ void VentanaDatosAcueducto::AbrirLongitudes() {
     Accion([this, &abrir] { abrir = logica_.Longitudes(); });
     if (!abrir) return;
     VentanaLongitudTramosAcu longitudes(logica_, [this] { Refrescar(); }, this);
+    AvisarNumerosRechazados(&longitudes, d_);
     longitudes.exec();
     Refrescar();
 }

@@ -56,6 +56,7 @@ VentanaHidroneumatico::VentanaHidroneumatico(ProyectoEdificio& p, Sesion& s, Dia
     PonerCentrado(this, capa);
 
     ConfigurarToolTips(this, tip_, s_.Tapiz);
+    AvisarNumerosRechazados(this, d_);
     setWindowTitle(logica_.Caption);
     Mostrar();
 }
