@@ -17,6 +17,8 @@
 #include <QSet>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace {
 
 bool EsCeldaNumerica(const Grid& g, int f, int c) {
@@ -55,6 +57,8 @@ int MargenTexto(const QWidget* w) {
 
 // Text columns grow to their texts up to this many average characters.
 constexpr int LimiteTexto = 60;
+// How many of a column's longest texts are measured for its width.
+constexpr size_t TextosMedidos = 64;
 
 }  // namespace
 
@@ -455,12 +459,22 @@ void VistaGrid::AjustarAnchos() {
             if (u.columnas > 1) anchas.insert(qint64(u.fila) << 32 | u.columna);
         necesarios_.assign(size_t(n) + 1, 0);
         const int tope = LimiteTexto * fontMetrics().averageCharWidth();
+        std::vector<std::pair<int, int>> largos;  // (characters, row)
         for (int c = 1; c <= n; ++c) {
             if (!ajustable(c)) continue;
-            int ancho = 0;
+            // The widest text is among the longest ones: only those are
+            // measured, so a grid of thousands of rows costs a few dozen
+            // measures a column.
+            largos.clear();
             for (int f = 1; f <= g->Filas(); ++f)
-                if (!anchas.contains(qint64(f) << 32 | c))
-                    ancho = std::max(ancho, fontMetrics().horizontalAdvance(g->Texto(f, c)));
+                if (!anchas.contains(qint64(f) << 32 | c)) largos.push_back({int(g->Cel(f, c).texto.size()), f});
+            if (largos.size() > TextosMedidos) {
+                std::nth_element(largos.begin(), largos.begin() + TextosMedidos, largos.end(), std::greater<>());
+                largos.resize(TextosMedidos);
+            }
+            int ancho = 0;
+            for (const auto& [largo, f] : largos)
+                ancho = std::max(ancho, fontMetrics().horizontalAdvance(g->Cel(f, c).texto));
             necesarios_[size_t(c)] = std::min(ancho + MargenTexto(this) + 2, tope);
         }
         gridMedido_ = g;
