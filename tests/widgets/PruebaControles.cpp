@@ -58,9 +58,9 @@ TEST(NivoNumero, LeeAmbasMarcasYRechazaLoAmbiguoConSuMensaje) {
         double valor;  // the old value 6 when refused
         const char* mostrado;
     } casos[] = {
-        {'.', ',', "4,5", 4.5, "4.50"},   {',', '.', "1.5", 1.5, "1,50"},      {'.', ',', "0,125", 0.125, "0.13"},
-        {'.', ',', "1,234", 6.0, "6.00"}, {',', '.', "1.234", 6.0, "6,00"},    {',', '.', "1.234,5", 1234.5, "1234,50"},
-        {'.', ',', "4x", 6.0, "6.00"},    {'.', ',', "1,234.5", 1234.5, "1234.50"},
+        // The readings themselves are the reader's table: here, that the box uses it.
+        {'.', ',', "4,5", 4.5, "4.50"},   {',', '.', "1.5", 1.5, "1,50"},
+        {'.', ',', "1,234", 6.0, "6.00"}, {',', '.', "1.234,5", 1234.5, "1234,50"},
     };
     for (const auto& c : casos) {
         ConSeparadores marcas(c.decimal, c.miles);
