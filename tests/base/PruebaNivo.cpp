@@ -184,7 +184,7 @@ TEST(LeerNumeroTecleado, ElMensajeNombraElTextoYDiceComoEscribirlo) {
 }
 
 TEST(LeerNumero, LaSesionLeeTecleadoYLosArchivosLaFormaC) {
-    SeparadoresActuales() = SeparadoresDelSistema(QLocale(QStringLiteral("es_ES")));
+    const MarcasPrueba espana("es_ES");
     double v = 0;
     EXPECT_TRUE(LeerNumero(QStringLiteral("1,5"), v));
     EXPECT_DOUBLE_EQ(v, 1.5);
@@ -196,7 +196,6 @@ TEST(LeerNumero, LaSesionLeeTecleadoYLosArchivosLaFormaC) {
     EXPECT_DOUBLE_EQ(v, -2500.0);
     EXPECT_FALSE(LeerNumeroGuardado(QStringLiteral("1,5"), v));
     EXPECT_FALSE(LeerNumeroGuardado(QStringLiteral(""), v));
-    SeparadoresActuales() = Separadores();
     EXPECT_DOUBLE_EQ(Val(QStringLiteral("12.5 m")), 12.5);
     EXPECT_DOUBLE_EQ(Val(QStringLiteral("m 12")), 0.0);
 }

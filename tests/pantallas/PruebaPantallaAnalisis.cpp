@@ -10,7 +10,6 @@
 // 1.02 m/s; as 3/4" it is 0.0008/(0.02093^2 pi) = 0.58 m/s.
 
 #include "ApoyoPantallas.h"
-#include "base/Nivo.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
@@ -18,10 +17,9 @@
 #include "widgets/VistaGrid.h"
 
 #include <QComboBox>
-#include <QLocale>
-#include <cmath>
 #include <QGroupBox>
 #include <QPushButton>
+#include <cmath>
 
 namespace {
 
@@ -123,7 +121,7 @@ TEST(PantallaAnalisisLocales, LosNumerosMostradosSeLeenDeVueltaEnSeisLocales) {
                  {"es_AR", "23,00", "1,03"}, {"es_CO", "23,00", "1,03"}, {"C", "23.00", "1.03"}};
     for (const auto& c : casos) {
         SesionPrueba sp;
-        SeparadoresActuales() = SeparadoresDelSistema(QLocale(QString::fromLatin1(c.locale)));
+        const MarcasPrueba marcas(c.locale);
         ProyectoEdificio p;
         DialogosPantalla d;
         CargarEjemplo(sp, p, d, QStringLiteral("Vivienda con Tanque Elevado"));
@@ -151,7 +149,6 @@ TEST(PantallaAnalisisLocales, LosNumerosMostradosSeLeenDeVueltaEnSeisLocales) {
         }
         EXPECT_GT(leidos, 100) << c.locale;
     }
-    SeparadoresActuales() = Separadores();
 }
 
 TEST_F(PantallaAnalisis, LaListaDeDiametrosTieneLosCatorceNombres) {

@@ -13,22 +13,8 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
-namespace {
-
-// Sets the session's separators for one test.
-struct ConSeparadores {
-    Separadores antes = SeparadoresActuales();
-    ConSeparadores(char decimal, char miles) {
-        SeparadoresActuales().decimal = QLatin1Char(decimal);
-        SeparadoresActuales().miles = QLatin1Char(miles);
-    }
-    ~ConSeparadores() { SeparadoresActuales() = antes; }
-};
-
-}  // namespace
-
 TEST(NivoNumero, MuestraYLeeConLosSeparadoresDeLaSesion) {
-    ConSeparadores coma(',', '.');
+    MarcasPrueba coma("es_AR");
     NivoDouble caja(nullptr, 2);
     caja.PonerValor(1234.5);
     EXPECT_EQ(caja.text(), QStringLiteral("1234,50"));
@@ -53,17 +39,16 @@ TEST(NivoNumero, LeeAmbasMarcasYRechazaLoAmbiguoConSuMensaje) {
     DialogosFalsos d;
     AvisarNumerosRechazados(&pantalla, d);
     const struct {
-        char decimal, miles;
-        const char* texto;
+        const char *locale, *texto;
         double valor;  // the old value 6 when refused
         const char* mostrado;
     } casos[] = {
         // The readings themselves are the reader's table: here, that the box uses it.
-        {'.', ',', "4,5", 4.5, "4.50"},   {',', '.', "1.5", 1.5, "1,50"},
-        {'.', ',', "1,234", 6.0, "6.00"}, {',', '.', "1.234,5", 1234.5, "1234,50"},
+        {"C", "4,5", 4.5, "4.50"},   {"es_AR", "1.5", 1.5, "1,50"},
+        {"C", "1,234", 6.0, "6.00"}, {"es_AR", "1.234,5", 1234.5, "1234,50"},
     };
     for (const auto& c : casos) {
-        ConSeparadores marcas(c.decimal, c.miles);
+        MarcasPrueba marcas(c.locale);
         caja->PonerValor(6.0);
         d.mensajes.clear();
         caja->setText(QString::fromLatin1(c.texto));  // as typed, the validator aside
