@@ -10,7 +10,6 @@
 // 1.02 m/s; as 3/4" it is 0.0008/(0.02093^2 pi) = 0.58 m/s.
 
 #include "ApoyoPantallas.h"
-#include "base/Nivo.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
@@ -18,10 +17,9 @@
 #include "widgets/VistaGrid.h"
 
 #include <QComboBox>
-#include <QLocale>
-#include <cmath>
 #include <QGroupBox>
 #include <QPushButton>
+#include <cmath>
 
 namespace {
 
@@ -123,7 +121,7 @@ TEST(PantallaAnalisisLocales, LosNumerosMostradosSeLeenDeVueltaEnSeisLocales) {
                  {"es_AR", "23,00", "1,03"}, {"es_CO", "23,00", "1,03"}, {"C", "23.00", "1.03"}};
     for (const auto& c : casos) {
         SesionPrueba sp;
-        SeparadoresActuales() = SeparadoresDelSistema(QLocale(QString::fromLatin1(c.locale)));
+        const MarcasPrueba marcas(c.locale);
         ProyectoEdificio p;
         DialogosPantalla d;
         CargarEjemplo(sp, p, d, QStringLiteral("Vivienda con Tanque Elevado"));
@@ -151,7 +149,6 @@ TEST(PantallaAnalisisLocales, LosNumerosMostradosSeLeenDeVueltaEnSeisLocales) {
         }
         EXPECT_GT(leidos, 100) << c.locale;
     }
-    SeparadoresActuales() = Separadores();
 }
 
 TEST_F(PantallaAnalisis, LaListaDeDiametrosTieneLosCatorceNombres) {
@@ -211,18 +208,17 @@ TEST_F(PantallaAnalisis, UnaValvulaBajaLaPresionAguasAbajoYSeGuarda) {
     }
     // The edited row stays the current one.
     EXPECT_EQ(v->Vista(4)->currentIndex().row(), 1);
-    // A text that is not a number, or reads two ways, is refused by the
-    // cell, which says why; "1,5" is a metre and a half, not 15 m.
+    // A text that reads two ways is refused by the cell, which says why
+    // (the refusals themselves are the logic's test); "1,5" is a metre and
+    // a half, not 15 m.
     ModeloGrid& m = v->Vista(4)->Modelo();
-    for (const char* texto : {"abc", "1,234"}) {
-        MensajeVisto visto;
-        Contestar(visto, 0);
-        EXPECT_FALSE(m.setData(m.index(1, 13), QString::fromLatin1(texto), Qt::EditRole));
-        QApplication::processEvents();
-        MensajeEs(visto, LeerNumeroTecleado(QString::fromLatin1(texto)).motivo, QStringLiteral("Error en el Número..."));
-        EXPECT_EQ(Texto(4, 2, 14), QStringLiteral("1.00"));
-        EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 2)), 1.0);
-    }
+    MensajeVisto visto;
+    Contestar(visto, 0);
+    EXPECT_FALSE(m.setData(m.index(1, 13), QStringLiteral("1,234"), Qt::EditRole));
+    QApplication::processEvents();
+    MensajeEs(visto, LeerNumeroTecleado(QStringLiteral("1,234")).motivo, QStringLiteral("Error en el Número..."));
+    EXPECT_EQ(Texto(4, 2, 14), QStringLiteral("1.00"));
+    EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 2)), 1.0);
     Editar(4, 2, 14, QStringLiteral("1,5"));
     EXPECT_EQ(Texto(4, 2, 14), QStringLiteral("1.50"));
     EXPECT_DOUBLE_EQ(ComoDoble(CampoDelArchivo(archivo, "ValvulaR", 2)), 1.5);
@@ -403,14 +399,13 @@ TEST_F(PantallaAnalisis, UnaRedConErroresLoDiceEnTodasLasPestanas) {
     const QString rota = sp.CopiaDeEjemplo(QStringLiteral("Edificio_ApartamentoTipo.nivo"), QStringLiteral("rota.plm"));
     ASSERT_TRUE(EjecutarSql(rota, QStringLiteral("UPDATE DatosRamales SET Nodoj=NodoI WHERE Numero=6")));
     d.archivos = {rota};
+    // The message shown once and the grids still filled are the logic's test.
     MensajeVisto visto;
     Contestar(visto, 0);
     v->Boton(QStringLiteral("LSButton5"))->click();
-    EXPECT_EQ(visto.encabezado, QStringLiteral("Error en la Numeración..."));
     for (int tab = 1; tab <= 4; ++tab) {
         v->Tabs()->PonerTab(tab);
         EXPECT_TRUE(v->AvisoErrorRed()->isVisible()) << tab;
-        EXPECT_GT(Spread(tab).Filas(), 0) << tab;
     }
     EXPECT_EQ(v->AvisoErrorRed()->palette().color(QPalette::WindowText), QColor(Qt::red));
 }

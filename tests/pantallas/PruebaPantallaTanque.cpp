@@ -129,19 +129,19 @@ TEST_F(PantallaTanque, UnaPresionMaximaIgualALaMinimaSeRechazaSinResultados) {
     Teclear("Caudal", "10");
     Teclear("PresionMinima", "20");
     Teclear("PresionMaxima", "20");
-    // Whichever opens, the box or the results, is seen and closed.
+    // Whatever opens, the box or the results, is read and closed.
     QString visto;
     bool resultados = false;
-    QTimer::singleShot(0, [&] {
-        QWidget* w = QApplication::activeModalWidget();
-        if (auto* caja = qobject_cast<VentanaMsgBox*>(w)) {
+    QTimer cierre;
+    QObject::connect(&cierre, &QTimer::timeout, [&] {
+        auto* w = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (auto* caja = qobject_cast<VentanaMsgBox*>(w))
             visto = caja->findChild<QLabel*>(QStringLiteral("Label2"))->text();
-            caja->Boton(0)->click();
-        } else if (auto* r = qobject_cast<VentanaResultadosHidro*>(w)) {
+        else if (w)
             resultados = true;
-            r->reject();
-        }
+        if (w) w->reject();
     });
+    cierre.start(10);
     v->Boton(QStringLiteral("Calcular"))->click();
     EXPECT_EQ(visto, QStringLiteral("La presión máxima debe ser mayor que la mínima."));
     EXPECT_FALSE(resultados);

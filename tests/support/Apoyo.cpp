@@ -62,6 +62,10 @@ bool DialogosFalsos::AbrirConSistema(const QString& ruta) {
     return abrirConSistemaResulta;
 }
 
+MarcasPrueba::MarcasPrueba(const char* locale) {
+    SeparadoresActuales() = SeparadoresDelSistema(QLocale(QString::fromLatin1(locale)));
+}
+
 SesionPrueba::SesionPrueba() {
     s.RutaPrograma = RutaProgramaPruebas();
     s.DirectorioDatos = dir_.path();

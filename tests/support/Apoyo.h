@@ -3,6 +3,7 @@
 // folder, and blank project files from the installed templates.
 
 #include "base/Dialogos.h"
+#include "base/Nivo.h"
 #include "shell/Sesion.h"
 
 #include <QStringList>
@@ -64,6 +65,17 @@ void MensajeEs(const M& m, const QString& texto, const QString& encabezado,
     EXPECT_EQ(m.encabezado, encabezado);
     EXPECT_EQ(m.titulo, titulo);
 }
+
+// The session's number marks set to a locale's ("es_ES", "C"...) for one
+// scope, and set back when it ends, failed or not.
+class MarcasPrueba {
+public:
+    explicit MarcasPrueba(const char* locale);
+    ~MarcasPrueba() { SeparadoresActuales() = antes_; }
+
+private:
+    Separadores antes_ = SeparadoresActuales();
+};
 
 // A session whose data folder is a fresh temporary folder and whose program
 // folder is the build's; separators fixed to '.' and ','.

@@ -83,7 +83,6 @@ TEST(Tanque, CalcularRechazaUnaPresionMaximaQueNoSuperaLaMinima) {
         if (!c.calcula)
             MensajeEs(d.Ultimo(), QStringLiteral("La presión máxima debe ser mayor que la mínima."),
                       QStringLiteral("Error en Datos del Sistema..."));
-        EXPECT_EQ(pantalla.Datos.PresionMaxima, c.maxima);
     }
 }
 

@@ -164,7 +164,24 @@ TEST(VistaGrid, RefrescarRehaceLasUnionesSoloCuandoCambian) {
     EXPECT_EQ(v.Modelo().rowCount(), 0);
 }
 
+namespace {
+
 using Ediciones = std::vector<std::tuple<int, int, QString>>;
+
+// The sample grid in a view with the cell (fila, columna), from 1, current;
+// every edit the view reports is kept in order.
+struct VistaEjemplo {
+    Grid g = Ejemplo();
+    VistaGrid v;
+    Ediciones ediciones;
+    VistaEjemplo(int fila, int columna) {
+        v.MostrarGrid(&g);
+        v.AlEditar([this](int f, int c, const QString& t) { ediciones.emplace_back(f, c, t); });
+        v.setCurrentIndex(v.Modelo().index(fila - 1, columna - 1));
+    }
+};
+
+}  // namespace
 
 TEST(VistaGrid, EnterConfirmaYBajaUnaFila) {
     struct Caso {
@@ -180,18 +197,13 @@ TEST(VistaGrid, EnterConfirmaYBajaUnaFila) {
         {2, "-4\n", {1, 1, 1}, 0, 2},        // refused below 0: the cell stays current
     };
     for (const Caso& caso : casos) {
-        Grid g = Ejemplo();
-        VistaGrid v;
-        v.MostrarGrid(&g);
-        v.show();
-        Ediciones ediciones;
-        v.AlEditar([&](int f, int c, const QString& t) { ediciones.emplace_back(f, c, t); });
-        v.setCurrentIndex(v.Modelo().index(caso.fila - 1, 4));
-        TeclearEnVista(&v, QString::fromLatin1(caso.teclas));
-        for (int f = 1; f <= 3; ++f) EXPECT_DOUBLE_EQ(g.Valor(f, 5), caso.valores[f - 1]) << caso.teclas << f;
-        EXPECT_EQ(int(ediciones.size()), caso.ediciones) << caso.teclas;
-        EXPECT_EQ(v.currentIndex().row() + 1, caso.filaFinal) << caso.teclas;
-        EXPECT_EQ(v.currentIndex().column(), 4) << caso.teclas;
+        VistaEjemplo e(caso.fila, 5);
+        e.v.show();
+        TeclearEnVista(&e.v, QString::fromLatin1(caso.teclas));
+        for (int f = 1; f <= 3; ++f) EXPECT_DOUBLE_EQ(e.g.Valor(f, 5), caso.valores[f - 1]) << caso.teclas << f;
+        EXPECT_EQ(int(e.ediciones.size()), caso.ediciones) << caso.teclas;
+        EXPECT_EQ(e.v.currentIndex().row() + 1, caso.filaFinal) << caso.teclas;
+        EXPECT_EQ(e.v.currentIndex().column(), 4) << caso.teclas;
     }
 }
 
@@ -210,15 +222,11 @@ TEST(VistaGrid, CopiarDaLosTextosVistosPorTabuladoresYLineas) {
         {2, 3, 4, 5, false, "3/4\"\t1.00\n3/4\"\t1.00"},
     };
     for (const Caso& caso : casos) {
-        Grid g = Ejemplo();
-        VistaGrid v;
-        v.MostrarGrid(&g);
-        v.setColumnHidden(1, caso.ocultarColumna2);
-        v.setCurrentIndex(v.Modelo().index(caso.f1 - 1, caso.c1 - 1));
-        v.selectionModel()->select(QItemSelection(v.Modelo().index(caso.f1 - 1, caso.c1 - 1),
-                                                  v.Modelo().index(caso.f2 - 1, caso.c2 - 1)),
-                                   QItemSelectionModel::ClearAndSelect);
-        QTest::keyClick(&v, Qt::Key_C, Qt::ControlModifier);
+        VistaEjemplo e(caso.f1, caso.c1);
+        e.v.setColumnHidden(1, caso.ocultarColumna2);
+        e.v.selectionModel()->select(QItemSelection(e.v.currentIndex(), e.v.Modelo().index(caso.f2 - 1, caso.c2 - 1)),
+                                     QItemSelectionModel::ClearAndSelect);
+        QTest::keyClick(&e.v, Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(QGuiApplication::clipboard()->text(), QString::fromUtf8(caso.esperado)) << caso.esperado;
     }
 }
@@ -246,19 +254,14 @@ TEST(VistaGrid, PegarPasaCadaCeldaPorLaMismaEntrada) {
         {"texto en un número", 2, 5, "uno\n6", {}, 2, 5},
     };
     for (const Caso& caso : casos) {
-        Grid g = Ejemplo();
-        VistaGrid v;
-        v.MostrarGrid(&g);
-        Ediciones ediciones;
-        v.AlEditar([&](int f, int c, const QString& t) { ediciones.emplace_back(f, c, t); });
-        v.setCurrentIndex(v.Modelo().index(caso.fila - 1, caso.columna - 1));
+        VistaEjemplo e(caso.fila, caso.columna);
         QGuiApplication::clipboard()->setText(QString::fromUtf8(caso.texto));
-        QTest::keyClick(&v, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(&e.v, Qt::Key_V, Qt::ControlModifier);
         QApplication::processEvents();
-        EXPECT_EQ(ediciones, caso.ediciones) << caso.nombre;
-        EXPECT_EQ(g.Texto(1, 3), QStringLiteral("0.25")) << caso.nombre;
-        EXPECT_EQ(v.currentIndex().row() + 1, caso.filaFinal) << caso.nombre;
-        EXPECT_EQ(v.currentIndex().column() + 1, caso.columnaFinal) << caso.nombre;
+        EXPECT_EQ(e.ediciones, caso.ediciones) << caso.nombre;
+        EXPECT_EQ(e.g.Texto(1, 3), QStringLiteral("0.25")) << caso.nombre;
+        EXPECT_EQ(e.v.currentIndex().row() + 1, caso.filaFinal) << caso.nombre;
+        EXPECT_EQ(e.v.currentIndex().column() + 1, caso.columnaFinal) << caso.nombre;
     }
 }
 
