@@ -114,7 +114,7 @@ bool Conexion::Abrir(const QString& ruta) {
         error_ = QStringLiteral("No se encuentra el archivo: ") + ruta;
         return false;
     }
-    const bool soloLectura = (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || access(nativa.constData(), W_OK) != 0;
+    const bool soloLectura = ArchivoSoloLectura(ruta);
     sqlite3* db = nullptr;
     const int rc = sqlite3_open_v2(nativa.constData(), &db, soloLectura ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE,
                                    nullptr);
