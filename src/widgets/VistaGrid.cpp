@@ -448,20 +448,33 @@ void VistaGrid::AjustarAnchos() {
     for (int c = 1; c <= n; ++c)
         if (!isColumnHidden(c - 1)) libre -= AnchoFijado(c);
     if (libre > 0 && (gridMedido_ != g || versionMedida_ != g->Version())) {
-        // Measured only when there is room to give, and again only once the
-        // grid has changed.
+        // Measured only when there is room to give, and again only in the
+        // columns whose texts changed: an edit refills the whole grid with
+        // mostly the same names, and measuring every row of a large network
+        // again would cost more than the edit itself.
+        if (gridMedido_ != g || necesarios_.size() != size_t(n) + 1) {
+            necesarios_.assign(size_t(n) + 1, -1);
+            firmas_.assign(size_t(n) + 1, 0);
+        }
         QSet<qint64> anchas;  // a text joined over columns is not one column's
-        for (const Union& u : g->Uniones())
-            if (u.columnas > 1) anchas.insert(qint64(u.fila) << 32 | u.columna);
-        necesarios_.assign(size_t(n) + 1, 0);
+        bool anchasVistas = false;
         const int tope = LimiteTexto * fontMetrics().averageCharWidth();
         for (int c = 1; c <= n; ++c) {
             if (!ajustable(c)) continue;
+            size_t firma = qHash(g->Filas());
+            for (int f = 1; f <= g->Filas(); ++f) firma = qHash(g->Texto(f, c), firma);
+            if (necesarios_[size_t(c)] >= 0 && firmas_[size_t(c)] == firma) continue;
+            if (!anchasVistas) {
+                for (const Union& u : g->Uniones())
+                    if (u.columnas > 1) anchas.insert(qint64(u.fila) << 32 | u.columna);
+                anchasVistas = true;
+            }
             int ancho = 0;
             for (int f = 1; f <= g->Filas(); ++f)
                 if (!anchas.contains(qint64(f) << 32 | c))
                     ancho = std::max(ancho, fontMetrics().horizontalAdvance(g->Texto(f, c)));
             necesarios_[size_t(c)] = std::min(ancho + MargenTexto(this) + 2, tope);
+            firmas_[size_t(c)] = firma;
         }
         gridMedido_ = g;
         versionMedida_ = g->Version();

@@ -174,8 +174,10 @@ private:
     QWidget* esquina_ = nullptr;
     int filas_ = -1, columnas_ = -1;
     std::vector<Union> uniones_;
-    // The widths the text columns' texts need, for the grid's version.
+    // The widths the text columns' texts need (-1 not measured yet), and a
+    // hash of the texts each was measured on.
     std::vector<int> necesarios_;
+    std::vector<size_t> firmas_;
     unsigned long versionMedida_ = 0;
     const Grid* gridMedido_ = nullptr;
 };
