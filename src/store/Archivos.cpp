@@ -89,11 +89,18 @@ bool DestinoReemplazable(const QString& destino, const QString& origen, QString&
         motivo = QStringLiteral("no es un archivo común");
     else if (stat(RutaNativa(origen).constData(), &o) == 0 && o.st_dev == d.st_dev && o.st_ino == d.st_ino)
         motivo = QStringLiteral("es el mismo archivo de entrada");
-    else if ((d.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || access(RutaNativa(destino).constData(), W_OK) != 0)
+    else if (ArchivoSoloLectura(destino))
         motivo = QStringLiteral("es de sólo lectura");
     if (motivo.isEmpty()) return true;
     error = QStringLiteral("No se puede escribir el archivo: %1 (%2)").arg(destino, motivo);
     return false;
+}
+
+bool ArchivoSoloLectura(const QString& ruta) {
+    const QByteArray nativa = RutaNativa(ruta);
+    struct stat st {};
+    if (stat(nativa.constData(), &st) != 0) return false;
+    return (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || access(nativa.constData(), W_OK) != 0;
 }
 
 bool CopiarArchivo(const QString& origen, const QString& destino, QString* error) {

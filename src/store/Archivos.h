@@ -25,6 +25,10 @@ bool LeerArchivoRegular(const QString& ruta, qint64 maximo, QByteArray& datos, Q
 // refused with a Spanish message.
 bool DestinoReemplazable(const QString& destino, const QString& origen, QString& error);
 
+// Whether the file at `ruta` may not be written: by its mode, which holds
+// even for the superuser, or by the system's own check.
+bool ArchivoSoloLectura(const QString& ruta);
+
 // Copies a file over another through a temporary name in the target's folder
 // and a rename, so the target is never left half-written.
 bool CopiarArchivo(const QString& origen, const QString& destino, QString* error = nullptr);

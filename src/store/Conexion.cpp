@@ -10,10 +10,21 @@
 
 namespace {
 
+// The faults a file or its disk can cause, said in Spanish; a fault of the
+// SQL itself keeps SQLite's text, which only a developer needs.
 QString TextoSqlite(sqlite3* db) {
-    if (sqlite3_errcode(db) == SQLITE_READONLY)
-        return QStringLiteral("El archivo es de sólo lectura: no se puede escribir en él.");
-    return QString::fromUtf8(sqlite3_errmsg(db));
+    switch (sqlite3_errcode(db) & 0xFF) {
+    case SQLITE_READONLY: return QStringLiteral("El archivo es de sólo lectura: no se puede escribir en él.");
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: return QStringLiteral("El archivo está en uso por otro programa: inténtelo de nuevo.");
+    case SQLITE_FULL: return QStringLiteral("El disco está lleno: no se puede escribir en el archivo.");
+    case SQLITE_IOERR: return QStringLiteral("Falla de lectura o escritura en el disco.");
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB: return QStringLiteral("El archivo está dañado o no es una base de datos del programa.");
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM: return QStringLiteral("No se puede abrir el archivo.");
+    default: return QString::fromUtf8(sqlite3_errmsg(db));
+    }
 }
 
 void EnlazarValor(sqlite3_stmt* st, int i, const Valor& v) {
@@ -103,7 +114,7 @@ bool Conexion::Abrir(const QString& ruta) {
         error_ = QStringLiteral("No se encuentra el archivo: ") + ruta;
         return false;
     }
-    const bool soloLectura = (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0 || access(nativa.constData(), W_OK) != 0;
+    const bool soloLectura = ArchivoSoloLectura(ruta);
     sqlite3* db = nullptr;
     const int rc = sqlite3_open_v2(nativa.constData(), &db, soloLectura ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE,
                                    nullptr);

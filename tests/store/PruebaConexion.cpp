@@ -144,3 +144,20 @@ TEST(RutaNativa, IdaYVueltaDeCualquierNombre) {
         if (!c.texto.isNull()) EXPECT_EQ(ruta, c.texto);
     }
 }
+
+// A file damaged after its first page opens, and its first read then says so
+// in Spanish instead of passing on the database library's English text.
+TEST(Conexion, UnArchivoDanadoSeDiceEnEspanol) {
+    SesionPrueba sp;
+    const QString ruta = BaseConTabla(sp);
+    {
+        QFile f(ruta);
+        ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+        f.seek(4096);  // the table's own page, the second
+        f.write(QByteArray(4096, '\xff'));
+    }
+    Conexion c;
+    ASSERT_EQ(AbrirConexion(c, ruta), 0);
+    EXPECT_TRUE(c.Escalar(QStringLiteral("SELECT count(*) FROM Piezas WHERE ClavePieza > 0")).isNull());
+    EXPECT_EQ(c.UltimoError(), QStringLiteral("El archivo está dañado o no es una base de datos del programa."));
+}
