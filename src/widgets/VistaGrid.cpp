@@ -26,6 +26,15 @@ bool EsCeldaNumerica(const Grid& g, int f, int c) {
     return t == TipoCelda::Numero || t == TipoCelda::Entero;
 }
 
+// A name of a list cell, also without the inch mark that ends the
+// diameters' names.
+bool EnLaLista(const QStringList& lista, const QString& texto) {
+    const QString t = Trim(texto);
+    for (const QString& opcion : lista)
+        if (opcion == t || (opcion.endsWith(MarcaPulgada()) && opcion.chopped(1) == t)) return true;
+    return false;
+}
+
 bool MismasUniones(const std::vector<Union>& a, const std::vector<Union>& b) {
     if (a.size() != b.size()) return false;
     for (size_t i = 0; i < a.size(); ++i)
@@ -151,6 +160,8 @@ bool ModeloGrid::setData(const QModelIndex& i, const QVariant& v, int rol) {
             grid_->PonerEntero(f, c, qRound64(numero));
         else
             grid_->PonerNumero(f, c, numero, col.decimales);
+    } else if (t == TipoCelda::Lista && !EnLaLista(grid_->Col(c).lista, texto)) {
+        return false;  // a pasted name the drop-down does not offer
     } else {
         grid_->PonerTexto(f, c, texto);
     }

@@ -252,6 +252,9 @@ TEST(VistaGrid, PegarPasaCadaCeldaPorLaMismaEntrada) {
         // Below the column's limit, or not a number: the paste stops on that cell.
         {"rechazo", 1, 5, "1\n-4\n6", {{1, 5, "1.00"}}, 2, 5},
         {"texto en un número", 2, 5, "uno\n6", {}, 2, 5},
+        // A list cell takes its own names (the inch mark may be left out) and
+        // stops on one the drop-down does not offer, as choosing cannot give it.
+        {"nombres de la lista", 1, 4, "1/2\n7/8\"\n1\"", {{1, 4, "1/2"}}, 2, 4},
     };
     for (const Caso& caso : casos) {
         VistaEjemplo e(caso.fila, caso.columna);
