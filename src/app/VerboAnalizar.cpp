@@ -100,6 +100,8 @@ void ImprimirGrids(const AnalisisRed& a) {
     for (int tab = 1; tab <= 4; ++tab)
         t += QStringLiteral("== ") + AnalisisRed::TituloPestana(tab) + QStringLiteral(" ==\n") +
              GridComoTexto(*grids[tab - 1]) + QLatin1Char('\n');
+    // The status lines under the grids, as the screen shows them.
+    if (!a.TextoPresionNegativa().isEmpty()) t += a.TextoPresionNegativa() + QLatin1Char('\n');
     Imprimir(t);
 }
 

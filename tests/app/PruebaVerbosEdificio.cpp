@@ -104,8 +104,11 @@ TEST_F(Verbos, NodosConPresionNegativa) {
     EjecutarSql(archivo, QStringLiteral("UPDATE DatosRamales SET ValvulaR=100 WHERE Numero=5"));
     ASSERT_EQ(Correr({QStringLiteral("analizar"), archivo, QStringLiteral("--json")}), 0);
     EXPECT_EQ(Json()[QStringLiteral("NodosPresionNegativa")].toInt(), 3);
-    ASSERT_EQ(Correr({QStringLiteral("analizar"), archivo}), 0);
-    EXPECT_TRUE(salida.contains(QStringLiteral("\nNodos con presión negativa: 3\n")));
+    // The plain results and the grids, whose status line is the screen's.
+    for (const QStringList& forma : {QStringList(), QStringList{QStringLiteral("--grids")}}) {
+        ASSERT_EQ(Correr(QStringList{QStringLiteral("analizar"), archivo} + forma), 0);
+        EXPECT_TRUE(salida.contains(QStringLiteral("\nNodos con presión negativa: 3\n"))) << forma.join(' ').toStdString();
+    }
 }
 
 TEST_F(Verbos, ErrorDeNumeracionSaleConDos) {
