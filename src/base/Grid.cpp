@@ -15,6 +15,7 @@ void Grid::PonerColumnas(int n) {
         for (int c = 0; c < std::min(antes, n + 1); ++c)
             nuevas[size_t(f) * size_t(n + 1) + size_t(c)] = celdas_[size_t(f) * size_t(antes) + size_t(c)];
     celdas_ = std::move(nuevas);
+    imagenes_.clear();  // a grid's columns are laid out before its pictures
     columnas_.resize(size_t(n + 1));
     columnas_[0].bloqueada = true;
     for (auto& e : encabezados_) {
@@ -27,6 +28,7 @@ void Grid::PonerColumnas(int n) {
 void Grid::PonerFilas(int n) {
     if (n < 0) n = 0;
     celdas_.resize(size_t(n + 1) * columnas_.size());
+    if (!imagenes_.empty()) imagenes_.resize(celdas_.size());
     filas_ = n;
     uniones_.erase(std::remove_if(uniones_.begin(), uniones_.end(),
                                   [n](const Union& u) { return u.fila > n; }),
@@ -36,6 +38,7 @@ void Grid::PonerFilas(int n) {
 
 void Grid::Vaciar() {
     celdas_.assign(columnas_.size(), Celda());
+    imagenes_.clear();
     filas_ = 0;
     uniones_.clear();
     filaActiva_ = 1;
@@ -46,6 +49,9 @@ void Grid::InsertarFila(int fila) {
     if (fila < 1 || fila > filas_ + 1) throw ErrorEjecucion(Error::SubindiceFuera);
     celdas_.insert(celdas_.begin() + std::ptrdiff_t(size_t(fila) * columnas_.size()),
                    columnas_.size(), Celda());
+    if (!imagenes_.empty())
+        imagenes_.insert(imagenes_.begin() + std::ptrdiff_t(size_t(fila) * columnas_.size()), columnas_.size(),
+                         QImage());
     ++filas_;
     for (auto& u : uniones_)
         if (u.fila >= fila) ++u.fila;
@@ -56,6 +62,10 @@ void Grid::EliminarFila(int fila) {
     if (fila < 1 || fila > filas_) throw ErrorEjecucion(Error::SubindiceFuera);
     auto inicio = celdas_.begin() + std::ptrdiff_t(size_t(fila) * columnas_.size());
     celdas_.erase(inicio, inicio + std::ptrdiff_t(columnas_.size()));
+    if (!imagenes_.empty()) {
+        auto i = imagenes_.begin() + std::ptrdiff_t(size_t(fila) * columnas_.size());
+        imagenes_.erase(i, i + std::ptrdiff_t(columnas_.size()));
+    }
     --filas_;
     uniones_.erase(std::remove_if(uniones_.begin(), uniones_.end(),
                                   [fila](const Union& u) { return u.fila == fila; }),
@@ -177,6 +187,21 @@ TipoCelda Grid::Tipo(int fila, int columna) const {
     return t == TipoCelda::Heredado ? Col(columna).tipo : t;
 }
 
+void Grid::PonerImagen(int fila, int columna, const QImage& imagen) {
+    const size_t i = Indice(fila, columna);
+    if (imagenes_.empty()) {
+        if (imagen.isNull()) return;
+        imagenes_.resize(celdas_.size());
+    }
+    imagenes_[i] = imagen;
+    ++version_;
+}
+
+QImage Grid::Imagen(int fila, int columna) const {
+    const size_t i = Indice(fila, columna);
+    return imagenes_.empty() ? QImage() : imagenes_[i];
+}
+
 void Grid::Unir(int fila, int columna, int filas, int columnas) {
     uniones_.erase(std::remove_if(uniones_.begin(), uniones_.end(),
                                   [&](const Union& u) { return u.fila == fila && u.columna == columna; }),
@@ -209,12 +234,16 @@ void Grid::OrdenarPorTexto(int columna, bool (*menor)(const QString&, const QStr
     std::stable_sort(orden.begin(), orden.end(), [&](int a, int b) {
         return menor ? menor(Texto(a, columna), Texto(b, columna)) : Texto(a, columna) < Texto(b, columna);
     });
-    std::vector<Celda> nuevas(celdas_.size());
-    std::copy(celdas_.begin(), celdas_.begin() + std::ptrdiff_t(n), nuevas.begin());
-    for (int i = 0; i < filas_; ++i)
-        std::copy_n(celdas_.begin() + std::ptrdiff_t(size_t(orden[size_t(i)]) * n), n,
-                    nuevas.begin() + std::ptrdiff_t(size_t(i + 1) * n));
-    celdas_ = std::move(nuevas);
+    auto reordenar = [&](auto& v) {
+        std::remove_reference_t<decltype(v)> nuevas(v.size());
+        std::copy(v.begin(), v.begin() + std::ptrdiff_t(n), nuevas.begin());
+        for (int i = 0; i < filas_; ++i)
+            std::copy_n(v.begin() + std::ptrdiff_t(size_t(orden[size_t(i)]) * n), n,
+                        nuevas.begin() + std::ptrdiff_t(size_t(i + 1) * n));
+        v = std::move(nuevas);
+    };
+    reordenar(celdas_);
+    if (!imagenes_.empty()) reordenar(imagenes_);
     ++version_;
 }
 

@@ -4,6 +4,7 @@
 // logic fills a Grid; the desktop view draws it, and reports, workbooks and
 // the command line read the same cells.
 
+#include <QImage>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -29,6 +30,7 @@ struct Celda {
     double valor = 0.0;
     bool esNumero = false;
     bool bloqueada = false;  // in addition to the column's lock
+    bool negrita = false;    // a heading row drawn in bold
     TipoCelda tipo = TipoCelda::Heredado;
     int colorFondo = SinColor;
     int colorTexto = SinColor;
@@ -92,6 +94,13 @@ public:
     bool EstaBloqueada(int fila, int columna) const;
     TipoCelda Tipo(int fila, int columna) const;
 
+    // Pictures of picture cells (catalogue photographs).  Kept beside the
+    // cells, and only once a grid holds one, so that the large grids of the
+    // analysis pay nothing for them.  A null image is an empty picture.
+    void PonerImagen(int fila, int columna, const QImage& imagen);
+    QImage Imagen(int fila, int columna) const;
+    bool TieneImagen(int fila, int columna) const { return !Imagen(fila, columna).isNull(); }
+
     // Joined body cells: the top-left cell shows for all.
     void Unir(int fila, int columna, int filas, int columnas);
     // The same for a grid being filled after Vaciar(), whose cell holds no
@@ -118,6 +127,7 @@ private:
     int filas_ = 0;
     std::vector<Columna> columnas_;
     std::vector<Celda> celdas_;  // (filas_ + 1) x columnas_; row 0 unused
+    std::vector<QImage> imagenes_;  // empty, or as celdas_
     QStringList encabezados_[2];
     std::vector<Union> uniones_;
     std::vector<Union> unionesEncabezado_;

@@ -107,6 +107,13 @@ QVariant ModeloGrid::data(const QModelIndex& i, int rol) const {
     case Qt::ToolTipRole:
         if (TextoCortado(i, celda.texto)) return celda.texto;
         return {};
+    case Qt::FontRole:
+        if (celda.negrita && vista_) {
+            QFont f = vista_->font();
+            f.setBold(true);
+            return f;
+        }
+        return {};
     default:
         return {};
     }
@@ -338,6 +345,24 @@ void DelegadoGrid::setModelData(QWidget* editor, QAbstractItemModel* m, const QM
         return;
     }
     QStyledItemDelegate::setModelData(editor, m, i);
+}
+
+void DelegadoGrid::paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const {
+    QStyledItemDelegate::paint(p, o, i);
+    const auto* modelo = qobject_cast<const ModeloGrid*>(i.model());
+    if (!modelo || !modelo->grid()) return;
+    const QImage imagen = modelo->grid()->Imagen(ModeloGrid::FilaGrid(i), ModeloGrid::ColumnaGrid(i));
+    if (imagen.isNull()) return;
+    const QRect caja = o.rect.adjusted(2, 2, -2, -2);
+    if (caja.width() <= 0 || caja.height() <= 0) return;
+    QSize tam = imagen.size();
+    tam.scale(caja.size(), Qt::KeepAspectRatio);
+    QRect destino(QPoint(0, 0), tam);
+    destino.moveCenter(caja.center());
+    p->save();
+    p->setRenderHint(QPainter::SmoothPixmapTransform);
+    p->drawImage(destino, imagen);
+    p->restore();
 }
 
 bool DelegadoGrid::eventFilter(QObject* o, QEvent* e) {

@@ -91,6 +91,8 @@ public:
     QWidget* createEditor(QWidget* padre, const QStyleOptionViewItem& o, const QModelIndex& i) const override;
     void setEditorData(QWidget* editor, const QModelIndex& i) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* m, const QModelIndex& i) const override;
+    // A picture cell draws its picture whole, centred and scaled to the cell.
+    void paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const override;
 
 Q_SIGNALS:
     // Enter in an open editor: the view commits it and moves `paso` rows

@@ -277,3 +277,26 @@ TEST(Grid, CeldasUnionesYOrden) {
     EXPECT_EQ(g.Filas(), 1);
     EXPECT_THROW(g.Texto(2, 1), ErrorEjecucion);
 }
+
+TEST(Grid, LasImagenesSiguenASusFilas) {
+    Grid g(2);
+    g.PonerFilas(3);
+    QImage roja(4, 4, QImage::Format_RGB32), azul(4, 4, QImage::Format_RGB32);
+    roja.fill(Qt::red);
+    azul.fill(Qt::blue);
+    g.PonerImagen(1, 2, roja);
+    g.PonerImagen(3, 2, azul);
+    g.InsertarFila(1);  // the pictures move down with their rows
+    EXPECT_FALSE(g.TieneImagen(1, 2));
+    EXPECT_EQ(g.Imagen(2, 2).pixelColor(0, 0), QColor(Qt::red));
+    EXPECT_EQ(g.Imagen(4, 2).pixelColor(0, 0), QColor(Qt::blue));
+    g.EliminarFila(2);
+    EXPECT_EQ(g.Imagen(3, 2).pixelColor(0, 0), QColor(Qt::blue));
+    g.PonerFilas(2);  // the row that goes takes its picture along
+    g.PonerFilas(3);
+    EXPECT_FALSE(g.TieneImagen(3, 2));
+    EXPECT_THROW(g.Imagen(4, 1), ErrorEjecucion);
+    g.Vaciar();
+    g.PonerFilas(1);
+    EXPECT_FALSE(g.TieneImagen(1, 2));
+}
