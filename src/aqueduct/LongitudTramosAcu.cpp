@@ -6,7 +6,6 @@
 #include "base/Nivo.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 constexpr int ColumnaLongitud = 3;  // of the data screen's section grid
@@ -25,20 +24,6 @@ LongitudTramosAcu::LongitudTramosAcu(DatosAcueducto& datos) : Spread1(4), datos_
     Spread1.PonerFilas(1);
     ColoquePantalla(datos_.Spread1.FilaActiva());
 }
-
-void LongitudTramosAcu::CambiarCoordenada(int caja, double valor) {
-    if (caja < 1 || caja > 6) return;
-    xyz_[caja - 1] = valor;
-    if (!retenido_) CalcularLongitud();
-}
-
-double LongitudTramosAcu::CalcularLongitud() {
-    const double dx = xyz_[3] - xyz_[0], dy = xyz_[4] - xyz_[1], dz = xyz_[5] - xyz_[2];
-    longitud_ = std::sqrt(dx * dx + dy * dy + dz * dz);
-    return longitud_;
-}
-
-QString LongitudTramosAcu::TextoLongitud() const { return Formato(longitud_, QStringLiteral("#,##0.00")); }
 
 int LongitudTramosAcu::MaximoScroll() const { return std::max(datos_.Spread1.Filas(), 1); }
 
@@ -70,8 +55,5 @@ void LongitudTramosAcu::Limpiar() {
                                           QStringLiteral("Coordenadas de los Nodos..."), TituloFontaria, Botones::SiNo,
                                           1) != Respuesta::Si)
         return;
-    retenido_ = true;
-    for (int caja = 1; caja <= 6; ++caja) CambiarCoordenada(caja, 0.0);
-    retenido_ = false;
-    CalcularLongitud();
+    puntos_.Limpiar();
 }

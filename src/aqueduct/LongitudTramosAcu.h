@@ -3,6 +3,7 @@
 // coordinates of its two ends, fixed into the section grid of the data
 // screen as a typed value would be.  The six boxes are input only.
 
+#include "base/Coordenadas.h"
 #include "base/Grid.h"
 
 #include <QString>
@@ -15,14 +16,14 @@ public:
     explicit LongitudTramosAcu(DatosAcueducto& datos);
 
     // The boxes X(I), Y(I), Z(I), X(J), Y(J), Z(J), numbered 1..6.
-    void CambiarCoordenada(int caja, double valor);
-    double Coordenada(int caja) const { return xyz_[caja - 1]; }
+    void CambiarCoordenada(int caja, double valor) { puntos_.Cambiar(caja, valor); }
+    double Coordenada(int caja) const { return puntos_.Valor(caja); }
 
     // The distance between the two ends, not rounded.
-    double CalcularLongitud();
-    double Longitud() const { return longitud_; }
+    double CalcularLongitud() { return puntos_.Calcular(); }
+    double Longitud() const { return puntos_.Longitud(); }
     // The caption beside "L (m):", "#,##0.00".
-    QString TextoLongitud() const;
+    QString TextoLongitud() const { return puntos_.TextoLongitud(); }
 
     // The small grid of the current section: 1 number, 2 (I), 3 (J), 4 length.
     Grid Spread1;
@@ -40,8 +41,6 @@ public:
 
 private:
     DatosAcueducto& datos_;
-    double xyz_[6] = {0, 0, 0, 0, 0, 0};
-    double longitud_ = 0.0;
+    Coordenadas puntos_;
     int fila_ = 1;
-    bool retenido_ = false;
 };
