@@ -70,13 +70,9 @@ int CotasNodos::FilaPermitida(int fila) const {
 bool CotasNodos::EditarCelda(int fila, int columna, const QString& texto) {
     if (columna != ColumnaCota || fila < 1 || fila > Spread1.Filas() || Spread1.EstaBloqueada(fila, columna))
         return false;
-    if (Trim(texto).isEmpty()) {
-        Spread1.PonerVacio(fila, columna);
-        modificado_ = true;
-        return true;
-    }
+    // An emptied cell is a level of 0, as the grid shows it.
     double v = 0.0;
-    if (!LeerNumeroOAvisar(d_, texto, v)) return false;
+    if (!Trim(texto).isEmpty() && !LeerNumeroOAvisar(d_, texto, v)) return false;
     if (v < -CotaMaxima || v > CotaMaxima) {
         NumeroRechazado(texto);
         return false;

@@ -27,7 +27,7 @@ public:
     // tank's and the cursor goes on to row 2.
     int FilaPermitida(int fila) const;
     // A level typed into column 2: a number within the column's range, or
-    // empty.  False (with the reason) when refused; the cell keeps its value.
+    // empty for 0.  False (with the reason) when refused; the cell keeps its value.
     bool EditarCelda(int fila, int columna, const QString& texto);
     // A text the cell refused before any edit: the reason given.
     void NumeroRechazado(const QString& texto);

@@ -246,16 +246,19 @@ TEST_F(PantallaAnalisis, BotonesSegunLaPestanaYLosQueFaltan) {
     EXPECT_TRUE(Activo("LSButton2"));
     EXPECT_TRUE(Activo("LSButton5"));
     EXPECT_TRUE(Activo("LSButton1"));
-    // Comment, listing, print, export and branch editor: visible, disabled.
-    for (const char* b : {"LSButton9", "LSButton8", "LSButton3", "LSButton4", "LSButton11"}) {
+    EXPECT_TRUE(Activo("LSButton9"));
+    // Listing, print, export and branch editor: visible, disabled.
+    for (const char* b : {"LSButton8", "LSButton3", "LSButton4", "LSButton11"}) {
         EXPECT_TRUE(v->Boton(QString::fromLatin1(b))->isVisible()) << b;
         EXPECT_FALSE(Activo(b)) << b;
     }
     v->Tabs()->PonerTab(2);
     EXPECT_EQ(v->Logica().Tab, 2);
     EXPECT_FALSE(Activo("LSButton2"));
+    EXPECT_FALSE(Activo("LSButton9"));
     v->Tabs()->PonerTab(1);
     EXPECT_TRUE(Activo("LSButton2"));
+    EXPECT_TRUE(Activo("LSButton9"));
 }
 
 TEST_F(PantallaAnalisis, LosTipsConSuTitulo) {

@@ -1,5 +1,6 @@
 #include "analysis/screens/VentanaAnalisisRed.h"
 
+#include "entry/screens/VentanaComentarioRamal.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
@@ -28,7 +29,7 @@ void ColorTexto(QLabel* l, bool rojo) {
 }  // namespace
 
 VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre)
-    : QDialog(padre), s_(s), d_(d), logica_(p, s, d) {
+    : QDialog(padre), p_(p), s_(s), d_(d), logica_(p, s, d) {
     setObjectName(QStringLiteral("AnalisisRed"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setSizeGripEnabled(true);
@@ -138,9 +139,9 @@ QWidget* VentanaAnalisisRed::Botonera() {
     for (const auto& b : botones)
         capa->addWidget(BotonNivo(QString::fromLatin1(b.nombre), QString::fromUtf8(b.texto), pie, b.icono));
 
-    // The screens of the comment, the listing, the reports, the workbook and
-    // the branch editor are still to come.
-    for (const char* n : {"LSButton3", "LSButton4", "LSButton8", "LSButton9", "LSButton11"})
+    // The screens of the listing, the reports, the workbook and the branch
+    // editor are still to come.
+    for (const char* n : {"LSButton3", "LSButton4", "LSButton8", "LSButton11"})
         Boton(QString::fromLatin1(n))->setEnabled(false);
 
     connect(double1_, &NivoNumero::ValorCambiado, this, [this](double v) { logica_.Double1 = v; });
@@ -161,6 +162,7 @@ QWidget* VentanaAnalisisRed::Botonera() {
             },
             {1, 2, 3, 4});
     });
+    connect(Boton(QStringLiteral("LSButton9")), &QPushButton::clicked, this, &VentanaAnalisisRed::AbrirComentario);
     connect(Boton(QStringLiteral("LSButton1")), &QPushButton::clicked, this, &QDialog::accept);
     return pie;
 }
@@ -191,6 +193,21 @@ void VentanaAnalisisRed::MostrarEstado() {
     frame3_->setVisible(logica_.Frame3Visible);
     double1_->PonerValor(logica_.Double1);
     Boton(QStringLiteral("LSButton2"))->setEnabled(logica_.LSButton2Disponible());
+    Boton(QStringLiteral("LSButton9"))->setEnabled(logica_.LSButton9Disponible());
+}
+
+void VentanaAnalisisRed::AbrirComentario() {
+    if (!logica_.LSButton9Disponible() || logica_.Spread4.Filas() == 0) return;
+    vistas_[0]->TerminarEdicion();
+    s_.RamalActual = logica_.Spread4.FilaActiva();
+    VentanaComentarioRamal comentario(
+        p_, s_, d_, logica_,
+        [this] {
+            vistas_[0]->Refrescar();
+            vistas_[0]->MostrarActiva();
+        },
+        this);
+    comentario.exec();
 }
 
 void VentanaAnalisisRed::CambiarTab(int tab) {

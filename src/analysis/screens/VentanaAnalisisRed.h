@@ -51,12 +51,15 @@ private:
     void CambiarTab(int tab);
     void EditarSpread4(int fila, int columna, const QString& texto);
     void EditarSpread3(int fila, int columna, const QString& texto);
+    // LSButton9: the comment screen on the active row of tab 1.
+    void AbrirComentario();
     // Runs an event of the logic and draws the grids of the tabs given; a
     // fault of the calculation is shown and the screen closes.
     void Evento(const std::function<void()>& f, std::initializer_list<int> tabs);
     // Draws what the logic holds besides the grids.
     void MostrarEstado();
 
+    ProyectoEdificio& p_;
     Sesion& s_;
     Dialogos& d_;
     AnalisisRed logica_;
