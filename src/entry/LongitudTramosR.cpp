@@ -1,6 +1,7 @@
 #include "entry/LongitudTramosR.h"
 
 #include "base/Dialogos.h"
+#include "base/Nivo.h"
 #include "entry/EditorRamales.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/Sesion.h"
@@ -35,7 +36,15 @@ int LongitudTramosR::MaximoScroll() const { return std::max<int>(p_.NumeroRamale
 
 void LongitudTramosR::ColoquePantalla() {
     Spread1.PonerEntero(1, 1, ramal_);
-    for (int c = 1; c <= 3; ++c) Spread1.PonerTexto(1, c + 1, editor_.TextoRamal(ramal_, c));
+    Spread1.PonerTexto(1, 2, editor_.TextoRamal(ramal_, 1));
+    Spread1.PonerTexto(1, 3, editor_.TextoRamal(ramal_, 2));
+    // The length as the editor shows it, aligned as a number.
+    const QString longitud = editor_.TextoRamal(ramal_, ColumnaLongitud);
+    const NumeroLeido n = LeerNumeroTecleado(longitud);
+    if (n.valido)
+        Spread1.PonerNumero(1, 4, n.valor, 2);
+    else
+        Spread1.PonerTexto(1, 4, longitud);
 }
 
 void LongitudTramosR::CambiarRamal(int ramal) {

@@ -1,5 +1,6 @@
 #include "entry/screens/VentanaCambiarOpcionDiseno.h"
 
+#include "entry/screens/AnchoVista.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
@@ -20,7 +21,7 @@ VentanaCambiarOpcionDiseno::VentanaCambiarOpcionDiseno(ProyectoEdificio& p, Sesi
     setWindowTitle(CambiarOpcionDiseño::Titulo());
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     tip_ = new NivoToolTip(this);
-    auto* capa = new QVBoxLayout(this);
+    auto* capa = new QVBoxLayout;
     auto* marco = new QGroupBox(this);
     auto* cm = new QVBoxLayout(marco);
     for (int o = 0; o < 2; ++o) {
@@ -55,6 +56,8 @@ VentanaCambiarOpcionDiseno::VentanaCambiarOpcionDiseno(ProyectoEdificio& p, Sesi
     opciones_[logica_.Opcion]->setChecked(true);
     spread1_->MostrarGrid(&logica_.Spread1);
     spread1_->MostrarActiva();
+    FijarAnchoAlContenido(spread1_);
+    CentrarEnAncho(this, capa);
     connect(spread1_, &QAbstractItemView::clicked, this, [this](const QModelIndex& i) {
         if (i.column() == 0) Accion([&] { logica_.ClickMarca(i.row() + 1); });
     });
@@ -71,7 +74,7 @@ VentanaCambiarOpcionDiseno::VentanaCambiarOpcionDiseno(ProyectoEdificio& p, Sesi
     });
     connect(retorno, &QPushButton::clicked, this, &QDialog::reject);
     ConfigurarToolTips(this, tip_, s.Tapiz);
-    resize(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 75, fontMetrics().height() * 34);
+    resize(sizeHint().width(), fontMetrics().height() * 34);
 }
 
 VentanaCambiarOpcionDiseno::~VentanaCambiarOpcionDiseno() { spread1_->MostrarGrid(nullptr); }

@@ -31,6 +31,7 @@ VentanaComentarioRamal::VentanaComentarioRamal(ProyectoEdificio& p, Sesion& s, D
     texto_->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('M')) * 36);
     vscroll1_ = new QScrollBar(Qt::Vertical, this);
     vscroll1_->setObjectName(QStringLiteral("VScroll1"));
+    panel_->setFixedHeight(texto_->sizeHint().height());
     vscroll1_->setMinimumHeight(texto_->sizeHint().height() + 12);
     fila->addWidget(new QLabel(QStringLiteral("Ramal:"), this));
     fila->addWidget(panel_);

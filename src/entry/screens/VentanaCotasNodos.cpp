@@ -1,5 +1,6 @@
 #include "entry/screens/VentanaCotasNodos.h"
 
+#include "entry/screens/AnchoVista.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
@@ -16,7 +17,7 @@ VentanaCotasNodos::VentanaCotasNodos(ProyectoEdificio& p, Sesion& s, Dialogos& d
     setWindowTitle(CotasNodos::Titulo());
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     tip_ = new NivoToolTip(this);
-    auto* capa = new QVBoxLayout(this);
+    auto* capa = new QVBoxLayout;
     spread1_ = new VistaGrid(this);
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread1_->PermitirBloques();
@@ -34,6 +35,8 @@ VentanaCotasNodos::VentanaCotasNodos(ProyectoEdificio& p, Sesion& s, Dialogos& d
     Accion([this] { logica_.Cargar(); });
     spread1_->MostrarGrid(&logica_.Spread1);
     spread1_->MostrarActiva();
+    FijarAnchoAlContenido(spread1_);
+    CentrarEnAncho(this, capa);
     spread1_->AlEditar([this](int f, int c, const QString& t) {
         Accion([&] { logica_.EditarCelda(f, c, t); });
         spread1_->Refrescar();
@@ -57,7 +60,7 @@ VentanaCotasNodos::VentanaCotasNodos(ProyectoEdificio& p, Sesion& s, Dialogos& d
     });
     connect(cancelar, &QPushButton::clicked, this, &VentanaCotasNodos::reject);
     ConfigurarToolTips(this, tip_, s.Tapiz);
-    resize(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 40, fontMetrics().height() * 30);
+    resize(sizeHint().width(), fontMetrics().height() * 30);
 }
 
 VentanaCotasNodos::~VentanaCotasNodos() { spread1_->MostrarGrid(nullptr); }
