@@ -24,6 +24,7 @@ public:
     double Longitud() const { return puntos_.Longitud(); }
     // The caption beside "L (m):", "#,##0.00".
     QString TextoLongitud() const { return puntos_.TextoLongitud(); }
+    Coordenadas& Puntos() { return puntos_; }
 
     // The small grid of the current section: 1 number, 2 (I), 3 (J), 4 length.
     Grid Spread1;

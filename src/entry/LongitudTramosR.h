@@ -21,12 +21,8 @@ public:
 
     static QString Titulo();  // "Calcular la Longitud de los Ramales"
 
-    // The boxes X(I), Y(I), Z(I), X(J), Y(J), Z(J), numbered 1..6.
-    void CambiarCoordenada(int caja, double valor) { puntos_.Cambiar(caja, valor); }
-    double Coordenada(int caja) const { return puntos_.Valor(caja); }
-    double Longitud() const { return puntos_.Longitud(); }
-    // The label beside "L (m):".
-    QString TextoLongitud() const { return puntos_.TextoLongitud(); }
+    // The six boxes and the length beside "L (m):".
+    Coordenadas& Puntos() { return puntos_; }
 
     // The branch shown: 1 number, 2 (I), 3 (J), 4 length, as the editor shows them.
     Grid Spread1;

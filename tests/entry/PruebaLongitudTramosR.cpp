@@ -22,7 +22,7 @@ struct Longitudes : ::testing::Test {
     }
     void Puntos(LongitudTramosR& l, std::initializer_list<double> xyz) {
         int caja = 1;
-        for (double v : xyz) l.CambiarCoordenada(caja++, v);
+        for (double v : xyz) l.Puntos().Cambiar(caja++, v);
     }
 };
 
@@ -43,11 +43,11 @@ TEST_F(Longitudes, LongitudesHechasAMano) {
     };
     for (const auto& c : casos) {
         Puntos(l, c.xyz);
-        EXPECT_DOUBLE_EQ(l.Longitud(), c.longitud);
-        EXPECT_EQ(l.TextoLongitud(), QString::fromUtf8(c.texto));
+        EXPECT_DOUBLE_EQ(l.Puntos().Longitud(), c.longitud);
+        EXPECT_EQ(l.Puntos().TextoLongitud(), QString::fromUtf8(c.texto));
     }
     MarcasPrueba marcas("es_ES");
-    EXPECT_EQ(l.TextoLongitud(), QStringLiteral("1,41"));
+    EXPECT_EQ(l.Puntos().TextoLongitud(), QStringLiteral("1,41"));
 }
 
 TEST_F(Longitudes, FijarPasaJaIYLaEtiquetaEsLaDistanciaAlOrigen) {
@@ -68,8 +68,8 @@ TEST_F(Longitudes, FijarPasaJaIYLaEtiquetaEsLaDistanciaAlOrigen) {
     EXPECT_EQ(l.Spread1.Texto(1, 4), QStringLiteral("13.00"));
     EXPECT_TRUE(sp.s.ProyectoModificado);
     const double esperado[] = {3, 4, 12, 0, 0, 0};
-    for (int caja = 1; caja <= 6; ++caja) EXPECT_DOUBLE_EQ(l.Coordenada(caja), esperado[caja - 1]) << caja;
-    EXPECT_EQ(l.TextoLongitud(), QStringLiteral("13.00"));  // |(3, 4, 12)| until new values are typed
+    for (int caja = 1; caja <= 6; ++caja) EXPECT_DOUBLE_EQ(l.Puntos().Valor(caja), esperado[caja - 1]) << caja;
+    EXPECT_EQ(l.Puntos().TextoLongitud(), QStringLiteral("13.00"));  // |(3, 4, 12)| until new values are typed
 }
 
 TEST_F(Longitudes, PuntosIgualesFijanCeroEnUnRamalSinNodos) {
@@ -93,12 +93,12 @@ TEST_F(Longitudes, LimpiarYLaBarra) {
     Puntos(l, {1, 2, 3, 4, 6, 3});
     d.respuestas = {Respuesta::No, Respuesta::Si};
     EXPECT_FALSE(l.Limpiar());
-    EXPECT_EQ(l.TextoLongitud(), QStringLiteral("5.00"));
+    EXPECT_EQ(l.Puntos().TextoLongitud(), QStringLiteral("5.00"));
     EXPECT_TRUE(l.Limpiar());
     MensajeEs(d.Ultimo(), QStringLiteral("¡Limpiar los Valores de las Coordenadas!"),
               QStringLiteral("Coordenadas de los Nodos..."));
-    for (int caja = 1; caja <= 6; ++caja) EXPECT_DOUBLE_EQ(l.Coordenada(caja), 0.0);
-    EXPECT_EQ(l.TextoLongitud(), QStringLiteral("0.00"));
+    for (int caja = 1; caja <= 6; ++caja) EXPECT_DOUBLE_EQ(l.Puntos().Valor(caja), 0.0);
+    EXPECT_EQ(l.Puntos().TextoLongitud(), QStringLiteral("0.00"));
 
     PonerRamales(p, {{"T", "N1"}});
     sp.s.RamalActual = 5;  // beyond the only branch

@@ -3,12 +3,11 @@
 #include "aqueduct/DatosAcueducto.h"
 #include "aqueduct/screens/ComunACU.h"
 #include "shell/Sesion.h"
+#include "widgets/CajasCoordenadas.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/VistaGrid.h"
 
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -22,38 +21,11 @@ VentanaLongitudTramosAcu::VentanaLongitudTramosAcu(DatosAcueducto& datos, std::f
     setWindowTitle(QStringLiteral("Longitud de los Ramales"));
     tip_ = new NivoToolTip(this);
     auto* capa = new QVBoxLayout(this);
-    auto* marco = new QGroupBox(QStringLiteral("Calcular la Longitud de los Ramales"), this);
-    auto* cm = new QGridLayout(marco);
-    const char* etiquetas[6] = {"X ( I ):", "Y ( I ):", "Z ( I ):", "X ( J ):", "Y ( J ):", "Z ( J ):"};
-    for (int i = 0; i < 6; ++i) {
-        double_[i] = new NivoDouble(marco, 3);
-        double_[i]->setObjectName(QStringLiteral("Double%1").arg(i + 1));
-        double_[i]->PonerLimites(-1e9, 1e9);
-        cm->addWidget(new QLabel(QString::fromUtf8(etiquetas[i]), marco), i % 3, (i / 3) * 2);
-        cm->addWidget(double_[i], i % 3, (i / 3) * 2 + 1);
-        connect(double_[i], &NivoNumero::ValorCambiado, this, [this, i](double v) {
-            if (mostrando_) return;
-            logica_.CambiarCoordenada(i + 1, v);
-            longitud_->setText(logica_.TextoLongitud());
-        });
-    }
-    longitud_ = new QLabel(marco);
-    longitud_->setObjectName(QStringLiteral("Longitud"));
-    longitud_->setFrameShape(QFrame::Panel);
-    longitud_->setFrameShadow(QFrame::Sunken);
-    longitud_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    cm->addWidget(new QLabel(QStringLiteral("L (m):"), marco), 3, 2);
-    cm->addWidget(longitud_, 3, 3);
-    capa->addWidget(marco);
+    cajas_ = new CajasCoordenadas(QStringLiteral("Calcular la Longitud de los Ramales"), logica_.Puntos(), this);
+    capa->addWidget(cajas_);
 
     auto* tramo = new QHBoxLayout;
-    spread1_ = new VistaGrid(this);
-    spread1_->setObjectName(QStringLiteral("Spread1"));
-    spread1_->setFocusPolicy(Qt::NoFocus);
-    spread1_->setSelectionMode(QAbstractItemView::NoSelection);
-    spread1_->MostrarGrid(&logica_.Spread1);
-    spread1_->setFixedHeight(spread1_->horizontalHeader()->sizeHint().height() +
-                             spread1_->verticalHeader()->defaultSectionSize() + 6);
+    spread1_ = VistaDeUnaFila(&logica_.Spread1, this);
     vscroll1_ = new QScrollBar(Qt::Vertical, this);
     vscroll1_->setObjectName(QStringLiteral("VScroll1"));
     vscroll1_->setRange(logica_.MinimoScroll(), logica_.MaximoScroll());
@@ -95,9 +67,6 @@ VentanaLongitudTramosAcu::~VentanaLongitudTramosAcu() {
 }
 
 void VentanaLongitudTramosAcu::Mostrar() {
-    mostrando_ = true;
-    for (int i = 0; i < 6; ++i) double_[i]->PonerValor(logica_.Coordenada(i + 1));
-    longitud_->setText(logica_.TextoLongitud());
+    cajas_->Mostrar();
     spread1_->Refrescar();
-    mostrando_ = false;
 }

@@ -4,6 +4,7 @@
 // bar walks the rows of that grid; `alMover` redraws the data screen.
 
 #include "aqueduct/LongitudTramosAcu.h"
+#include "widgets/CajasCoordenadas.h"
 
 #include <QDialog>
 #include <functional>
@@ -22,8 +23,8 @@ public:
     ~VentanaLongitudTramosAcu() override;
 
     LongitudTramosAcu& Logica() { return logica_; }
-    NivoDouble* Caja(int i) const { return double_[i - 1]; }
-    QLabel* Longitud() const { return longitud_; }
+    NivoDouble* Caja(int i) const { return cajas_->Caja(i); }
+    QLabel* Longitud() const { return cajas_->Longitud(); }
     QScrollBar* Scroll() const { return vscroll1_; }
     VistaGrid* Vista() const { return spread1_; }
 
@@ -33,9 +34,7 @@ private:
     LongitudTramosAcu logica_;
     std::function<void()> alMover_;
     NivoToolTip* tip_;
-    NivoDouble* double_[6];
-    QLabel* longitud_;
+    CajasCoordenadas* cajas_;
     VistaGrid* spread1_;
     QScrollBar* vscroll1_;
-    bool mostrando_ = false;
 };

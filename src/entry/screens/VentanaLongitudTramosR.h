@@ -3,6 +3,7 @@
 // length, the branch shown and the scroll bar that walks the branches.
 
 #include "entry/LongitudTramosR.h"
+#include "widgets/CajasCoordenadas.h"
 
 #include <QDialog>
 #include <functional>
@@ -23,8 +24,8 @@ public:
     ~VentanaLongitudTramosR() override;
 
     LongitudTramosR& Logica() { return logica_; }
-    NivoDouble* Caja(int i) const { return double_[i - 1]; }
-    QLabel* EtiquetaLongitud() const { return longitud_; }
+    NivoDouble* Caja(int i) const { return cajas_->Caja(i); }
+    QLabel* EtiquetaLongitud() const { return cajas_->Longitud(); }
     QScrollBar* VScroll1() const { return vscroll1_; }
 
 private:
@@ -33,10 +34,8 @@ private:
     Dialogos& d_;
     LongitudTramosR logica_;
     std::function<void()> refrescarEditor_;
-    NivoDouble* double_[6];
-    QLabel* longitud_;
+    CajasCoordenadas* cajas_;
     VistaGrid* spread1_;
     QScrollBar* vscroll1_;
     NivoToolTip* tip_;
-    bool mostrando_ = false;
 };
