@@ -55,69 +55,35 @@ const AspectoFilas& ConexionesRamales::Aspecto() {
 }
 
 void ConexionesRamales::Cargar() {
-    filas_.Cargar(QStringLiteral("No. de"), QStringLiteral("Conex."));
-    Spread2.PonerEncabezado(1, FValor, QStringLiteral("Longitud"));
-    Spread2.PonerEncabezado(2, FValor, QStringLiteral("Equiv.(m)"));
     LeerCatalogoConexiones(s_);
-    ColoquePantalla(s_.RamalActual);
-    Spread2.PonerActiva(1, FClave);
+    filas_.Cargar({QStringLiteral("No. de"), QStringLiteral("Conex.")},
+                  {QStringLiteral("Longitud"), QStringLiteral("Equiv.(m)")});
 }
 
 void ConexionesRamales::ColoquePantalla(int ramal) {
-    Spread2.PonerFilas(0);
-    if (ramal < 1 || ramal > p_.NumeroRamales) return;
-    Spread2.PonerFilas(p_.NConexiones[ramal]);
-    for (int f = 1; f <= Spread2.Filas(); ++f) {
-        const int clave = p_.ConexionClave(ramal, f);
-        if (clave < 1) {
-            filas_.LimpiarFila(f);
-            continue;
-        }
+    filas_.ColoqueFilas(ramal, p_.ConexionClave, [&](int f, int clave) {
         filas_.PonerFila(f, clave, p_.ConexionNombre(ramal, f), filas_.ImagenClave(clave),
                          p_.ConexionCantidad(ramal, f));
         // Rows of older projects below key 12 stored as fixed show, and are
         // stored, as automatic.
         PonerLongitud(f, p_.ConexionAutomatica(ramal, f) || clave < ClaveLongitudEspecial,
                       p_.ConexionLongitud(ramal, f));
-    }
+    });
 }
 
 void ConexionesRamales::SalvarRamal() {
-    if (!filas_.HayRamal()) return;
-    const int b = s_.RamalActual;
-    filas_.ReabrirImagenes();
-    p_.NConexiones[b] = Spread2.Filas();
-    const int posiciones = std::min(FilasPorRamal, p_.ConexionClave.UboundColumnas());
-    for (int f = 1; f <= posiciones; ++f) {
-        if (p_.ConexionClave(b, f) < ClaveLongitudEspecial && !p_.ConexionAutomatica(b, f))
-            p_.ConexionAutomatica(b, f) = true;
-        const int clave = f <= Spread2.Filas() ? filas_.ClaveFila(f) : 0;
-        if (clave < 1) {
-            p_.ConexionClave(b, f) = 0;
-            p_.ConexionNombre(b, f).clear();
-            p_.ConexionLongitud(b, f) = 0;
-            p_.ConexionCantidad(b, f) = 0;
-            p_.ConexionAutomatica(b, f) = false;
-            continue;
-        }
-        const bool automatica = Trim(Spread2.Texto(f, FValor)) == TextoAutomatico;
+    filas_.SalvarFilas([this](int b, int f, int clave) {
+        const bool automatica = clave > 0 && Trim(Spread2.Texto(f, FValor)) == TextoAutomatico;
         p_.ConexionAutomatica(b, f) = automatica;
         p_.ConexionClave(b, f) = clave;
-        p_.ConexionNombre(b, f) = Trim(Spread2.Texto(f, FDescripcion));
-        p_.ConexionLongitud(b, f) = automatica ? 0.0 : filas_.NumeroCelda(f, FValor);
-        p_.ConexionCantidad(b, f) = int(filas_.NumeroCelda(f, FCantidad));
-        filas_.GuardarImagenFila(f);
-    }
-}
-
-bool ConexionesRamales::EditarRamales(int fila, int columna, const QString& texto) {
-    return columna == 3 && filas_.ReservarFilas(fila, texto);
+        p_.ConexionNombre(b, f) = clave > 0 ? Trim(Spread2.Texto(f, FDescripcion)) : QString();
+        p_.ConexionLongitud(b, f) = clave > 0 && !automatica ? filas_.NumeroCelda(f, FValor) : 0.0;
+        p_.ConexionCantidad(b, f) = clave > 0 ? int(filas_.NumeroCelda(f, FCantidad)) : 0;
+    });
 }
 
 bool ConexionesRamales::EditarFilas(int fila, int columna, const QString& texto) {
-    if (fila < 1 || fila > Spread2.Filas()) return false;
-    if (columna == FClave) return TeclearClave(fila, texto);
-    return filas_.EditarOtraColumna(fila, columna, texto);
+    return filas_.EditarFilas(fila, columna, texto, [this](int f, const QString& t) { return TeclearClave(f, t); });
 }
 
 void ConexionesRamales::ClaveNoExiste(int clave, const QString& encabezado) {
@@ -127,31 +93,17 @@ void ConexionesRamales::ClaveNoExiste(int clave, const QString& encabezado) {
 }
 
 bool ConexionesRamales::TeclearClave(int fila, const QString& texto) {
-    int k = 0;
-    if (!filas_.LeerEntero16(texto, QStringLiteral("La clave"), true, k)) {
+    bool tomado = true;
+    const int k = filas_.ClaveTecleada(
+        fila, texto, s_.RsConexiones, CampoClave,
+        [this](int c) { ClaveNoExiste(c, QStringLiteral("Base de Datos Conexiones...")); }, tomado);
+    if (k == 0) return tomado;
+    QString nombre = NombreCatalogo(s_);
+    // The prompt speaks of a sub-branch, as it always has.
+    if (k == ClaveLongitudEspecial && !filas_.PedirNombre(QStringLiteral("Entre el Nombre del Sub-Ramal:"),
+                                                          QStringLiteral("Nombre de la Conexión"), nombre, nombre)) {
         ColoquePantalla(s_.RamalActual);
         return false;
-    }
-    if (k == 0) {
-        filas_.LimpiarFila(fila);
-        filas_.Guardar();
-        return true;
-    }
-    if (!FilasRamal::BuscarEnCatalogo(s_.RsConexiones, CampoClave, k)) {
-        ClaveNoExiste(k, QStringLiteral("Base de Datos Conexiones..."));
-        Spread2.PonerVacio(fila, FClave);
-        return false;
-    }
-    QString nombre = NombreCatalogo(s_);
-    if (k == ClaveLongitudEspecial) {
-        // The prompt speaks of a sub-branch, as it always has.
-        const auto r = d_.PedirTexto(QStringLiteral("Entre el Nombre del Sub-Ramal:"),
-                                     QStringLiteral("Nombre de la Conexión"), nombre);
-        if (!r || Trim(*r).isEmpty()) {
-            ColoquePantalla(s_.RamalActual);
-            return false;
-        }
-        nombre = UCase(Trim(*r));
     }
     PonerDelCatalogo(fila, nombre);
     filas_.Guardar();
@@ -193,17 +145,14 @@ void ConexionesRamales::BotonRapido(int clave) {
         return;
     if (clave == ClaveLongitudEspecial) {
         Spread2.PonerTexto(f, FClave, QString::number(clave));
-        const auto r = d_.PedirTexto(QStringLiteral("Clave (12)\n\n\n\n\nEntre el Nombre de la Conexión:"),
-                                     QStringLiteral("Longitud Equivalente"), QString());
-        if (!r || Trim(*r).isEmpty()) {
+        if (!filas_.PedirNombre(QStringLiteral("Clave (12)\n\n\n\n\nEntre el Nombre de la Conexión:"),
+                                QStringLiteral("Longitud Equivalente"), QString(), nombre)) {
             filas_.Guardar();
             return;
         }
-        nombre = UCase(Trim(*r));
     }
     PonerDelCatalogo(f, nombre);
-    filas_.Bajar();
-    filas_.Guardar();
+    filas_.BajarYGuardar();
 }
 
 bool ConexionesRamales::Capturar(const ConexionCapturada& conexion) {
@@ -216,8 +165,7 @@ bool ConexionesRamales::Capturar(const ConexionCapturada& conexion) {
         return false;
     filas_.PonerFila(f, conexion.clave, conexion.nombre, conexion.foto, 1);
     PonerLongitud(f, conexion.clave < ClaveLongitudEspecial, conexion.longitudEquivalente);
-    filas_.Bajar();
-    filas_.Guardar();
+    filas_.BajarYGuardar();
     return true;
 }
 

@@ -36,13 +36,13 @@ public:
 
     // On RamalActual: caption, image mirror, grids, catalogue, rows.
     void Cargar();
-    QString Caption() const { return filas_.Caption(); }
     void ColoquePantalla(int ramal);
-    void LleneRamales() { filas_.LleneRamales(); }
     void SalvarRamal();
 
     // Column 3 of Spread1: the count of reserved rows (21 or more is 20).
-    bool EditarRamales(int fila, int columna, const QString& texto);
+    bool EditarRamales(int fila, int columna, const QString& texto) {
+        return filas_.ReservarFilas(fila, columna, texto);
+    }
     // A typed key (column 1), length (4), quantity (5) or name (3).
     bool EditarFilas(int fila, int columna, const QString& texto);
     // A quick button: its key into the active row.
@@ -63,17 +63,9 @@ public:
     void ActualizarImagenes();
     void Cerrar();
 
-    // "Ramal n", the nodes of the branch shown.
-    QString EtiquetaRamal() const { return filas_.EtiquetaRamal(); }
-    QString NodoI() const { return filas_.NodoI(); }
-    QString NodoJ() const { return filas_.NodoJ(); }
-    // The photograph of a key in the project's image table (quick buttons,
-    // the floating preview of a row).
-    QImage ImagenClave(int clave) { return filas_.ImagenClave(clave); }
-    QImage ImagenFila(int fila) { return filas_.ImagenFila(fila); }
-    // "Conexiones" opens the catalogue screen, which comes with the catalogue
-    // editors; till then it stays off.
-    static bool BaseDeDatosDisponible() { return false; }
+    // The shared part: caption, "Ramal n", the nodes, the photographs of
+    // keys and rows for the buttons and the floating preview.
+    FilasRamal& Filas() { return filas_; }
 
 private:
     bool TeclearClave(int fila, const QString& texto);

@@ -29,17 +29,84 @@ QString FilasRamal::Caption() const {
                  s_.NombreProyecto + QStringLiteral(" ]"));
 }
 
-void FilasRamal::Cargar(const QString& encabezado1, const QString& encabezado2) {
+void FilasRamal::Cargar(const QStringList& encabezadoCuenta, const QStringList& encabezadoValor) {
     s_.CatalogoDesdeProyecto = true;
     const bool modificado = s_.ProyectoModificado;
     VerifiqueImagenesProyecto(s_, tabla_);
     s_.ProyectoModificado = modificado;
     ReabrirImagenes();
-    ConfigurarRamales(encabezado1, encabezado2);
-    ConfigurarFilas();
+    ConfigurarRamales(encabezadoCuenta);
+    ConfigurarFilas(encabezadoValor);
     LleneRamales();
     if (!HayRamal()) s_.RamalActual = p_.NumeroRamales > 0 ? 1 : 0;
     spread1_.PonerActiva(std::max(1, s_.RamalActual), 3);
+    coloquePantalla(s_.RamalActual);
+    spread2_.PonerActiva(1, FClave);
+}
+
+void FilasRamal::ColoqueFilas(int ramal, const Arreglo2<int>& claves,
+                              const std::function<void(int fila, int clave)>& poner) {
+    spread2_.PonerFilas(0);
+    if (ramal < 1 || ramal > p_.NumeroRamales) return;
+    spread2_.PonerFilas(cuenta_[ramal]);
+    for (int f = 1; f <= Filas(); ++f) {
+        const int clave = claves(ramal, f);
+        if (clave < 1) LimpiarFila(f);
+        else poner(f, clave);
+    }
+}
+
+void FilasRamal::SalvarFilas(const std::function<void(int ramal, int fila, int clave)>& guardar) {
+    if (!HayRamal()) return;
+    const int b = s_.RamalActual;
+    ReabrirImagenes();
+    cuenta_[b] = Filas();
+    for (int f = 1; f <= FilasPorRamal; ++f) {
+        const int clave = f <= Filas() ? std::max(0, ClaveFila(f)) : 0;
+        guardar(b, f, clave);
+        if (clave > 0) GuardarImagenFila(f);
+    }
+}
+
+int FilasRamal::ClaveTecleada(int fila, const QString& texto, Registros& catalogo, const QString& campo,
+                              const std::function<void(int clave)>& noExiste, bool& tomado) {
+    int k = 0;
+    tomado = LeerEntero16(texto, QStringLiteral("La clave"), true, k);
+    if (!tomado) {
+        coloquePantalla(Ramal());
+        return 0;
+    }
+    if (k == 0) {
+        LimpiarFila(fila);
+        Guardar();
+        return 0;
+    }
+    if (!BuscarEnCatalogo(catalogo, campo, k)) {
+        noExiste(k);
+        spread2_.PonerVacio(fila, FClave);
+        tomado = false;
+        return 0;
+    }
+    return k;
+}
+
+bool FilasRamal::PedirNombre(const QString& texto, const QString& titulo, const QString& inicial, QString& nombre) {
+    const auto r = d_.PedirTexto(texto, titulo, inicial);
+    if (!r || Trim(*r).isEmpty()) return false;
+    nombre = UCase(Trim(*r));
+    return true;
+}
+
+bool FilasRamal::EditarFilas(int fila, int columna, const QString& texto,
+                             const std::function<bool(int fila, const QString& texto)>& teclear) {
+    if (fila < 1 || fila > Filas()) return false;
+    if (columna == FClave) return teclear(fila, texto);
+    return EditarOtraColumna(fila, columna, texto);
+}
+
+void FilasRamal::BajarYGuardar() {
+    Bajar();
+    Guardar();
 }
 
 void FilasRamal::Cerrar(Registros& catalogo) {
@@ -48,42 +115,44 @@ void FilasRamal::Cerrar(Registros& catalogo) {
     s_.CatalogoDesdeProyecto = false;
 }
 
-void FilasRamal::ConfigurarRamales(const QString& encabezado1, const QString& encabezado2) {
+void FilasRamal::ConfigurarRamales(const QStringList& encabezado) {
     spread1_ = Grid(3);
     spread1_.PonerEncabezados(0, QStringLiteral("Ramal"));
     spread1_.Col(1).ancho = 6;
     spread1_.Col(2).ancho = 6;
-    spread1_.PonerEncabezado(1, 3, encabezado1);
-    spread1_.PonerEncabezado(2, 3, encabezado2);
+    spread1_.PonerEncabezado(1, 3, encabezado.value(0));
+    spread1_.PonerEncabezado(2, 3, encabezado.value(1));
     spread1_.Col(3).tipo = TipoCelda::Entero;
     spread1_.Col(3).ancho = 6;
     spread1_.Col(3).bloqueada = false;
     spread1_.Col(3).minimo = 0;
 }
 
-void FilasRamal::ConfigurarFilas() {
+void FilasRamal::ConfigurarFilas(const QStringList& encabezado) {
     spread2_ = Grid(FCantidad);
-    spread2_.PonerEncabezados(FClave, QStringLiteral("Clave"));
-    spread2_.Col(FClave).ancho = 6;
-    spread2_.Col(FClave).bloqueada = false;
+    const struct {
+        int columna;
+        TipoCelda tipo;
+        int ancho;
+        bool editable;
+    } columnas[] = {{FClave, TipoCelda::Texto, 6, true},   {FImagen, TipoCelda::Imagen, 10, false},
+                    {FDescripcion, TipoCelda::Texto, 34, true}, {FValor, TipoCelda::Numero, 10, true},
+                    {FCantidad, TipoCelda::Entero, 8, true}};
+    for (const auto& c : columnas) {
+        Columna& col = spread2_.Col(c.columna);
+        col.tipo = c.tipo;
+        col.ancho = c.ancho;
+        col.bloqueada = !c.editable;
+        col.minimo = 0;
+    }
     spread2_.Col(FClave).largo = 6;
-    spread2_.PonerEncabezados(FImagen, QStringLiteral("Imagen"));
-    spread2_.Col(FImagen).tipo = TipoCelda::Imagen;
-    spread2_.Col(FImagen).ancho = 10;
-    spread2_.PonerEncabezados(FDescripcion, QStringLiteral("Descripción"));
-    spread2_.Col(FDescripcion).ancho = 34;
-    spread2_.Col(FDescripcion).bloqueada = false;
-    spread2_.Col(FValor).tipo = TipoCelda::Numero;
-    spread2_.Col(FValor).decimales = 2;
-    spread2_.Col(FValor).ancho = 10;
-    spread2_.Col(FValor).bloqueada = false;
-    spread2_.Col(FValor).minimo = 0;
-    spread2_.PonerEncabezados(FCantidad, QStringLiteral("Cantidad"));
-    spread2_.Col(FCantidad).tipo = TipoCelda::Entero;
-    spread2_.Col(FCantidad).ancho = 8;
-    spread2_.Col(FCantidad).bloqueada = false;
-    spread2_.Col(FCantidad).minimo = 0;
     spread2_.Col(FCantidad).maximo = 32767;
+    spread2_.PonerEncabezados(FClave, QStringLiteral("Clave"));
+    spread2_.PonerEncabezados(FImagen, QStringLiteral("Imagen"));
+    spread2_.PonerEncabezados(FDescripcion, QStringLiteral("Descripción"));
+    spread2_.PonerEncabezado(1, FValor, encabezado.value(0));
+    spread2_.PonerEncabezado(2, FValor, encabezado.value(1));
+    spread2_.PonerEncabezados(FCantidad, QStringLiteral("Cantidad"));
 }
 
 void FilasRamal::LleneRamales() {
@@ -137,8 +206,8 @@ int FilasRamal::FilaActiva() const {
     return std::clamp(spread2_.FilaActiva(), 1, spread2_.Filas());
 }
 
-bool FilasRamal::ReservarFilas(int fila, const QString& texto) {
-    if (fila < 1 || fila > p_.NumeroRamales) return false;
+bool FilasRamal::ReservarFilas(int fila, int columna, const QString& texto) {
+    if (columna != 3 || fila < 1 || fila > p_.NumeroRamales) return false;
     int n = 0;
     if (!Trim(texto).isEmpty()) {
         double v = 0;

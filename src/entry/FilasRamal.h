@@ -13,6 +13,7 @@
 
 #include <QImage>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <vector>
 
@@ -55,6 +56,10 @@ constexpr int MaximoFilasRamal = 20;
 
 class FilasRamal {
 public:
+    // "Piezas"/"Conexiones" and the menu entry open the catalogue screens,
+    // which come with the catalogue editors; till then they stay off.
+    static constexpr bool BaseDeDatosDisponible = false;
+
     // `cuenta` is NPiezas or NConexiones of the model.
     FilasRamal(Grid& spread1, Grid& spread2, ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor,
                Arreglo<int>& cuenta, TablaImagenes tabla);
@@ -65,10 +70,31 @@ public:
 
     // "NIVO-FONTARIA 2024   PROYECTO: [ NAME ]".
     QString Caption() const;
-    // Load: image table (the automatic mirror first, leaving the project
-    // unchanged), both grids, the branch list, the "a branch screen is open"
-    // flag.  The screen then sets its fourth column and reads its catalogue.
-    void Cargar(const QString& encabezado1, const QString& encabezado2);
+    // Load, once the screen has read its catalogue: image table (the
+    // automatic mirror first, leaving the project unchanged), both grids with
+    // the headers of the count (branch grid) and of column 4, the branch
+    // list, the "a branch screen is open" flag, the rows of RamalActual.
+    void Cargar(const QStringList& encabezadoCuenta, const QStringList& encabezadoValor);
+    // ColoquePantalla's frame: the row grid gets the branch's count of rows;
+    // a position whose key is below 1 is blanked, the others are written by
+    // `poner` (key, picture, name and quantity through PonerFila).
+    void ColoqueFilas(int ramal, const Arreglo2<int>& claves, const std::function<void(int fila, int clave)>& poner);
+    // SalvarRamal's frame: the image table read again, the count stored, and
+    // for each position of the branch `guardar` with the row's key (0 for an
+    // empty or a cut position); a row with a key has its picture written back.
+    void SalvarFilas(const std::function<void(int ramal, int fila, int clave)>& guardar);
+    // Column 1 typed: the key, after the shared steps (0 clears the row,
+    // too big is refused, a key not in `catalogo` gets `noExiste` and a blank
+    // cell).  0 when the screen has nothing more to do; the return of
+    // EditarFilas in `tomado`.
+    int ClaveTecleada(int fila, const QString& texto, Registros& catalogo, const QString& campo,
+                      const std::function<void(int clave)>& noExiste, bool& tomado);
+    // The name asked for a special key, trimmed and in capitals; false, with
+    // the rows shown again from the model, on an empty answer.
+    bool PedirNombre(const QString& texto, const QString& titulo, const QString& inicial, QString& nombre);
+    // A row grid edit: column 1 to `teclear`, the rest as EditarOtraColumna.
+    bool EditarFilas(int fila, int columna, const QString& texto,
+                     const std::function<bool(int fila, const QString& texto)>& teclear);
     // Closing: the record sets closed, the flag cleared.
     void Cerrar(Registros& catalogo);
     void LleneRamales();
@@ -85,7 +111,7 @@ public:
     // A count typed into the branch grid: 21 or more is 20, a negative or a
     // non-number is refused (false).  The row grid gets that many rows and
     // the branch is stored.
-    bool ReservarFilas(int fila, const QString& texto);
+    bool ReservarFilas(int fila, int columna, const QString& texto);
 
     // A branch made current: RamalActual, the editor's cursor on its column
     // 3, the rows shown, the cursor on row 1.  "Baja" and "Sube" stop at
@@ -144,6 +170,8 @@ public:
     bool EditarOtraColumna(int fila, int columna, const QString& texto);
     // Before a row is written over: the question when it holds a key.
     bool PuedeReemplazar(int fila, const QString& pregunta, const QString& encabezado);
+    // After a quick button or a capture: one row down, stored.
+    void BajarYGuardar();
     // The row's picture written back to the image table under its key.
     void GuardarImagenFila(int fila);
     // Moves the cursor one row down unless on the last.
@@ -154,8 +182,8 @@ public:
     Registros& Imagenes() { return imagenes_; }
 
 private:
-    void ConfigurarRamales(const QString& encabezado1, const QString& encabezado2);
-    void ConfigurarFilas();
+    void ConfigurarRamales(const QStringList& encabezado);
+    void ConfigurarFilas(const QStringList& encabezado);
     void IrARamal(int ramal);
     void Intercambiar(int f1, int f2);
     void Llevar(int desde, int hasta);

@@ -68,60 +68,29 @@ const AspectoFilas& PiezasRamales::Aspecto() {
 }
 
 void PiezasRamales::Cargar() {
-    filas_.Cargar(QStringLiteral("No de"), QStringLiteral("Piezas"));
-    Spread2.PonerEncabezado(1, FValor, QStringLiteral("Unidades"));
-    Spread2.PonerEncabezado(2, FValor, QStringLiteral("de Gasto"));
     LeerCatalogoPiezas(s_);
-    ColoquePantalla(s_.RamalActual);
-    Spread2.PonerActiva(1, FClave);
+    filas_.Cargar({QStringLiteral("No de"), QStringLiteral("Piezas")},
+                  {QStringLiteral("Unidades"), QStringLiteral("de Gasto")});
 }
 
 void PiezasRamales::ColoquePantalla(int ramal) {
-    Spread2.PonerFilas(0);
-    if (ramal < 1 || ramal > p_.NumeroRamales) return;
-    Spread2.PonerFilas(p_.NPiezas[ramal]);
-    for (int f = 1; f <= Spread2.Filas(); ++f) {
-        const int clave = p_.PiezaClave(ramal, f);
-        if (clave < 1) {
-            filas_.LimpiarFila(f);
-            continue;
-        }
+    filas_.ColoqueFilas(ramal, p_.PiezaClave, [&](int f, int clave) {
         filas_.PonerFila(f, clave, p_.PiezaNombre(ramal, f), filas_.ImagenClave(clave), p_.PiezaCantidad(ramal, f));
         PonerUnidades(f, p_.PiezaUnidades(ramal, f));
-    }
+    });
 }
 
 void PiezasRamales::SalvarRamal() {
-    if (!filas_.HayRamal()) return;
-    const int b = s_.RamalActual;
-    filas_.ReabrirImagenes();
-    p_.NPiezas[b] = Spread2.Filas();
-    const int posiciones = std::min(FilasPorRamal, p_.PiezaClave.UboundColumnas());
-    for (int f = 1; f <= posiciones; ++f) {
-        const int clave = f <= Spread2.Filas() ? filas_.ClaveFila(f) : 0;
-        if (clave < 1) {
-            p_.PiezaClave(b, f) = 0;
-            p_.PiezaNombre(b, f).clear();
-            p_.PiezaUnidades(b, f) = 0;
-            p_.PiezaCantidad(b, f) = 0;
-            continue;
-        }
+    filas_.SalvarFilas([this](int b, int f, int clave) {
         p_.PiezaClave(b, f) = clave;
-        p_.PiezaNombre(b, f) = Trim(Spread2.Texto(f, FDescripcion));
-        p_.PiezaUnidades(b, f) = filas_.NumeroCelda(f, FValor);
-        p_.PiezaCantidad(b, f) = int(filas_.NumeroCelda(f, FCantidad));
-        filas_.GuardarImagenFila(f);
-    }
-}
-
-bool PiezasRamales::EditarRamales(int fila, int columna, const QString& texto) {
-    return columna == 3 && filas_.ReservarFilas(fila, texto);
+        p_.PiezaNombre(b, f) = clave > 0 ? Trim(Spread2.Texto(f, FDescripcion)) : QString();
+        p_.PiezaUnidades(b, f) = clave > 0 ? filas_.NumeroCelda(f, FValor) : 0.0;
+        p_.PiezaCantidad(b, f) = clave > 0 ? int(filas_.NumeroCelda(f, FCantidad)) : 0;
+    });
 }
 
 bool PiezasRamales::EditarFilas(int fila, int columna, const QString& texto) {
-    if (fila < 1 || fila > Spread2.Filas()) return false;
-    if (columna == FClave) return TeclearClave(fila, texto);
-    return filas_.EditarOtraColumna(fila, columna, texto);
+    return filas_.EditarFilas(fila, columna, texto, [this](int f, const QString& t) { return TeclearClave(f, t); });
 }
 
 void PiezasRamales::ClaveNoExiste(int clave) {
@@ -131,30 +100,14 @@ void PiezasRamales::ClaveNoExiste(int clave) {
 }
 
 bool PiezasRamales::TeclearClave(int fila, const QString& texto) {
-    int k = 0;
-    if (!filas_.LeerEntero16(texto, QStringLiteral("La clave"), true, k)) {
+    bool tomado = true;
+    const int k = filas_.ClaveTecleada(fila, texto, s_.RsPiezas, CampoClave, [this](int c) { ClaveNoExiste(c); }, tomado);
+    if (k == 0) return tomado;
+    QString nombre = NombreCatalogo(s_);
+    if (k == ClaveSubRamal && !filas_.PedirNombre(QStringLiteral("Entre el Nombre del Sub-Ramal:"),
+                                                  QStringLiteral("Sub-Ramales Conectados"), nombre, nombre)) {
         ColoquePantalla(s_.RamalActual);
         return false;
-    }
-    if (k == 0) {
-        filas_.LimpiarFila(fila);
-        filas_.Guardar();
-        return true;
-    }
-    if (!FilasRamal::BuscarEnCatalogo(s_.RsPiezas, CampoClave, k)) {
-        ClaveNoExiste(k);
-        Spread2.PonerVacio(fila, FClave);
-        return false;
-    }
-    QString nombre = NombreCatalogo(s_);
-    if (k == ClaveSubRamal) {
-        const auto r = d_.PedirTexto(QStringLiteral("Entre el Nombre del Sub-Ramal:"),
-                                     QStringLiteral("Sub-Ramales Conectados"), nombre);
-        if (!r || Trim(*r).isEmpty()) {
-            ColoquePantalla(s_.RamalActual);
-            return false;
-        }
-        nombre = UCase(Trim(*r));
     }
     PonerDelCatalogo(fila, nombre, 1);
     filas_.Guardar();
@@ -188,19 +141,15 @@ void PiezasRamales::BotonRapido(int clave) {
         return;
     if (clave == ClaveSubRamal) {
         Spread2.PonerTexto(f, FClave, QString::number(clave));
-        const auto r = d_.PedirTexto(
-            QStringLiteral("Clave 21\n\n\n\n\nEntre el Nombre del Sub-Ramal o Pieza Sanitaria:"),
-            QStringLiteral("Nueva Pieza o Sub-Ramal"), QString());
-        if (!r || Trim(*r).isEmpty()) {
-            // The key stays written, as typed keys do; the model follows the grid.
+        if (!filas_.PedirNombre(QStringLiteral("Clave 21\n\n\n\n\nEntre el Nombre del Sub-Ramal o Pieza Sanitaria:"),
+                                QStringLiteral("Nueva Pieza o Sub-Ramal"), QString(), nombre)) {
+            // The key stays written; the model follows what the grid shows.
             filas_.Guardar();
             return;
         }
-        nombre = UCase(Trim(*r));
     }
     PonerDelCatalogo(f, nombre, 1);
-    filas_.Bajar();
-    filas_.Guardar();
+    filas_.BajarYGuardar();
 }
 
 bool PiezasRamales::Capturar(const PiezaCapturada& pieza) {
@@ -217,8 +166,7 @@ bool PiezasRamales::Capturar(const PiezaCapturada& pieza) {
         return false;
     filas_.PonerFila(f, pieza.clave, pieza.nombre, pieza.foto, 3);
     PonerUnidades(f, pieza.unidades[std::clamp(int(p_.OpcionUsoPiezas), 0, 3)]);
-    filas_.Bajar();
-    filas_.Guardar();
+    filas_.BajarYGuardar();
     return true;
 }
 

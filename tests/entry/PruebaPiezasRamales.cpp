@@ -24,14 +24,14 @@ struct PiezasPrueba : RamalesFilasPrueba {
 }  // namespace
 
 TEST_F(PiezasPrueba, CargaSinCambiarElProyecto) {
-    EXPECT_EQ(pr.Caption(), QStringLiteral("NIVO-FONTARIA 2024   PROYECTO: [CASA.PLM ]"));
+    EXPECT_EQ(pr.Filas().Caption(), QStringLiteral("NIVO-FONTARIA 2024   PROYECTO: [CASA.PLM ]"));
     EXPECT_TRUE(s.CatalogoDesdeProyecto);
     EXPECT_FALSE(s.ProyectoModificado);  // the image mirror is no edit
     EXPECT_EQ(Escalar(s.ConexionProyecto, QStringLiteral("SELECT count(*) FROM ImgPiezas")), 21);
     EXPECT_EQ(pr.Spread1.Filas(), 3);
     EXPECT_EQ(pr.Spread1.Texto(2, 1), QStringLiteral("N2"));
     EXPECT_EQ(pr.Spread1.Encabezado(1, 3) + pr.Spread1.Encabezado(2, 3), QStringLiteral("No dePiezas"));
-    EXPECT_EQ(pr.EtiquetaRamal(), QStringLiteral("Ramal 1"));
+    EXPECT_EQ(pr.Filas().EtiquetaRamal(), QStringLiteral("Ramal 1"));
     pr.Cerrar();
     EXPECT_FALSE(s.CatalogoDesdeProyecto);
     EXPECT_FALSE(s.RsPiezas.Abierto());
@@ -188,8 +188,8 @@ TEST_F(PiezasPrueba, MoverEliminarYActualizar) {
     MensajeEs(d.Ultimo(),
               QStringLiteral("¿Actualizar las Imagenes de las Piezas Sanitarias del \nProyecto con los de la Base de Datos?"),
               QStringLiteral("Actualizar las Imágenes..."));
-    EXPECT_TRUE(pr.ImagenClave(2).isNull());
-    EXPECT_FALSE(pr.ImagenClave(3).isNull());
+    EXPECT_TRUE(pr.Filas().ImagenClave(2).isNull());
+    EXPECT_FALSE(pr.Filas().ImagenClave(3).isNull());
 }
 
 TEST_F(PiezasPrueba, CambiarDeRamal) {
@@ -198,7 +198,7 @@ TEST_F(PiezasPrueba, CambiarDeRamal) {
     pr.Baja();  // stops at the last
     EXPECT_EQ(s.RamalActual, 3);
     EXPECT_EQ(editor.idas.back(), std::make_pair(3, 3));
-    EXPECT_EQ(pr.NodoI() + pr.NodoJ() + pr.EtiquetaRamal(), QStringLiteral("N3N4Ramal 3"));
+    EXPECT_EQ(pr.Filas().NodoI() + pr.Filas().NodoJ() + pr.Filas().EtiquetaRamal(), QStringLiteral("N3N4Ramal 3"));
     pr.Sube();
     EXPECT_EQ(s.RamalActual, 2);
     EXPECT_EQ(pr.Spread1.FilaActiva(), 2);
