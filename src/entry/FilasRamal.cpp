@@ -135,8 +135,8 @@ void FilasRamal::ConfigurarFilas(const QStringList& encabezado) {
         TipoCelda tipo;
         int ancho;
         bool editable;
-    } columnas[] = {{FClave, TipoCelda::Texto, 6, true},   {FImagen, TipoCelda::Imagen, 10, false},
-                    {FDescripcion, TipoCelda::Texto, 34, true}, {FValor, TipoCelda::Numero, 10, true},
+    } columnas[] = {{FClave, TipoCelda::Texto, 6, true},   {FImagen, TipoCelda::Imagen, 12, false},
+                    {FDescripcion, TipoCelda::Texto, 34, true}, {FValor, TipoCelda::Numero, 12, true},
                     {FCantidad, TipoCelda::Entero, 8, true}};
     for (const auto& c : columnas) {
         Columna& col = spread2_.Col(c.columna);
