@@ -215,8 +215,7 @@ bool FilasRamal::ReservarFilas(int fila, int columna, const QString& texto) {
             MostrarCuenta(fila);
             return false;
         }
-        if (v < 0) {
-            MostrarNumeroRechazado(d_, QStringLiteral("El número de posiciones del ramal va de 0 a 20."));
+        if (!NoNegativo(v, texto)) {
             MostrarCuenta(fila);
             return false;
         }
@@ -345,6 +344,12 @@ bool FilasRamal::LeerEntero16(const QString& texto, const QString& nombre, bool 
     return true;
 }
 
+bool FilasRamal::NoNegativo(double valor, const QString& texto) {
+    if (valor >= 0) return true;
+    MostrarNumeroRechazado(d_, QStringLiteral("El número no puede ser negativo: \"") + Trim(texto) + QStringLiteral("\"."));
+    return false;
+}
+
 bool FilasRamal::LeerDoble(const QString& texto, double& valor) {
     if (Trim(texto).isEmpty()) {
         valor = 0;
@@ -404,11 +409,11 @@ bool FilasRamal::EditarOtraColumna(int fila, int columna, const QString& texto) 
         spread2_.PonerTexto(fila, columna, texto);
     } else if (columna == FValor) {
         double v = 0;
-        tomado = LeerDoble(texto, v);
+        tomado = LeerDoble(texto, v) && NoNegativo(v, texto);
         if (tomado) spread2_.PonerNumero(fila, columna, v, 2);
     } else if (columna == FCantidad) {
         int n = 0;
-        tomado = LeerEntero16(texto, QStringLiteral("La cantidad"), false, n);
+        tomado = LeerEntero16(texto, QStringLiteral("La cantidad"), false, n) && NoNegativo(n, texto);
         if (tomado) spread2_.PonerEntero(fila, columna, n);
     }
     if (!tomado) {

@@ -153,6 +153,8 @@ public:
     // A number (units or length) typed into the row grid; refused with its
     // reason when it is none.
     bool LeerDoble(const QString& texto, double& valor);
+    // Units, lengths and quantities are not negative; false with a message.
+    bool NoNegativo(double valor, const QString& texto);
     // The whole value of a row's key cell; 0 when empty or not a number.
     int ClaveFila(int fila) const;
     // A cell's number, from its value or its text.

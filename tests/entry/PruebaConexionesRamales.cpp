@@ -90,7 +90,8 @@ TEST_F(ConexionesPrueba, MensajesDeLasConexiones) {
     s.ConexionCatalogo.Ejecutar(QStringLiteral("DELETE FROM Conexiones WHERE ClaveConexion=10"));
     LeerCatalogoConexiones(s);
     cr.BotonRapido(10);
-    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Base de Datos de Conexiones..."));
+    MensajeEs(d.Ultimo(), QStringLiteral("Esta Clave no Existe en la Base de Datos...\nClave: ( 10 )\n"),
+              QStringLiteral("Base de Datos de Conexiones..."));
     cr.BotonRapido(3);
     EXPECT_EQ(cr.Spread2.FilaActiva(), 2);
     cr.Spread2.PonerActiva(1, 1);

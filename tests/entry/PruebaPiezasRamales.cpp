@@ -122,6 +122,11 @@ TEST_F(PiezasPrueba, UnidadesTecleadasDuranHastaQueSeTecleaLaClave) {
     EXPECT_FALSE(pr.EditarFilas(1, 5, QStringLiteral("40000")));
     EXPECT_EQ(d.Ultimo().texto, QStringLiteral("La cantidad es un número entero de 0 a 32,767: \"40000\" pasa de ese límite."));
     EXPECT_EQ(p.PiezaCantidad(1, 1), 1);
+    EXPECT_FALSE(pr.EditarFilas(1, 4, QStringLiteral("-2")));
+    MensajeEs(d.Ultimo(), QStringLiteral("El número no puede ser negativo: \"-2\"."), QStringLiteral("Error en el Número..."));
+    EXPECT_FALSE(pr.EditarRamales(1, 3, QStringLiteral("-1")));
+    EXPECT_EQ(p.NPiezas[1], 1);
+    EXPECT_EQ(pr.Spread1.Texto(1, 3), QStringLiteral("1"));
 }
 
 TEST_F(PiezasPrueba, ClavesTecleadas) {

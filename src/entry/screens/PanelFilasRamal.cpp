@@ -107,9 +107,12 @@ QWidget* PanelFilasRamal::CrearRamales() {
     spread1_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     spread1_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     AjustarRamales();
-    spread1_->AlEditar([this](int fila, int columna, const QString& texto) {
+    const auto editar = [this](int fila, int columna, const QString& texto) {
         Accion([&] { logica_.editarRamales(fila, columna, texto); });
-    });
+    };
+    spread1_->AlEditar(editar);
+    // A text the cell refused goes to the logic too, which says why.
+    spread1_->Modelo().alRechazar = editar;
     connect(spread1_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& i) {
         if (mostrando_ || !i.isValid() || i.row() + 1 == s_.RamalActual) return;
         Accion([&] { logica_.filas->CambiarRamal(i.row() + 1); });
@@ -160,9 +163,11 @@ QWidget* PanelFilasRamal::CrearFilas(const AspectoFilas&) {
     spread2_->setContextMenuPolicy(Qt::CustomContextMenu);
     spread2_->viewport()->installEventFilter(this);
     spread2_->viewport()->setMouseTracking(true);
-    spread2_->AlEditar([this](int fila, int columna, const QString& texto) {
+    const auto editar = [this](int fila, int columna, const QString& texto) {
         Accion([&] { logica_.editarFilas(fila, columna, texto); });
-    });
+    };
+    spread2_->AlEditar(editar);
+    spread2_->Modelo().alRechazar = editar;
     connect(spread2_, &QWidget::customContextMenuRequested, this, &PanelFilasRamal::MenuFilas);
     capa->addWidget(spread2_, 1, 0);
 
