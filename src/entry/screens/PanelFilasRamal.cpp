@@ -190,7 +190,7 @@ QWidget* PanelFilasRamal::CrearFilas(const AspectoFilas&) {
         b->setIconSize(QSize(22, 22));
         b->setToolTip(m.tip);
         const auto mover = m.mover;
-        connect(b, &QToolButton::clicked, this, [this, mover] { Accion([&] { (logica_.filas->*mover)(); }); });
+        connect(b, &QToolButton::clicked, this, [this, mover] { Pulsar([&] { (logica_.filas->*mover)(); }); });
         flechas->addWidget(b);
     }
     flechas->addStretch();
@@ -219,7 +219,7 @@ QWidget* PanelFilasRamal::CrearRapidos(const AspectoFilas& a) {
         }
         b->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         const int clave = r.clave;
-        connect(b, &QToolButton::clicked, this, [this, clave] { Accion([&] { logica_.botonRapido(clave); }); });
+        connect(b, &QToolButton::clicked, this, [this, clave] { Pulsar([&] { logica_.botonRapido(clave); }); });
         capa->addWidget(b, i / porFila, i % porFila);
         rapidos_.push_back({clave, b});
         ++i;
@@ -236,11 +236,11 @@ QWidget* PanelFilasRamal::CrearBotones(const AspectoFilas& a) {
         capa->addWidget(w);
         return w;
     };
-    connect(boton("Eliminar", a.eliminar), &QPushButton::clicked, this, [this] { Accion(logica_.eliminar); });
+    connect(boton("Eliminar", a.eliminar), &QPushButton::clicked, this, [this] { Pulsar(logica_.eliminar); });
     connect(boton("EliminarT", a.eliminarTodas), &QPushButton::clicked, this,
-            [this] { Accion(logica_.eliminarTodas); });
+            [this] { Pulsar(logica_.eliminarTodas); });
     boton("BaseDatos", a.baseDatos)->setEnabled(FilasRamal::BaseDeDatosDisponible);
-    connect(boton("Imagen", a.imagen), &QPushButton::clicked, this, [this] { Accion(logica_.actualizarImagenes); });
+    connect(boton("Imagen", a.imagen), &QPushButton::clicked, this, [this] { Pulsar(logica_.actualizarImagenes); });
     // The reports of the branch data come with the report engine's screens.
     boton("Reporte", a.reporte)->setEnabled(false);
     connect(boton("BuscarRamal", a.buscar), &QPushButton::clicked, this, &PanelFilasRamal::BuscarRamal);
@@ -254,7 +254,7 @@ QWidget* PanelFilasRamal::CrearBotones(const AspectoFilas& a) {
         w->setAutoRepeatInterval(50);
         const bool baja = abajo;
         connect(w, &QPushButton::clicked, this, [this, baja] {
-            Accion([&] { baja ? logica_.filas->Baja() : logica_.filas->Sube(); });
+            Pulsar([&] { baja ? logica_.filas->Baja() : logica_.filas->Sube(); });
         });
     }
     capa->addStretch();
@@ -282,6 +282,11 @@ void PanelFilasRamal::Accion(const std::function<void()>& f) {
     if (refrescarEditor_) refrescarEditor_();
 }
 
+void PanelFilasRamal::Pulsar(const std::function<void()>& f) {
+    TerminarEdicion();
+    Accion(f);
+}
+
 void PanelFilasRamal::Mostrar() {
     mostrando_ = true;
     spread1_->Refrescar();
@@ -306,7 +311,7 @@ void PanelFilasRamal::MenuFilas(const QPoint& donde) {
     QAction* base = menu.addAction(menuBaseDatos_);
     base->setEnabled(FilasRamal::BaseDeDatosDisponible);
     // The second entry deletes the active row, whatever it says.
-    connect(menu.addAction(menuEliminar_), &QAction::triggered, this, [this] { Accion(logica_.eliminar); });
+    connect(menu.addAction(menuEliminar_), &QAction::triggered, this, [this] { Pulsar(logica_.eliminar); });
     menu.exec(spread2_->viewport()->mapToGlobal(donde));
 }
 

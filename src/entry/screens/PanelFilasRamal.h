@@ -81,6 +81,8 @@ private:
     QWidget* CrearBotones(const AspectoFilas& a);
     // Runs an event of the logic and redraws.
     void Accion(const std::function<void()>& f);
+    // The same for a button, after the open cell editor delivered its edit.
+    void Pulsar(const std::function<void()>& f);
     void Mostrar();
     void BuscarRamal();
     void MenuFilas(const QPoint& donde);
