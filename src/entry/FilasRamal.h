@@ -68,7 +68,7 @@ public:
     std::function<void()> salvarRamal;
     std::function<void(int ramal)> coloquePantalla;
 
-    // "NIVO-FONTARIA 2024   PROYECTO: [ NAME ]".
+    // "NIVO-FONTARIA 2024   PROYECTO: [NAME.PLM ]".
     QString Caption() const;
     // Load, once the screen has read its catalogue: image table (the
     // automatic mirror first, leaving the project unchanged), both grids with
@@ -89,8 +89,8 @@ public:
     // EditarFilas in `tomado`.
     int ClaveTecleada(int fila, const QString& texto, Registros& catalogo, const QString& campo,
                       const std::function<void(int clave)>& noExiste, bool& tomado);
-    // The name asked for a special key, trimmed and in capitals; false, with
-    // the rows shown again from the model, on an empty answer.
+    // The name asked for a special key, trimmed and in capitals; false on
+    // an empty answer or a cancel.
     bool PedirNombre(const QString& texto, const QString& titulo, const QString& inicial, QString& nombre);
     // A row grid edit: column 1 to `teclear`, the rest as EditarOtraColumna.
     bool EditarFilas(int fila, int columna, const QString& texto,
