@@ -1,0 +1,110 @@
+#pragma once
+// The body that the fixture and fitting screens of a branch share: the
+// narrow branch grid, the labels of the branch, the row grid with its
+// pictures and the floating preview, the arrows, the quick buttons and the
+// button bar, built from the screen's AspectoFilas.  Every event goes to the
+// screen's logic through LogicaFilas, inside SinFallaDeCalculo; afterwards
+// the panel draws the grids and labels again and tells the branch editor
+// behind to redraw.
+
+#include "entry/FilasRamal.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+class Dialogos;
+class NivoToolTip;
+class QLabel;
+class QPushButton;
+class VistaGrid;
+struct Sesion;
+
+// The screen's logic as the panel sees it.
+struct LogicaFilas {
+    FilasRamal* filas = nullptr;
+    Grid* spread1 = nullptr;
+    Grid* spread2 = nullptr;
+    std::function<bool(int fila, int columna, const QString& texto)> editarRamales, editarFilas;
+    std::function<void(int clave)> botonRapido;
+    std::function<void()> eliminar, eliminarTodas, actualizarImagenes;
+};
+
+class PanelFilasRamal;
+
+// The LogicaFilas of either screen's logic (PiezasRamales,
+// ConexionesRamales), whose events have the same names.
+template <class T>
+LogicaFilas LogicaDe(T& l) {
+    LogicaFilas r;
+    r.filas = &l.Filas();
+    r.spread1 = &l.Spread1;
+    r.spread2 = &l.Spread2;
+    r.editarRamales = [&l](int f, int c, const QString& t) { return l.EditarRamales(f, c, t); };
+    r.editarFilas = [&l](int f, int c, const QString& t) { return l.EditarFilas(f, c, t); };
+    r.botonRapido = [&l](int clave) { l.BotonRapido(clave); };
+    r.eliminar = [&l] { l.Eliminar(); };
+    r.eliminarTodas = [&l] { l.EliminarTodas(); };
+    r.actualizarImagenes = [&l] { l.ActualizarImagenes(); };
+    return r;
+}
+
+class QDialog;
+// A screen's window around its panel: caption, first size, Esc as
+// "Retorno" (the dialog's reject), the panel's "Retorno" closing it.
+void MontarVentanaFilas(QDialog* ventana, PanelFilasRamal* panel, const QString& caption);
+
+class PanelFilasRamal : public QWidget {
+    Q_OBJECT
+public:
+    PanelFilasRamal(const AspectoFilas& aspecto, LogicaFilas logica, Sesion& s, Dialogos& d,
+                    std::function<void()> refrescarEditor, QWidget* padre);
+    ~PanelFilasRamal() override;
+
+    VistaGrid* Spread1() const { return spread1_; }
+    VistaGrid* Spread2() const { return spread2_; }
+    QWidget* BotonRapido(int clave) const;
+    QPushButton* Retorno() const { return retorno_; }
+    // Closes an open cell editor, its edit delivered.
+    void TerminarEdicion();
+
+protected:
+    bool eventFilter(QObject* o, QEvent* e) override;
+    void showEvent(QShowEvent* e) override;
+
+private:
+    QWidget* CrearRamales();
+    void AjustarRamales();
+    QWidget* CrearFilas(const AspectoFilas& a);
+    QWidget* CrearRapidos(const AspectoFilas& a);
+    QWidget* CrearBotones(const AspectoFilas& a);
+    // Runs an event of the logic and redraws.
+    void Accion(const std::function<void()>& f);
+    // The same for a button, after the open cell editor delivered its edit.
+    void Pulsar(const std::function<void()>& f);
+    void Mostrar();
+    void BuscarRamal();
+    void MenuFilas(const QPoint& donde);
+    void MostrarVistaPrevia();
+    void OcultarVistaPrevia();
+
+    LogicaFilas logica_;
+    Sesion& s_;
+    Dialogos& d_;
+    std::function<void()> refrescarEditor_;
+    VistaGrid* spread1_ = nullptr;
+    VistaGrid* spread2_ = nullptr;
+    QLabel* ramal_ = nullptr;
+    QLabel* nodoI_ = nullptr;
+    QLabel* nodoJ_ = nullptr;
+    QLabel* vistaPrevia_ = nullptr;
+    QPushButton* retorno_ = nullptr;
+    QString menuBaseDatos_, menuEliminar_;
+    std::vector<std::pair<int, QWidget*>> rapidos_;
+    NivoToolTip* tip_ = nullptr;
+    QTimer temporizador_;
+    int filaPrevia_ = 0;
+    QPoint puntoPrevia_;
+    bool mostrando_ = false;
+};
