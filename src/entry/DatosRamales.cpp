@@ -232,11 +232,15 @@ void DatosRamales::CambiarNumeroRamales(int n) {
 
 void DatosRamales::AplicarNumeroRamales() {
     if (!numeroCambiado_) return;
-    // Both counters are checked before anything changes.
-    const Entero16 ramales = numeroRamales_;
+    // The box goes back to the model's count first, so that a refused count
+    // is reported once; both counters are checked before anything changes.
+    const int pedido = numeroRamales_;
+    numeroRamales_ = p_.NumeroRamales;
+    numeroCambiado_ = false;
+    const Entero16 ramales = pedido;
     const Entero16 nodos = ramales + 1;
     if (ramales < 0) throw ErrorEjecucion(Error::SubindiceFuera);
-    numeroCambiado_ = false;
+    numeroRamales_ = ramales;
     p_.NumeroRamales = ramales;
     p_.NumeroNodos = nodos;
     RedimensioneVariables();

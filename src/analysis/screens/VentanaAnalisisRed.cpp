@@ -1,5 +1,6 @@
 #include "analysis/screens/VentanaAnalisisRed.h"
 
+#include "entry/screens/VentanaDatosRamales.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
@@ -28,7 +29,7 @@ void ColorTexto(QLabel* l, bool rojo) {
 }  // namespace
 
 VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre)
-    : QDialog(padre), s_(s), d_(d), logica_(p, s, d) {
+    : QDialog(padre), p_(p), s_(s), d_(d), logica_(p, s, d) {
     setObjectName(QStringLiteral("AnalisisRed"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setSizeGripEnabled(true);
@@ -138,9 +139,9 @@ QWidget* VentanaAnalisisRed::Botonera() {
     for (const auto& b : botones)
         capa->addWidget(BotonNivo(QString::fromLatin1(b.nombre), QString::fromUtf8(b.texto), pie, b.icono));
 
-    // The screens of the comment, the listing, the reports, the workbook and
-    // the branch editor are still to come.
-    for (const char* n : {"LSButton3", "LSButton4", "LSButton8", "LSButton9", "LSButton11"})
+    // The screens of the comment, the listing, the reports and the workbook
+    // are still to come.
+    for (const char* n : {"LSButton3", "LSButton4", "LSButton8", "LSButton9"})
         Boton(QString::fromLatin1(n))->setEnabled(false);
 
     connect(double1_, &NivoNumero::ValorCambiado, this, [this](double v) { logica_.Double1 = v; });
@@ -161,8 +162,26 @@ QWidget* VentanaAnalisisRed::Botonera() {
             },
             {1, 2, 3, 4});
     });
+    connect(Boton(QStringLiteral("LSButton11")), &QPushButton::clicked, this, &VentanaAnalisisRed::EditarRed);
     connect(Boton(QStringLiteral("LSButton1")), &QPushButton::clicked, this, &QDialog::accept);
     return pie;
+}
+
+void VentanaAnalisisRed::EditarRed() {
+    s_.EdicionDesdeAnalisis = 1;
+    bool salvado = false;
+    {
+        VentanaDatosRamales editor(p_, s_, d_, this);
+        editor.exec();
+        salvado = editor.ProyectoSalvado();
+    }
+    s_.EdicionDesdeAnalisis = 0;
+    Evento(
+        [this, salvado] {
+            CursorEspera espera;
+            logica_.RetornoEditorRamales(salvado);
+        },
+        {1, 2, 3, 4});
 }
 
 QPushButton* VentanaAnalisisRed::Boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }

@@ -1,0 +1,106 @@
+// The branch editor on the desktop: opened by "New" of the main window,
+// typed with the keyboard, closed through the real message box; opened from
+// the analysis screen, whose chain runs again after a save.
+
+#include "ApoyoPantallas.h"
+#include "analysis/screens/VentanaAnalisisRed.h"
+#include "aqueduct/ProyectoAcueducto.h"
+#include "entry/screens/VentanaDatosRamales.h"
+#include "shell/screens/PantallasEscritorio.h"
+#include "shell/screens/VentanaPrincipal.h"
+#include "widgets/NivoNumero.h"
+#include "widgets/VistaGrid.h"
+
+#include <QAction>
+#include <QPushButton>
+
+namespace {
+
+// The desktop's dialogs with the save dialog scripted too.
+class DialogosNuevo : public DialogosPantalla {
+public:
+    std::optional<QString> guardar;
+    std::optional<QString> GuardarArchivo(const QString&, const QString&, const QString&) override { return guardar; }
+};
+
+struct EditorEscritorio : ::testing::Test {
+    SesionPrueba sp;
+    ProyectoEdificio p;
+    ProyectoAcueducto acu;
+    DialogosNuevo d;
+    std::unique_ptr<PantallasEscritorio> pantallas;
+    std::unique_ptr<VentanaPrincipal> v;
+
+    void SetUp() override {
+        qputenv("FONTARIA_DATOS", sp.s.DirectorioDatos.toUtf8());
+        pantallas = std::make_unique<PantallasEscritorio>(sp.s, p, acu, d);
+        v = std::make_unique<VentanaPrincipal>(sp.s, p, acu, d, *pantallas);
+        v->Logica().VerificarNumeracion = [this] { VerificarNumeracion(p, d); };
+        pantallas->PonerVentana(v.get());
+        v->Arrancar(RutaProgramaPruebas());
+        v->show();
+    }
+    void TearDown() override { qunsetenv("FONTARIA_DATOS"); }
+};
+
+// The count typed into its box and confirmed with Enter.
+void TeclearCuenta(VentanaDatosRamales* w, const QString& cuenta) {
+    Escribir(w->CajaNumeroRamales(), cuenta);
+    Tecla(w->CajaNumeroRamales(), Qt::Key_Return);
+    QApplication::processEvents();
+}
+
+}  // namespace
+
+TEST_F(EditorEscritorio, NuevoAbreElEditorSeTecleaYSeSalvaAlCerrar) {
+    const QString ruta = sp.Datos(QStringLiteral("Proyectos/casa.plm"));
+    d.guardar = ruta;
+    ASSERT_TRUE(v->Accion(QStringLiteral("ID_M1_Nuevo"))->isEnabled());
+    ASSERT_TRUE(v->Accion(QStringLiteral("ID_M1_Modificar"))->isEnabled());
+    MensajeVisto desborde, cerrar;
+    QString titulo;
+    CuandoAbra<VentanaDatosRamales>([&](VentanaDatosRamales* w) {
+        titulo = w->windowTitle();
+        w->Boton(QStringLiteral("Siguiente"))->click();
+        // A count the counters cannot hold: the overflow, the screen kept.
+        Contestar(desborde, 0);
+        TeclearCuenta(w, QStringLiteral("40000"));
+        TeclearCuenta(w, QStringLiteral("2"));
+        w->VistaNodos()->setCurrentIndex(w->VistaNodos()->model()->index(0, 0));
+        // I, J, I, J: the cursor runs through the node columns.
+        TeclearEnVista(w->VistaNodos(), QStringLiteral("A\nB\nB\nC\n"));
+        w->Vista1()->setCurrentIndex(w->Vista1()->model()->index(1, 2));
+        TeclearEnVista(w->Vista1(), QStringLiteral("12.5\n"));
+        Contestar(cerrar, 2);  // "Sí": save
+        Tecla(w, Qt::Key_Escape);
+    });
+    v->EjecutarHerramienta(QStringLiteral("ID_M1_Nuevo"));
+    EXPECT_EQ(titulo, QStringLiteral("NIVO-FONTARIA 2024    PROYECTO: [ CASA.PLM ]"));
+    MensajeEs(desborde, QStringLiteral("Error 6: Desbordamiento"), QStringLiteral("Error en el Cálculo..."));
+    MensajeEs(cerrar,
+              QStringLiteral("Los Datos del Proyecto han sido Modificados...\n¿Desea Salvar los Cambios Realizados?"),
+              QStringLiteral("Salvar las Modificaciones..."));
+    EXPECT_EQ(CampoDelArchivo(ruta, "NodoI", 2).toString(), QStringLiteral("B"));
+    EXPECT_EQ(CampoDelArchivo(ruta, "Nodoj", 2).toString(), QStringLiteral("C"));
+    EXPECT_DOUBLE_EQ(CampoDelArchivo(ruta, "longitudReal", 2).toDouble(), 12.5);
+}
+
+TEST_F(EditorEscritorio, ElEditorDesdeElAnalisisLoCalculaDeNuevoAlSalvar) {
+    CargarEjemplo(sp, p, d, QStringLiteral("Vivienda con Tanque Elevado"));
+    VentanaAnalisisRed a(p, sp.s, d);
+    ASSERT_TRUE(a.Cargar());
+    const double antes = p.PerdidaRamal[2];
+    bool abrirVisible = true;
+    CuandoAbra<VentanaDatosRamales>([&](VentanaDatosRamales* w) {
+        abrirVisible = w->Boton(QStringLiteral("Abrir"))->isVisibleTo(w);
+        w->Logica().EditarCelda(2, 3, QStringLiteral("40"));
+        w->Boton(QStringLiteral("Salvar"))->click();
+        w->Boton(QStringLiteral("Retorno"))->click();
+    });
+    a.Boton(QStringLiteral("LSButton11"))->click();
+    EXPECT_FALSE(abrirVisible);
+    EXPECT_EQ(sp.s.EdicionDesdeAnalisis, 0);
+    EXPECT_DOUBLE_EQ(p.longitudReal[2], 40);
+    // A longer branch loses more: the chain ran on the saved data.
+    EXPECT_GT(p.PerdidaRamal[2], antes);
+}
