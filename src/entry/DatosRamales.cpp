@@ -1,6 +1,7 @@
 #include "entry/DatosRamales.h"
 
 #include "base/Dialogos.h"
+#include "catalogue/Catalogo.h"
 #include "base/Entero16.h"
 #include "base/ErrorEjecucion.h"
 #include "base/Nivo.h"
@@ -62,13 +63,13 @@ void DatosRamales::ConfigurarSpread() {
         col.ancho = ancho;
         col.bloqueada = bloqueada;
     };
-    formato(CNodoI, TipoCelda::Texto, 10, false);
-    formato(CNodoJ, TipoCelda::Texto, 10, false);
+    formato(CNodoI, TipoCelda::Texto, 12, false);
+    formato(CNodoJ, TipoCelda::Texto, 12, false);
     formato(CLongitud, TipoCelda::Numero, 12, false);
-    formato(COpcion, TipoCelda::Lista, 16, false);
+    formato(COpcion, TipoCelda::Lista, 18, false);
     formato(CValvula, TipoCelda::Numero, 12, false);
     formato(CPiezas, TipoCelda::Entero, 9, true);
-    formato(CConexiones, TipoCelda::Entero, 10, true);
+    formato(CConexiones, TipoCelda::Entero, 11, true);
     formato(CComentario, TipoCelda::Texto, 30, true);
     for (int c : {CLongitud, CValvula}) {
         Spread1.Col(c).minimo = 0;
@@ -245,6 +246,7 @@ void DatosRamales::AplicarNumeroRamales() {
     p_.NumeroNodos = nodos;
     RedimensioneVariables();
     ColoqueRamales();
+    SeguirRevision();
     MarcarModificado();
     if (p_.NumeroRamales > 0) {
         Spread1.PonerActiva(std::clamp(Spread1.FilaActiva(), 1, Spread1.Filas()), Spread1.ColumnaActiva());
@@ -262,9 +264,8 @@ QString DatosRamales::EtiquetaRamal() const {
 
 void DatosRamales::MoverCursor(int fila, int columna) {
     if (Spread1.Filas() == 0) return;
-    const bool otraFila = fila != Spread1.FilaActiva();
     Spread1.PonerActiva(std::clamp(fila, 1, Spread1.Filas()), columna);
-    if (graficos_ && otraFila) ColoqueRevision(RamalActivo());
+    if (graficos_ && ramalRevision_ != RamalActivo()) ColoqueRevision(RamalActivo());
 }
 
 bool DatosRamales::NumeroDeCelda(int fila, int columna, const QString& texto, double& v) {
@@ -456,8 +457,14 @@ void DatosRamales::EliminarRamal(int r) {
     numeroRamales_ = p_.NumeroRamales;
     NumerarDesde(r);
     if (Spread1.Filas() > 0) Spread1.PonerActiva(std::min(r, Spread1.Filas()), Spread1.ColumnaActiva());
+    SeguirRevision();
     MarcarModificado();
     foco = Foco::Grid;
+}
+
+// The panel shows the active branch as it is after the rows moved.
+void DatosRamales::SeguirRevision() {
+    if (graficos_) CambiarGraficos(true);
 }
 
 void DatosRamales::InsertarRamal(int posicion) {
@@ -484,6 +491,7 @@ void DatosRamales::InsertarRamal(int posicion) {
     Spread1.PonerTexto(p, COpcion, Tanque);
     NumerarDesde(p);
     Spread1.PonerActiva(p, CNodoI);
+    SeguirRevision();
     MarcarModificado();
     foco = Foco::Grid;
 }
@@ -581,12 +589,20 @@ void DatosRamales::BuscarRamal(const BuscarPartida& b) {
 }
 
 bool DatosRamales::CambiarGraficos(bool si) {
+    const bool encender = si && !graficos_ && HayRamales();
     graficos_ = si && HayRamales();
+    // The project's copy of the catalogue's photographs, made once, as the
+    // branch screens make it.
+    if (encender && s_.ConexionCatalogo.Abierta()) {
+        VerifiqueImagenesProyecto(s_, TablaImagenes::Piezas);
+        VerifiqueImagenesProyecto(s_, TablaImagenes::Conexiones);
+    }
     if (graficos_) ColoqueRevision(RamalActivo());
     return graficos_;
 }
 
 void DatosRamales::ColoqueRevision(int ramal) {
+    ramalRevision_ = ramal;
     ColoquePiezasTemp(ramal);
     ColoqueConexionesTemp(ramal);
 }

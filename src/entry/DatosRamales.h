@@ -165,6 +165,7 @@ private:
     void CopiarRamal(int desde, int hacia);
     void LimpiarRamal(int ramal);
     int ColoqueFilas(bool piezas, int ramal, int fila);
+    void SeguirRevision();
 
     ProyectoEdificio& p_;
     Sesion& s_;
@@ -175,6 +176,7 @@ private:
     bool graficos_ = false;
     bool proyectoSalvado_ = false;
     int filaRevision_ = 0;
+    int ramalRevision_ = 0;  // the branch the panel shows
 };
 
 // Colours of the editor's grids (0x00BBGGRR).

@@ -108,6 +108,11 @@ TEST_F(Editor, LasCeldasGuardanYElCursorCorreIJIJ) {
     EXPECT_FALSE(e.EditarCelda(1, 3, QStringLiteral("doce")));
     EXPECT_DOUBLE_EQ(p.longitudReal[1], 12.5);
     EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en el Número..."));
+    // A number outside the column's range: its limits, the value kept.
+    EXPECT_FALSE(e.EditarCelda(1, 3, QStringLiteral("-5")));
+    MensajeEs(d.Ultimo(), QStringLiteral("¡Debe Entrar un Número entre 0 y 9,999,999,999.99!"),
+              QStringLiteral("Error en el Número..."));
+    EXPECT_DOUBLE_EQ(p.longitudReal[1], 12.5);
     ASSERT_TRUE(e.EditarCelda(2, 4, QStringLiteral("Piezas de Válvula")));
     EXPECT_EQ(p.OpcionDiseño[2], 1);
     EXPECT_EQ(e.Spread1.Cel(2, 4).colorFondo, ColorValvula);
@@ -290,7 +295,6 @@ TEST_F(Editor, AbrirPreguntaPideElArchivoYCargaConLaFechaDeHoy) {
     Teclear({"A", "B", "B", "C"});
     e.Salvar();
     const QString guardado = sp.s.ArchivoProyecto;
-    const QString otro = sp.ProyectoEnBlanco(QStringLiteral("otro.plm"));
     d.archivos = {std::nullopt, guardado};
     e.Abrir();
     EXPECT_EQ(d.dialogosArchivo.last(),
@@ -306,9 +310,9 @@ TEST_F(Editor, AbrirPreguntaPideElArchivoYCargaConLaFechaDeHoy) {
     // A file that is not a project: the one in memory stays.
     d.archivos = {EscribirArchivo(sp.Datos(QStringLiteral("roto.plm")), "no es un proyecto")};
     e.Abrir();
+    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en Lectura de Datos..."));
     EXPECT_EQ(int(p.NumeroRamales), 2);
     EXPECT_EQ(sp.s.ArchivoProyecto, guardado);
-    Q_UNUSED(otro);
     sp.s.EdicionDesdeAnalisis = 1;
     EXPECT_FALSE(e.EstadoActual().habilitados.Abrir);
 }

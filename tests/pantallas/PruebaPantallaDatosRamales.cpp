@@ -12,6 +12,7 @@
 #include "widgets/VistaGrid.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QPushButton>
 
 namespace {
@@ -103,4 +104,19 @@ TEST_F(EditorEscritorio, ElEditorDesdeElAnalisisLoCalculaDeNuevoAlSalvar) {
     EXPECT_DOUBLE_EQ(p.longitudReal[2], 40);
     // A longer branch loses more: the chain ran on the saved data.
     EXPECT_GT(p.PerdidaRamal[2], antes);
+}
+
+TEST_F(EditorEscritorio, ElPanelSigueAlCursorEnAmbasVistas) {
+    CargarEjemplo(sp, p, d, QStringLiteral("Edificio_ApartamentoTipo"));
+    VentanaDatosRamales w(p, sp.s, d);
+    w.show();
+    w.Boton(QStringLiteral("Siguiente"))->click();
+    w.findChild<QCheckBox*>(QStringLiteral("Graficos"))->click();
+    for (auto [vista, fila] : {std::pair{w.VistaNodos(), 2}, std::pair{w.Vista1(), 4}}) {
+        vista->setCurrentIndex(vista->model()->index(fila, vista == w.Vista1() ? 3 : 0));
+        QApplication::processEvents();
+        EXPECT_EQ(w.Logica().Spread2.Texto(1, 1), QStringLiteral("PIEZAS SANITARIAS EN EL RAMAL ( %1 )").arg(fila + 1));
+        EXPECT_EQ(w.Vista2()->model()->data(w.Vista2()->model()->index(0, 0)).toString(),
+                  QStringLiteral("PIEZAS SANITARIAS EN EL RAMAL ( %1 )").arg(fila + 1));
+    }
 }

@@ -100,14 +100,17 @@ VentanaDatosRamales::VentanaDatosRamales(ProyectoEdificio& p, Sesion& s, Dialogo
     spread1_->MostrarGrid(&logica_.Spread1);
     spread2_->MostrarGrid(&logica_.Spread2);
     vistaFlotante_->MostrarGrid(&logica_.Spread2);
-    for (int c = 2; c < logica_.Spread1.Columnas(); ++c) nodos_->hideColumn(c);
-    for (int c = 0; c < 2; ++c) spread1_->hideColumn(c);
     spread1_->verticalHeader()->hide();
     for (VistaGrid* v : {nodos_, spread1_})
         connect(v->selectionModel(), &QItemSelectionModel::currentChanged, this,
-                [this](const QModelIndex& i) {
-                    if (i.isValid()) CursorMovido(i.row() + 1, i.column() + 1);
+                [this, v](const QModelIndex& i) {
+                    if (!i.isValid()) return;
+                    // One cursor for the table: the other view lets its go.
+                    (v == nodos_ ? spread1_ : nodos_)->selectionModel()->clearSelection();
+                    CursorMovido(i.row() + 1, i.column() + 1);
                 });
+    connect(nodos_->horizontalHeader(), &QHeaderView::sectionResized, this, [this] { AnchoNodos(); });
+    connect(nodos_->verticalHeader(), &QHeaderView::geometriesChanged, this, [this] { AnchoNodos(); });
     connect(nodos_->verticalScrollBar(), &QScrollBar::valueChanged, spread1_->verticalScrollBar(), &QScrollBar::setValue);
     connect(spread1_->verticalScrollBar(), &QScrollBar::valueChanged, nodos_->verticalScrollBar(), &QScrollBar::setValue);
     Refrescar();
@@ -142,6 +145,7 @@ QWidget* VentanaDatosRamales::Pagina1() {
     fecha_->setLocale(QLocale(QLocale::Spanish));
     auto* calendario = BotonNivo(QStringLiteral("Calendario"), QStringLiteral("..."), generales, std::nullopt,
                                  QStringLiteral("Fijar una fecha. "));
+    calendario->setMaximumWidth(40);
     g->addWidget(new QLabel(QStringLiteral("Fecha:"), generales), 1, 2);
     g->addWidget(fecha_, 1, 3);
     g->addWidget(calendario, 1, 4);
@@ -430,17 +434,22 @@ void VentanaDatosRamales::Refrescar() {
     spread2_->setVisible(e.graficos);
 
     for (VistaGrid* v : {nodos_, spread1_, spread2_}) v->Refrescar();
+    // A view shown again from its grid shows every column: each keeps its share.
+    for (int c = 0; c < logica_.Spread1.Columnas(); ++c) {
+        nodos_->setColumnHidden(c, c > 1);
+        spread1_->setColumnHidden(c, c <= 1);
+    }
     AltoFilasRevision(spread2_);
     // Both parts of the table keep one header height, so that rows line up.
     const int alto = std::max(nodos_->horizontalHeader()->sizeHint().height(),
                               spread1_->horizontalHeader()->sizeHint().height());
     nodos_->horizontalHeader()->setFixedHeight(alto);
     spread1_->horizontalHeader()->setFixedHeight(alto);
-    nodos_->setFixedWidth(nodos_->verticalHeader()->sizeHint().width() + nodos_->columnWidth(0) +
-                          nodos_->columnWidth(1) + 2 * nodos_->frameWidth() + 2);
+    AnchoNodos();
     const int columna = logica_.Spread1.ColumnaActiva();
     VistaGrid* activa = columna <= DatosRamales::CNodoJ ? nodos_ : spread1_;
     if (logica_.Spread1.Filas() > 0) activa->MostrarActiva();
+    (activa == nodos_ ? spread1_ : nodos_)->selectionModel()->clearSelection();
     mostrando_ = false;
 
     switch (logica_.foco) {
@@ -454,6 +463,14 @@ void VentanaDatosRamales::Refrescar() {
     case DatosRamales::Foco::Ninguno: break;
     }
     logica_.foco = DatosRamales::Foco::Ninguno;
+}
+
+void VentanaDatosRamales::AnchoNodos() {
+    // The node view is as wide as its row numbers and two columns, whatever
+    // widths the texts give them.
+    const int ancho = std::max(nodos_->verticalHeader()->width(), nodos_->verticalHeader()->sizeHint().width()) +
+                      nodos_->columnWidth(0) + nodos_->columnWidth(1) + 2 * nodos_->frameWidth();
+    if (nodos_->width() != ancho) nodos_->setFixedWidth(ancho);
 }
 
 void VentanaDatosRamales::AltoFilasRevision(VistaGrid* v) {

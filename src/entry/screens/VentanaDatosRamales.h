@@ -62,6 +62,7 @@ private:
     void ElegirFecha();
     void MostrarRevision(bool flotante, const QPoint& global = QPoint());
     void AltoFilasRevision(VistaGrid* v);
+    void AnchoNodos();
     void CursorMovido(int fila, int columna);
     // The buttons that open a screen: the logic says whether it may.
     void AbrirSi(bool (DatosRamales::*puede)(), void (VentanaDatosRamales::*abrir)());
