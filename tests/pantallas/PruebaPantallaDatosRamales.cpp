@@ -4,10 +4,7 @@
 
 #include "ApoyoPantallas.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
-#include "aqueduct/ProyectoAcueducto.h"
 #include "entry/screens/VentanaDatosRamales.h"
-#include "shell/screens/PantallasEscritorio.h"
-#include "shell/screens/VentanaPrincipal.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/VistaGrid.h"
 
@@ -17,32 +14,7 @@
 
 namespace {
 
-// The desktop's dialogs with the save dialog scripted too.
-class DialogosNuevo : public DialogosPantalla {
-public:
-    std::optional<QString> guardar;
-    std::optional<QString> GuardarArchivo(const QString&, const QString&, const QString&) override { return guardar; }
-};
-
-struct EditorEscritorio : ::testing::Test {
-    SesionPrueba sp;
-    ProyectoEdificio p;
-    ProyectoAcueducto acu;
-    DialogosNuevo d;
-    std::unique_ptr<PantallasEscritorio> pantallas;
-    std::unique_ptr<VentanaPrincipal> v;
-
-    void SetUp() override {
-        qputenv("FONTARIA_DATOS", sp.s.DirectorioDatos.toUtf8());
-        pantallas = std::make_unique<PantallasEscritorio>(sp.s, p, acu, d);
-        v = std::make_unique<VentanaPrincipal>(sp.s, p, acu, d, *pantallas);
-        v->Logica().VerificarNumeracion = [this] { VerificarNumeracion(p, d); };
-        pantallas->PonerVentana(v.get());
-        v->Arrancar(RutaProgramaPruebas());
-        v->show();
-    }
-    void TearDown() override { qunsetenv("FONTARIA_DATOS"); }
-};
+struct EditorEscritorio : EscritorioPrueba {};
 
 // The count typed into its box and confirmed with Enter.
 void TeclearCuenta(VentanaDatosRamales* w, const QString& cuenta) {

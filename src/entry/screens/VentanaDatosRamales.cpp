@@ -11,7 +11,6 @@
 #include "widgets/VistaGrid.h"
 
 #include <QButtonGroup>
-#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QGridLayout>
@@ -181,6 +180,7 @@ QWidget* VentanaDatosRamales::Pagina1() {
             if (!mostrando_) logica_.CambiarValor(i + 1, v);
         });
     }
+    cp->setColumnStretch(3, 1);  // label and box stay beside their option
     fila1->addWidget(uso);
     fila1->addWidget(presion, 1);
     capa->addLayout(fila1);
@@ -469,7 +469,7 @@ void VentanaDatosRamales::AnchoNodos() {
     // The node view is as wide as its row numbers and two columns, whatever
     // widths the texts give them.
     const int ancho = std::max(nodos_->verticalHeader()->width(), nodos_->verticalHeader()->sizeHint().width()) +
-                      nodos_->columnWidth(0) + nodos_->columnWidth(1) + 2 * nodos_->frameWidth();
+                      nodos_->columnWidth(0) + nodos_->columnWidth(1) + 2 * nodos_->frameWidth() + 2;
     if (nodos_->width() != ancho) nodos_->setFixedWidth(ancho);
 }
 
@@ -529,17 +529,7 @@ void VentanaDatosRamales::MenuRamales(VistaGrid* vista, const QPoint& donde) {
 }
 
 void VentanaDatosRamales::ElegirFecha() {
-    QDialog calendario(this);
-    calendario.setObjectName(QStringLiteral("Calendario"));
-    calendario.setWindowTitle(QStringLiteral("Fecha"));
-    auto* capa = new QVBoxLayout(&calendario);
-    auto* mes = new QCalendarWidget(&calendario);
-    mes->setLocale(QLocale(QLocale::Spanish));
-    mes->setSelectedDate(fecha_->date());
-    capa->addWidget(mes);
-    connect(mes, &QCalendarWidget::activated, &calendario, &QDialog::accept);
-    connect(mes, &QCalendarWidget::clicked, &calendario, &QDialog::accept);
-    if (calendario.exec() == QDialog::Accepted) fecha_->setDate(mes->selectedDate());
+    if (const auto dia = PedirFecha(this, fecha_->date())) fecha_->setDate(*dia);
 }
 
 void VentanaDatosRamales::MostrarRevision(bool flotante, const QPoint& global) {
@@ -549,6 +539,12 @@ void VentanaDatosRamales::MostrarRevision(bool flotante, const QPoint& global) {
     }
     vistaFlotante_->Refrescar();
     AltoFilasRevision(vistaFlotante_);
+    // As wide as its columns, as tall as its rows allow on the screen.
+    const int ancho = vistaFlotante_->verticalHeader()->sizeHint().width() +
+                      vistaFlotante_->horizontalHeader()->length() +
+                      vistaFlotante_->verticalScrollBar()->sizeHint().width() + 4 * vistaFlotante_->frameWidth();
+    flotante_->resize(ancho, std::min(420, vistaFlotante_->horizontalHeader()->height() +
+                                               vistaFlotante_->verticalHeader()->length() + 8));
     flotante_->move(global + QPoint(16, 16));
     flotante_->show();
 }
