@@ -352,3 +352,24 @@ TEST_F(Editor, BuscarRamalConservaLaColumna) {
     EXPECT_EQ(e.Spread1.ColumnaActiva(), 5);
     EXPECT_EQ(e.EtiquetaRamal(), QStringLiteral("Ramal ( 3 )"));
 }
+
+TEST_F(Editor, LasLongitudesSeLeenConLasMarcasDelPais) {
+    Teclear({"A", "B"});
+    struct Caso {
+        const char* locale;
+        const char* texto;
+        double valor;
+    };
+    // Each country's decimal mark, and its thousands mark read as such.
+    const Caso casos[] = {{"es_ES", "12,5", 12.5},       {"es_ES", "1.234,5", 1234.5}, {"es_MX", "12.5", 12.5},
+                          {"es_MX", "1,234.5", 1234.5}, {"es_VE", "7,25", 7.25},       {"es_AR", "7,25", 7.25},
+                          {"es_CO", "7,25", 7.25},       {"C", "3.75", 3.75}};
+    for (const Caso& c : casos) {
+        const MarcasPrueba marcas(c.locale);
+        ASSERT_TRUE(e.EditarCelda(1, 3, QString::fromUtf8(c.texto))) << c.locale << " " << c.texto;
+        EXPECT_DOUBLE_EQ(p.longitudReal[1], c.valor) << c.locale << " " << c.texto;
+        // What the grid shows, handed back by the view, is the same number.
+        ASSERT_TRUE(e.EditarCelda(1, 5, e.Spread1.Texto(1, 3)));
+        EXPECT_DOUBLE_EQ(p.ValvulaR[1], c.valor) << c.locale;
+    }
+}
