@@ -45,6 +45,8 @@ void MenuPrincipal::NuevoProyecto() {
     s_.ProyectoModificado = true;
     AbrirConexionProyecto(s_);
     MostrarSiHay(Pantalla::DatosRamales);
+    // The editor may have opened another project.
+    TituloEdificio();
     Habilitar(QStringLiteral("ID_M1_SalvarComo"), true);
 }
 
@@ -80,6 +82,7 @@ void MenuPrincipal::ModificarProyecto() {
     if (!PedirProyectoSiFalta()) return;
     if (!CargarProyecto()) return;
     MostrarSiHay(Pantalla::DatosRamales);
+    TituloEdificio();
 }
 
 void MenuPrincipal::TanqueHidroneumatico() {

@@ -1,10 +1,13 @@
 #include "widgets/Ventanas.h"
 
 #include <QApplication>
+#include <QCalendarWidget>
+#include <QDialog>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
+#include <QVBoxLayout>
 
 QPushButton* BotonNivo(const QString& nombre, const QString& texto, QWidget* padre,
                        std::optional<QStyle::StandardPixmap> icono, const QString& tip) {
@@ -19,6 +22,21 @@ QPushButton* BotonNivo(const QString& nombre, const QString& texto, QWidget* pad
 
 QPushButton* BotonRetorno(QWidget* padre) {
     return BotonNivo(QStringLiteral("Retorno"), QStringLiteral("Retorno"), padre, QStyle::SP_DialogCloseButton);
+}
+
+std::optional<QDate> PedirFecha(QWidget* padre, const QDate& inicial) {
+    QDialog calendario(padre);
+    calendario.setObjectName(QStringLiteral("Calendario"));
+    calendario.setWindowTitle(QStringLiteral("Fecha"));
+    auto* capa = new QVBoxLayout(&calendario);
+    auto* mes = new QCalendarWidget(&calendario);
+    mes->setLocale(QLocale(QLocale::Spanish));
+    mes->setSelectedDate(inicial);
+    capa->addWidget(mes);
+    QObject::connect(mes, &QCalendarWidget::activated, &calendario, &QDialog::accept);
+    QObject::connect(mes, &QCalendarWidget::clicked, &calendario, &QDialog::accept);
+    if (calendario.exec() != QDialog::Accepted) return std::nullopt;
+    return mes->selectedDate();
 }
 
 void DimensionarVentana(QWidget* w, int porcientoAncho, int porcientoAlto) {

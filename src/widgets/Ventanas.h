@@ -6,6 +6,7 @@
 #include "base/ErrorEjecucion.h"
 #include "shell/ErrorCalculo.h"
 
+#include <QDate>
 #include <QString>
 #include <QStyle>
 #include <optional>
@@ -22,6 +23,10 @@ QPushButton* BotonNivo(const QString& nombre, const QString& texto, QWidget* pad
                        std::optional<QStyle::StandardPixmap> icono = std::nullopt, const QString& tip = QString());
 // "Retorno", which closes a screen.
 QPushButton* BotonRetorno(QWidget* padre);
+
+// The calendar of a date box ("Calendario"): the day chosen, none when the
+// calendar was closed without one.
+std::optional<QDate> PedirFecha(QWidget* padre, const QDate& inicial);
 
 // The first size of a screen, a share of the available screen, centred.
 void DimensionarVentana(QWidget* w, int porcientoAncho, int porcientoAlto);

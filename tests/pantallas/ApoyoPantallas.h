@@ -4,14 +4,19 @@
 // file's column read back.
 
 #include "analysis/Numeracion.h"
+#include "aqueduct/ProyectoAcueducto.h"
 #include "model/ArchivoEdificio.h"
 #include "model/ProyectoEdificio.h"
 #include "shell/screens/DialogosQt.h"
+#include "shell/screens/PantallasEscritorio.h"
+#include "shell/screens/VentanaPrincipal.h"
 #include "store/Conexion.h"
 #include "support/Apoyo.h"
 #include "support/Modales.h"
 
+#include <QAction>
 #include <QDir>
+#include <memory>
 #include <deque>
 
 // The real message box (VentanaMsgBox) and busy pointer; the file dialogs
@@ -27,6 +32,35 @@ public:
         archivos.pop_front();
         return r;
     }
+    // The save dialog's answer (a new project's file).
+    std::optional<QString> guardar;
+    std::optional<QString> GuardarArchivo(const QString&, const QString&, const QString&) override { return guardar; }
+};
+
+// The main window as the desktop program wires it, on a fresh data folder
+// holding the samples.
+struct EscritorioPrueba : ::testing::Test {
+    SesionPrueba sp;
+    ProyectoEdificio p;
+    ProyectoAcueducto acu;
+    DialogosPantalla d;
+    std::unique_ptr<PantallasEscritorio> pantallas;
+    std::unique_ptr<VentanaPrincipal> v;
+
+    void SetUp() override {
+        qputenv("FONTARIA_DATOS", sp.s.DirectorioDatos.toUtf8());
+        pantallas = std::make_unique<PantallasEscritorio>(sp.s, p, acu, d);
+        v = std::make_unique<VentanaPrincipal>(sp.s, p, acu, d, *pantallas);
+        v->Logica().VerificarNumeracion = [this] { VerificarNumeracion(p, d); };
+        pantallas->PonerVentana(v.get());
+        v->Arrancar(RutaProgramaPruebas());
+        v->show();
+    }
+    void TearDown() override { qunsetenv("FONTARIA_DATOS"); }
+    QString Muestra(const char* nombre) const {
+        return sp.Datos(QStringLiteral("Proyectos/") + QString::fromUtf8(nombre) + QStringLiteral(".plm"));
+    }
+    bool Activa(const char* id) const { return v->Accion(QString::fromLatin1(id))->isEnabled(); }
 };
 
 // A sample (Imagen/NAME.nivo) copied to Proyectos/NAME.plm, chosen, loaded

@@ -1,6 +1,7 @@
 #include "analysis/screens/VentanaAnalisisRed.h"
 
 #include "entry/screens/VentanaComentarioRamal.h"
+#include "entry/screens/VentanaDatosRamales.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
@@ -139,9 +140,9 @@ QWidget* VentanaAnalisisRed::Botonera() {
     for (const auto& b : botones)
         capa->addWidget(BotonNivo(QString::fromLatin1(b.nombre), QString::fromUtf8(b.texto), pie, b.icono));
 
-    // The screens of the listing, the reports, the workbook and the branch
-    // editor are still to come.
-    for (const char* n : {"LSButton3", "LSButton4", "LSButton8", "LSButton11"})
+    // The screens of the listing, the reports and the workbook are still
+    // to come.
+    for (const char* n : {"LSButton3", "LSButton4", "LSButton8"})
         Boton(QString::fromLatin1(n))->setEnabled(false);
 
     connect(double1_, &NivoNumero::ValorCambiado, this, [this](double v) { logica_.Double1 = v; });
@@ -163,8 +164,26 @@ QWidget* VentanaAnalisisRed::Botonera() {
             {1, 2, 3, 4});
     });
     connect(Boton(QStringLiteral("LSButton9")), &QPushButton::clicked, this, &VentanaAnalisisRed::AbrirComentario);
+    connect(Boton(QStringLiteral("LSButton11")), &QPushButton::clicked, this, &VentanaAnalisisRed::EditarRed);
     connect(Boton(QStringLiteral("LSButton1")), &QPushButton::clicked, this, &QDialog::accept);
     return pie;
+}
+
+void VentanaAnalisisRed::EditarRed() {
+    s_.EdicionDesdeAnalisis = 1;
+    bool salvado = false;
+    {
+        VentanaDatosRamales editor(p_, s_, d_, this);
+        editor.exec();
+        salvado = editor.ProyectoSalvado();
+    }
+    s_.EdicionDesdeAnalisis = 0;
+    Evento(
+        [this, salvado] {
+            CursorEspera espera;
+            logica_.RetornoEditorRamales(salvado);
+        },
+        {1, 2, 3, 4});
 }
 
 QPushButton* VentanaAnalisisRed::Boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }

@@ -59,6 +59,10 @@ private:
     // Draws what the logic holds besides the grids.
     void MostrarEstado();
 
+    // "Editar Red": the branch editor, marked as called from here; a save
+    // made there runs the analysis again.
+    void EditarRed();
+
     ProyectoEdificio& p_;
     Sesion& s_;
     Dialogos& d_;

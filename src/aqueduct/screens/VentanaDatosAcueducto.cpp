@@ -9,10 +9,10 @@
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoToolTip.h"
+#include "widgets/Ventanas.h"
 #include "widgets/VistaGrid.h"
 
 #include <QButtonGroup>
-#include <QCalendarWidget>
 #include <QDateEdit>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -361,17 +361,7 @@ void VentanaDatosAcueducto::MenuRamales(const QPoint& donde) {
 }
 
 void VentanaDatosAcueducto::ElegirFecha() {
-    QDialog calendario(this);
-    calendario.setObjectName(QStringLiteral("Calendario"));
-    calendario.setWindowTitle(QStringLiteral("Fecha"));
-    auto* capa = new QVBoxLayout(&calendario);
-    auto* mes = new QCalendarWidget(&calendario);
-    mes->setLocale(QLocale(QLocale::Spanish));
-    mes->setSelectedDate(date1_->date());
-    capa->addWidget(mes);
-    connect(mes, &QCalendarWidget::activated, &calendario, &QDialog::accept);
-    connect(mes, &QCalendarWidget::clicked, &calendario, &QDialog::accept);
-    if (calendario.exec() == QDialog::Accepted) date1_->setDate(mes->selectedDate());
+    if (const auto dia = PedirFecha(this, date1_->date())) date1_->setDate(*dia);
 }
 
 void VentanaDatosAcueducto::AbrirCoeficientes() {

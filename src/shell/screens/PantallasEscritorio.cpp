@@ -3,6 +3,7 @@
 #include "analysis/screens/VentanaAnalisisRed.h"
 #include "aqueduct/screens/VentanaAnalisisACU.h"
 #include "aqueduct/screens/VentanaDatosAcueducto.h"
+#include "entry/screens/VentanaDatosRamales.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/VentanaSobre.h"
@@ -14,6 +15,7 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::AnalisisRed:
     case Pantalla::Hidroneumatico:
     case Pantalla::Computos:
+    case Pantalla::DatosRamales:
     case Pantalla::DatosAcueducto:
     case Pantalla::AnalisisACU:
     case Pantalla::ConfigurarPrograma:
@@ -52,6 +54,11 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::Sobre: {
         VentanaSobre pantalla(ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::DatosRamales: {
+        VentanaDatosRamales pantalla(p_, s_, d_, ventana_);
         pantalla.exec();
         break;
     }
