@@ -1,5 +1,11 @@
 #include "entry/screens/VentanaDatosRamales.h"
 
+#include "entry/screens/VentanaCambiarOpcionDiseno.h"
+#include "entry/screens/VentanaConexionesRamales.h"
+#include "entry/screens/VentanaCotasNodos.h"
+#include "entry/screens/VentanaLongitudTramosR.h"
+#include "entry/screens/VentanaPiezasRamales.h"
+
 #include "base/Dialogos.h"
 #include "entry/BuscarPartida.h"
 #include "entry/screens/VentanaBuscarPartida.h"
@@ -75,7 +81,7 @@ constexpr int AltoFoto = 56;
 }  // namespace
 
 VentanaDatosRamales::VentanaDatosRamales(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre)
-    : QDialog(padre), logica_(p, s, d), d_(d), s_(s) {
+    : QDialog(padre), logica_(p, s, d), d_(d), s_(s), p_(p) {
     setObjectName(QStringLiteral("DatosRamales"));
     tip_ = new NivoToolTip(this);
     auto* capa = new QVBoxLayout(this);
@@ -596,13 +602,34 @@ void VentanaDatosRamales::AbrirSi(bool (DatosRamales::*puede)(), void (VentanaDa
     Refrescar();
 }
 
-// The screens opened from here are joined at the merge; till then each
-// button does what follows the closing of its screen.
-void VentanaDatosRamales::AbrirPiezasRamales() { logica_.ColoqueNPiezas(); }
-void VentanaDatosRamales::AbrirConexionesRamales() { logica_.ColoqueNConexiones(); }
-void VentanaDatosRamales::AbrirCotasNodos() {}  // floor levels change no cell of the table
-void VentanaDatosRamales::AbrirCambiarOpcionDiseno() { logica_.ColoqueRamales(); }
-void VentanaDatosRamales::AbrirLongitudTramosR() {}  // the lengths arrive through FijarLongitud
+// Each screen opened from here works on the model and walks this screen's
+// table through EditorRamales; the table is drawn again as it does.
+void VentanaDatosRamales::AbrirPiezasRamales() {
+    VentanaPiezasRamales pantalla(p_, s_, d_, logica_, [this] { Refrescar(); }, this);
+    pantalla.exec();
+    logica_.ColoqueNPiezas();
+}
+
+void VentanaDatosRamales::AbrirConexionesRamales() {
+    VentanaConexionesRamales pantalla(p_, s_, d_, logica_, [this] { Refrescar(); }, this);
+    pantalla.exec();
+    logica_.ColoqueNConexiones();
+}
+
+void VentanaDatosRamales::AbrirCotasNodos() {
+    VentanaCotasNodos pantalla(p_, s_, d_, this);
+    pantalla.exec();
+}
+
+void VentanaDatosRamales::AbrirCambiarOpcionDiseno() {
+    VentanaCambiarOpcionDiseno pantalla(p_, s_, d_, logica_, [this] { Refrescar(); }, this);
+    pantalla.exec();
+}
+
+void VentanaDatosRamales::AbrirLongitudTramosR() {
+    VentanaLongitudTramosR pantalla(p_, s_, d_, logica_, [this] { Refrescar(); }, this);
+    pantalla.exec();
+}
 
 void VentanaDatosRamales::BuscarRamal() {
     TerminarEdicion();

@@ -76,6 +76,7 @@ private:
     DatosRamales logica_;
     Dialogos& d_;
     Sesion& s_;
+    ProyectoEdificio& p_;
     NivoToolTip* tip_;
     QStackedWidget* paginas_;
     QLineEdit* text_[4];
