@@ -2,10 +2,12 @@
 
 #include "base/ErrorEjecucion.h"
 #include "base/Nivo.h"
+#include "shell/screens/VentanaMsgBox.h"
 #include "store/Conexion.h"
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <fcntl.h>
@@ -28,8 +30,15 @@ T Siguiente(std::deque<T>& guion) {
 }  // namespace
 
 int DialogosFalsos::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo,
-                                   int botones, int defecto, int icono, const QImage&) {
-    mensajes.push_back({texto, encabezado, titulo, botones, defecto, icono});
+                                   int botones, int defecto, int icono, const QImage& imagen) {
+    // Every message is laid out by the program's own box, and what the box
+    // shows is what is recorded, so each text is checked as the engineer
+    // reads it; only the answer comes from the script.
+    const VentanaMsgBox caja(texto, encabezado, titulo, botones, defecto, icono, imagen);
+    auto mostrado = [&caja](const char* etiqueta) {
+        return caja.findChild<QLabel*>(QLatin1String(etiqueta))->text();
+    };
+    mensajes.push_back({mostrado("Label2"), mostrado("Label1"), caja.windowTitle(), botones, defecto, icono});
     if (respuestas.empty()) {
         if (botones == Botones::Aceptar) return Respuesta::Aceptar;
         if (botones == Botones::SiNo) return defecto == 0 ? Respuesta::No : Respuesta::Si;

@@ -25,7 +25,8 @@ QString RutaProgramaPruebas();
 QString EjecutablePruebas();
 
 // Records every question and answers from a script, in turn; with the
-// script empty it answers the question's default.
+// script empty it answers the question's default.  A message is recorded
+// as the program's message box lays it out.
 class DialogosFalsos : public Dialogos {
 public:
     struct Mensaje {
