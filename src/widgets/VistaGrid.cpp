@@ -388,8 +388,11 @@ VistaGrid::VistaGrid(QWidget* padre) : QTableView(padre) {
     // A block may be selected everywhere, for copying.
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     setSelectionBehavior(QAbstractItemView::SelectItems);
+    // No editing on a click of the current cell: the view would wait a
+    // double-click interval to open the editor and swallow what is typed
+    // meanwhile, as a spreadsheet never does.
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
-                    QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
+                    QAbstractItemView::AnyKeyPressed);
     setWordWrap(false);
     // Fixed row heights keep the view's layout independent of the row count.
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

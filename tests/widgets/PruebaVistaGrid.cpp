@@ -207,6 +207,15 @@ TEST(VistaGrid, EnterConfirmaYBajaUnaFila) {
     }
 }
 
+TEST(VistaGrid, LoTecleadoTrasUnClicEnLaCeldaActualNoSePierde) {
+    VistaEjemplo e(2, 5);
+    e.v.show();
+    const QRect celda = e.v.visualRect(e.v.currentIndex());
+    QTest::mouseClick(e.v.viewport(), Qt::LeftButton, Qt::NoModifier, celda.center());
+    TeclearEnVista(&e.v, QStringLiteral("4\n"));
+    EXPECT_DOUBLE_EQ(e.g.Valor(2, 5), 4.0);
+}
+
 TEST(VistaGrid, CopiarDaLosTextosVistosPorTabuladoresYLineas) {
     // Ejemplo(): N1 joined over rows 1-2 of column 1, column 2 empty,
     // flows 0.25 0.50 0.75, diameters 3/4", velocities 1.00.
