@@ -604,7 +604,7 @@ void VistaGrid::ConfirmarYAvanzar(QWidget* editor, int paso) {
 
 void VistaGrid::Avanzar(int paso) {
     const QModelIndex actual = currentIndex();
-    if (!actual.isValid()) return;
+    if (!actual.isValid() || !avanzarConEnter_) return;
     // The table's own move steps over joined cells and hidden rows.
     const QModelIndex destino = moveCursor(paso > 0 ? MoveDown : MoveUp, Qt::NoModifier);
     if (destino.isValid() && destino != actual) setCurrentIndex(destino);

@@ -130,6 +130,10 @@ public:
     // model (a save, a page change, the closing).
     void TerminarEdicion();
 
+    // Enter commits and stays on the cell: for a grid whose rows are what
+    // the rest of the screen shows, where a move would change the subject.
+    void QuedarseConEnter() { avanzarConEnter_ = false; }
+
     // Blocks of cells may be selected (by dragging, with Shift and the
     // arrows, or a whole column by its header); each finished block of more
     // than one cell is reported with its rows and columns (from 1).
@@ -173,6 +177,7 @@ private:
     int AnchoFijado(int columna) const;
     ModeloGrid modelo_;
     bool bloques_ = false;
+    bool avanzarConEnter_ = true;
     QWidget* esquina_ = nullptr;
     int filas_ = -1, columnas_ = -1;
     std::vector<Union> uniones_;

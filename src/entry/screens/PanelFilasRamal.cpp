@@ -104,6 +104,8 @@ QWidget* PanelFilasRamal::CrearRamales() {
     spread1_ = new VistaGrid(this);
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread1_->MostrarGrid(logica_.spread1);
+    // The count typed, Enter stays on its branch, whose rows are filled next.
+    spread1_->QuedarseConEnter();
     spread1_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     spread1_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     AjustarRamales();
