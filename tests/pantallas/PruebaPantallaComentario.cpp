@@ -51,6 +51,30 @@ TEST_F(PantallaComentario, ElBotonDelAnalisisAbreElComentarioDeLaFilaActiva) {
     EXPECT_EQ(spread4->currentIndex().column(), 8);
 }
 
+// A comment typed and not fixed lasts through every way out, as leaving its
+// branch with the scroll bar keeps it.
+TEST_F(PantallaComentario, LoTecleadoNoSePierdeAlCerrar) {
+    VentanaAnalisisRed v(p, sp.s, d);
+    ASSERT_TRUE(v.Cargar());
+    v.show();
+    const std::function<void(VentanaComentarioRamal*)> salidas[] = {
+        [](VentanaComentarioRamal* c) { c->findChild<QPushButton*>(QStringLiteral("Retorno"))->click(); },
+        [](VentanaComentarioRamal* c) { Tecla(c, Qt::Key_Escape); },
+        [](VentanaComentarioRamal* c) { c->close(); },
+    };
+    int n = 0;
+    for (const auto& salir : salidas) {
+        const QString texto = QStringLiteral("Salida %1").arg(++n);
+        CuandoAbra<VentanaComentarioRamal>([&](VentanaComentarioRamal* c) {
+            Escribir(c->Text1(), texto);
+            salir(c);
+        });
+        v.Boton(QStringLiteral("LSButton9"))->click();
+        EXPECT_EQ(p.RamalComentario[1], texto);
+        EXPECT_EQ(ComoTexto(CampoDelArchivo(archivo, "Comentario", 1)), texto);
+    }
+}
+
 TEST_F(PantallaComentario, EscEnLasCotasPreguntaAntesDePerderLoTecleado) {
     VentanaCotasNodos v(p, sp.s, d);
     v.show();
