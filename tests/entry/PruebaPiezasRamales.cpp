@@ -49,7 +49,7 @@ TEST_F(PiezasPrueba, CuentaDePosiciones) {
     // Another branch's cell takes the branch there.
     ASSERT_TRUE(pr.EditarRamales(2, 3, QStringLiteral("2")));
     EXPECT_EQ(s.RamalActual, 2);
-    EXPECT_EQ(editor.idas.back(), std::make_pair(2, 3));
+    EXPECT_EQ(editor.llamadas.back(), QStringLiteral("IrARamal 2 3"));
     EXPECT_FALSE(pr.EditarRamales(2, 3, QStringLiteral("dos")));
     EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en el Número..."));
     EXPECT_EQ(p.NPiezas[2], 2);
@@ -202,7 +202,7 @@ TEST_F(PiezasPrueba, CambiarDeRamal) {
     pr.Baja();
     pr.Baja();  // stops at the last
     EXPECT_EQ(s.RamalActual, 3);
-    EXPECT_EQ(editor.idas.back(), std::make_pair(3, 3));
+    EXPECT_EQ(editor.llamadas.back(), QStringLiteral("IrARamal 3 3"));
     EXPECT_EQ(pr.Filas().NodoI() + pr.Filas().NodoJ() + pr.Filas().EtiquetaRamal(), QStringLiteral("N3N4Ramal 3"));
     pr.Sube();
     EXPECT_EQ(s.RamalActual, 2);

@@ -29,7 +29,7 @@ TEST_F(PantallaPiezasRamales, BotonYClaveTecleada) {
     ASSERT_EQ(p.NPiezas[1], 2);
     // Enter went down the branch grid, and the branch with it.
     EXPECT_EQ(s.RamalActual, 2);
-    EXPECT_EQ(editor.idas.back(), std::make_pair(2, 3));
+    EXPECT_EQ(editor.llamadas.back(), QStringLiteral("IrARamal 2 3"));
     panel->Spread1()->setCurrentIndex(panel->Spread1()->model()->index(0, 2));
     ASSERT_EQ(panel->Spread2()->model()->rowCount(), 2);
     qobject_cast<QToolButton*>(panel->BotonRapido(4))->click();
