@@ -129,6 +129,23 @@ TEST_F(PiezasPrueba, UnidadesTecleadasDuranHastaQueSeTecleaLaClave) {
     EXPECT_EQ(pr.Spread1.Texto(1, 3), QStringLiteral("1"));
 }
 
+// Units typed with each country's marks; what the cell shows reads back as
+// the same number.
+TEST_F(PiezasPrueba, UnidadesConLasMarcasDelPais) {
+    Reservar(1);
+    ASSERT_TRUE(pr.EditarFilas(1, 1, QStringLiteral("6")));
+    const std::tuple<const char*, const char*, double> casos[] = {
+        {"es_ES", "2,5", 2.5}, {"es_MX", "2.5", 2.5}, {"es_VE", "1.002,25", 1002.25}, {"es_AR", "0,75", 0.75},
+        {"es_CO", "3,5", 3.5}, {"C", "1,250.5", 1250.5}};
+    for (const auto& [locale, texto, valor] : casos) {
+        const MarcasPrueba marcas(locale);
+        ASSERT_TRUE(pr.EditarFilas(1, 4, QString::fromUtf8(texto))) << locale;
+        EXPECT_DOUBLE_EQ(p.PiezaUnidades(1, 1), valor) << locale;
+        ASSERT_TRUE(pr.EditarFilas(1, 4, pr.Spread2.Texto(1, 4))) << locale;
+        EXPECT_DOUBLE_EQ(p.PiezaUnidades(1, 1), valor) << locale;
+    }
+}
+
 TEST_F(PiezasPrueba, ClavesTecleadas) {
     Reservar(3);
     ASSERT_FALSE(pr.EditarFilas(1, 1, QStringLiteral("99")));
