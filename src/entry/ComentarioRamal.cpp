@@ -40,13 +40,19 @@ void ComentarioRamal::CambiarTexto(const QString& texto) {
 void ComentarioRamal::CambiarRamal(int ramal) {
     ramal = std::clamp(ramal, 1, MaximoScroll());
     if (ramal == ramal_) return;
-    // A change of case alone is no change of the comment.
-    if (UCase(Trim(texto_)) != UCase(Trim(p_.RamalComentario.Leer(ramal_)))) SalvarComentario();
+    SalvarSiCambio();
     ramal_ = ramal;
     s_.RamalActual = ramal;
     if (ramal <= analisis_.Spread4.Filas()) analisis_.Spread4.PonerActiva(ramal, ColumnaComentario);
     Mostrar();
 }
+
+void ComentarioRamal::SalvarSiCambio() {
+    // A change of case alone is no change of the comment.
+    if (UCase(Trim(texto_)) != UCase(Trim(p_.RamalComentario.Leer(ramal_)))) SalvarComentario();
+}
+
+void ComentarioRamal::Cerrar() { SalvarSiCambio(); }
 
 void ComentarioRamal::Enter() {
     if (cambiado_) SalvarComentario();

@@ -32,6 +32,8 @@ public:
     // The scroll bar moved: a changed comment of the branch left is saved
     // first, and the analysis grid's cursor follows to the new branch.
     void CambiarRamal(int ramal);
+    // Closing keeps a changed comment, as leaving the branch does.
+    void Cerrar();
     // Enter in the box: saves when it was changed.
     void Enter();
     // "Fijar" and "Quitar" ask first.
@@ -42,6 +44,7 @@ public:
 
 private:
     void Mostrar();
+    void SalvarSiCambio();
     ProyectoEdificio& p_;
     Sesion& s_;
     Dialogos& d_;

@@ -200,3 +200,49 @@ private:
     TablaImagenes tabla_;
     Registros imagenes_;
 };
+
+// The logic of either screen (PiezasRamales, ConexionesRamales) around its
+// FilasRamal: both grids and the events that are the same on both.
+class RamalesConFilas {
+public:
+    virtual ~RamalesConFilas() = default;
+    RamalesConFilas(const RamalesConFilas&) = delete;
+    RamalesConFilas& operator=(const RamalesConFilas&) = delete;
+
+    Grid Spread1;  // the branches
+    Grid Spread2;  // the rows of the branch shown
+
+    // The rows of a branch drawn from the model, and stored back.
+    virtual void ColoquePantalla(int ramal) = 0;
+    virtual void SalvarRamal() = 0;
+
+    // Column 3 of Spread1: the count of reserved rows (21 or more is 20).
+    bool EditarRamales(int fila, int columna, const QString& texto) {
+        return filas_.ReservarFilas(fila, columna, texto);
+    }
+    void CambiarRamal(int ramal) { filas_.CambiarRamal(ramal); }
+    void Baja() { filas_.Baja(); }
+    void Sube() { filas_.Sube(); }
+    void MoverPrimera() { filas_.MoverPrimera(); }
+    void MoverArriba() { filas_.MoverArriba(); }
+    void MoverAbajo() { filas_.MoverAbajo(); }
+    void MoverUltima() { filas_.MoverUltima(); }
+
+    // The shared part: caption, "Ramal n", the nodes, the photographs of
+    // keys and rows for the buttons and the floating preview.
+    FilasRamal& Filas() { return filas_; }
+
+protected:
+    // `cuenta` is NPiezas or NConexiones; `tabla` the image table.
+    RamalesConFilas(ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor, Arreglo<int>& cuenta,
+                    TablaImagenes tabla)
+        : p_(p), s_(s), d_(d), filas_(Spread1, Spread2, p, s, d, editor, cuenta, tabla) {
+        filas_.salvarRamal = [this] { SalvarRamal(); };
+        filas_.coloquePantalla = [this](int ramal) { ColoquePantalla(ramal); };
+    }
+
+    ProyectoEdificio& p_;
+    Sesion& s_;
+    Dialogos& d_;
+    FilasRamal filas_;
+};

@@ -18,10 +18,7 @@ QString NombreCatalogo(const Sesion& s) { return Trim(ComoTexto(s.RsPiezas.Campo
 }  // namespace
 
 PiezasRamales::PiezasRamales(ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor)
-    : p_(p), s_(s), d_(d), filas_(Spread1, Spread2, p, s, d, editor, p.NPiezas, TablaImagenes::Piezas) {
-    filas_.salvarRamal = [this] { SalvarRamal(); };
-    filas_.coloquePantalla = [this](int ramal) { ColoquePantalla(ramal); };
-}
+    : RamalesConFilas(p, s, d, editor, p.NPiezas, TablaImagenes::Piezas) {}
 
 const AspectoFilas& PiezasRamales::Aspecto() {
     static const AspectoFilas a = [] {

@@ -1,29 +1,17 @@
 #pragma once
 // The fixture and fitting screens over a blank project of three branches,
-// the installed catalogue and a branch editor that only records where its
-// cursor was sent.
+// the installed catalogue and the branch editor of the tests.
 
 #include "Apoyo.h"
-#include "entry/EditorRamales.h"
+#include "entry/RamalesDePrueba.h"
 #include "model/ProyectoEdificio.h"
-
-#include <utility>
-#include <vector>
-
-struct EditorFalso : EditorRamales {
-    std::vector<std::pair<int, int>> idas;
-    void IrARamal(int ramal, int columna) override { idas.push_back({ramal, columna}); }
-    QString TextoRamal(int, int) const override { return {}; }
-    void FijarLongitud(int, double) override {}
-    void ColoqueRamales() override {}
-};
 
 struct RamalesFilasPrueba : ::testing::Test {
     SesionPrueba sp;
     Sesion& s = sp.s;
     DialogosFalsos d;
-    EditorFalso editor;
     ProyectoEdificio p;
+    EditorDePrueba editor{p};
 
     void SetUp() override {
         const QString cat = sp.CopiaDeEjemplo(QStringLiteral("BDPiezasConexiones.nivo"), QStringLiteral("cat.mdb"));

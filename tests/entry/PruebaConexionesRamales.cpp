@@ -134,4 +134,5 @@ TEST(ConexionesAspecto, BotonesRapidosYTips) {
     EXPECT_EQ(a.rapidos[4].tip, QStringLiteral("Anexar longitud equivalente de \nuna conexión especial. "));
     EXPECT_EQ(a.eliminar.tip, QStringLiteral("Elimina la pieza de Coneción seleccionada. "));
     EXPECT_EQ(a.baja.tip, QStringLiteral("Ir la siguiente ramal. "));
+    EXPECT_EQ(a.titulo, QStringLiteral("Conexiones en los Ramales del Proyecto"));
 }

@@ -88,6 +88,11 @@ TEST_F(Cotas, BloqueDeLaColumna2PreguntaYRepiteHastaUnNumero) {
     MensajeEs(d.mensajes[0], QStringLiteral("Debe entrar un Número..."), QStringLiteral("Error en Cotas de Piso..."));
     for (int f = 2; f <= 4; ++f) EXPECT_DOUBLE_EQ(c.Spread1.Valor(f, 2), 3.5) << f;
     EXPECT_DOUBLE_EQ(c.Spread1.Valor(5, 2), 7.5);
+    // The box reads the country's marks.
+    const MarcasPrueba marcas("es_AR");
+    d.textos = {QStringLiteral("1.250,75")};
+    EXPECT_TRUE(c.LlenarBloque(2, 2, 2, 2));
+    EXPECT_DOUBLE_EQ(c.Spread1.Valor(2, 2), 1250.75);
 }
 
 TEST_F(Cotas, BloqueQueNoCambiaNada) {

@@ -49,7 +49,7 @@ TEST_F(PiezasPrueba, CuentaDePosiciones) {
     // Another branch's cell takes the branch there.
     ASSERT_TRUE(pr.EditarRamales(2, 3, QStringLiteral("2")));
     EXPECT_EQ(s.RamalActual, 2);
-    EXPECT_EQ(editor.idas.back(), std::make_pair(2, 3));
+    EXPECT_EQ(editor.llamadas.back(), QStringLiteral("IrARamal 2 3"));
     EXPECT_FALSE(pr.EditarRamales(2, 3, QStringLiteral("dos")));
     EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en el Número..."));
     EXPECT_EQ(p.NPiezas[2], 2);
@@ -129,6 +129,23 @@ TEST_F(PiezasPrueba, UnidadesTecleadasDuranHastaQueSeTecleaLaClave) {
     EXPECT_EQ(pr.Spread1.Texto(1, 3), QStringLiteral("1"));
 }
 
+// Units typed with each country's marks; what the cell shows reads back as
+// the same number.
+TEST_F(PiezasPrueba, UnidadesConLasMarcasDelPais) {
+    Reservar(1);
+    ASSERT_TRUE(pr.EditarFilas(1, 1, QStringLiteral("6")));
+    const std::tuple<const char*, const char*, double> casos[] = {
+        {"es_ES", "2,5", 2.5}, {"es_MX", "2.5", 2.5}, {"es_VE", "1.002,25", 1002.25}, {"es_AR", "0,75", 0.75},
+        {"es_CO", "3,5", 3.5}, {"C", "1,250.5", 1250.5}};
+    for (const auto& [locale, texto, valor] : casos) {
+        const MarcasPrueba marcas(locale);
+        ASSERT_TRUE(pr.EditarFilas(1, 4, QString::fromUtf8(texto))) << locale;
+        EXPECT_DOUBLE_EQ(p.PiezaUnidades(1, 1), valor) << locale;
+        ASSERT_TRUE(pr.EditarFilas(1, 4, pr.Spread2.Texto(1, 4))) << locale;
+        EXPECT_DOUBLE_EQ(p.PiezaUnidades(1, 1), valor) << locale;
+    }
+}
+
 TEST_F(PiezasPrueba, ClavesTecleadas) {
     Reservar(3);
     ASSERT_FALSE(pr.EditarFilas(1, 1, QStringLiteral("99")));
@@ -202,7 +219,7 @@ TEST_F(PiezasPrueba, CambiarDeRamal) {
     pr.Baja();
     pr.Baja();  // stops at the last
     EXPECT_EQ(s.RamalActual, 3);
-    EXPECT_EQ(editor.idas.back(), std::make_pair(3, 3));
+    EXPECT_EQ(editor.llamadas.back(), QStringLiteral("IrARamal 3 3"));
     EXPECT_EQ(pr.Filas().NodoI() + pr.Filas().NodoJ() + pr.Filas().EtiquetaRamal(), QStringLiteral("N3N4Ramal 3"));
     pr.Sube();
     EXPECT_EQ(s.RamalActual, 2);

@@ -5,7 +5,10 @@
 #include "ApoyoPantallas.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
 #include "entry/screens/VentanaComentarioRamal.h"
+#include "entry/RamalesDePrueba.h"
+#include "entry/screens/VentanaCambiarOpcionDiseno.h"
 #include "entry/screens/VentanaCotasNodos.h"
+#include "entry/screens/VentanaLongitudTramosR.h"
 #include "widgets/VistaGrid.h"
 
 #include <QScrollBar>
@@ -21,6 +24,19 @@ struct PantallaComentario : ::testing::Test {
 };
 
 }  // namespace
+
+TEST_F(PantallaComentario, CadaPantallaLlevaSuTitulo) {
+    VentanaAnalisisRed a(p, sp.s, d);
+    ASSERT_TRUE(a.Cargar());
+    EditorDePrueba editor(p);
+    const std::pair<std::unique_ptr<QDialog>, const char*> casos[] = {
+        {std::make_unique<VentanaCotasNodos>(p, sp.s, d), "Cotas de Piso de los Nodos"},
+        {std::make_unique<VentanaCambiarOpcionDiseno>(p, sp.s, d, editor, nullptr), "Opción de Diseño en los Ramales"},
+        {std::make_unique<VentanaLongitudTramosR>(p, sp.s, d, editor, nullptr), "Calcular la Longitud de los Ramales"},
+        {std::make_unique<VentanaComentarioRamal>(p, sp.s, d, a.Logica(), nullptr), "Comentario del Ramal"},
+    };
+    for (const auto& [ventana, titulo] : casos) EXPECT_EQ(ventana->windowTitle(), QString::fromUtf8(titulo));
+}
 
 TEST_F(PantallaComentario, ElBotonDelAnalisisAbreElComentarioDeLaFilaActiva) {
     VentanaAnalisisRed v(p, sp.s, d);
@@ -49,6 +65,30 @@ TEST_F(PantallaComentario, ElBotonDelAnalisisAbreElComentarioDeLaFilaActiva) {
     // The scroll bar took the analysis cursor to the comment of branch 3.
     EXPECT_EQ(spread4->currentIndex().row(), 2);
     EXPECT_EQ(spread4->currentIndex().column(), 8);
+}
+
+// A comment typed and not fixed lasts through every way out, as leaving its
+// branch with the scroll bar keeps it.
+TEST_F(PantallaComentario, LoTecleadoNoSePierdeAlCerrar) {
+    VentanaAnalisisRed v(p, sp.s, d);
+    ASSERT_TRUE(v.Cargar());
+    v.show();
+    const std::function<void(VentanaComentarioRamal*)> salidas[] = {
+        [](VentanaComentarioRamal* c) { c->findChild<QPushButton*>(QStringLiteral("Retorno"))->click(); },
+        [](VentanaComentarioRamal* c) { Tecla(c, Qt::Key_Escape); },
+        [](VentanaComentarioRamal* c) { c->close(); },
+    };
+    int n = 0;
+    for (const auto& salir : salidas) {
+        const QString texto = QStringLiteral("Salida %1").arg(++n);
+        CuandoAbra<VentanaComentarioRamal>([&](VentanaComentarioRamal* c) {
+            Escribir(c->Text1(), texto);
+            salir(c);
+        });
+        v.Boton(QStringLiteral("LSButton9"))->click();
+        EXPECT_EQ(p.RamalComentario[1], texto);
+        EXPECT_EQ(ComoTexto(CampoDelArchivo(archivo, "Comentario", 1)), texto);
+    }
 }
 
 TEST_F(PantallaComentario, EscEnLasCotasPreguntaAntesDePerderLoTecleado) {

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QPushButton>
 
 namespace {
@@ -32,8 +33,10 @@ TEST_F(EditorEscritorio, NuevoAbreElEditorSeTecleaYSeSalvaAlCerrar) {
     ASSERT_TRUE(v->Accion(QStringLiteral("ID_M1_Modificar"))->isEnabled());
     MensajeVisto desborde, cerrar;
     QString titulo;
+    QStringList grupos;
     CuandoAbra<VentanaDatosRamales>([&](VentanaDatosRamales* w) {
         titulo = w->windowTitle();
+        for (const QGroupBox* g : w->findChildren<QGroupBox*>()) grupos << g->title();
         w->Boton(QStringLiteral("Siguiente"))->click();
         // A count the counters cannot hold: the overflow, the screen kept.
         Contestar(desborde, 0);
@@ -49,6 +52,8 @@ TEST_F(EditorEscritorio, NuevoAbreElEditorSeTecleaYSeSalvaAlCerrar) {
     });
     v->EjecutarHerramienta(QStringLiteral("ID_M1_Nuevo"));
     EXPECT_EQ(titulo, QStringLiteral("NIVO-FONTARIA 2024    PROYECTO: [ CASA.PLM ]"));
+    EXPECT_TRUE(grupos.contains(QStringLiteral("Datos Generales del Proyecto")));
+    EXPECT_TRUE(grupos.contains(QStringLiteral("Datos de los Ramales")));
     MensajeEs(desborde, QStringLiteral("Error 6: Desbordamiento"), QStringLiteral("Error en el Cálculo..."));
     MensajeEs(cerrar,
               QStringLiteral("Los Datos del Proyecto han sido Modificados...\n¿Desea Salvar los Cambios Realizados?"),

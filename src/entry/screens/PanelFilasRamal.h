@@ -8,7 +8,9 @@
 // behind to redraw.
 
 #include "entry/FilasRamal.h"
+#include "widgets/Ventanas.h"
 
+#include <QDialog>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
@@ -50,10 +52,6 @@ LogicaFilas LogicaDe(T& l) {
     return r;
 }
 
-class QDialog;
-// A screen's window around its panel: caption, first size, Esc as
-// "Retorno" (the dialog's reject), the panel's "Retorno" closing it.
-void MontarVentanaFilas(QDialog* ventana, PanelFilasRamal* panel, const QString& caption);
 
 class PanelFilasRamal : public QWidget {
     Q_OBJECT
@@ -107,4 +105,42 @@ private:
     int filaPrevia_ = 0;
     QPoint puntoPrevia_;
     bool mostrando_ = false;
+};
+
+// A screen's window around its panel: caption, first size, Esc as
+// "Retorno" (the dialog's reject), the panel's "Retorno" closing it.
+void MontarVentanaFilas(QDialog* ventana, PanelFilasRamal* panel, const QString& caption);
+
+// The window of either screen (T is PiezasRamales or ConexionesRamales): the
+// panel over its logic.  Closing it (Retorno, Esc, the close box) takes the
+// open cell's edit, closes the record sets and clears the "a branch screen
+// is open" flag; the caller then has the branch editor rewrite its counts.
+template <class T>
+class VentanaFilasRamal : public QDialog {
+public:
+    VentanaFilasRamal(const QString& nombre, ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor,
+                      std::function<void()> refrescarEditor, QWidget* padre)
+        : QDialog(padre), logica_(p, s, d, editor) {
+        setObjectName(nombre);
+        SinFallaDeCalculo(d, [this] { logica_.Cargar(); });
+        panel_ = new PanelFilasRamal(T::Aspecto(), LogicaDe(logica_), s, d, std::move(refrescarEditor), this);
+        MontarVentanaFilas(this, panel_, logica_.Filas().Caption());
+    }
+
+    T& Logica() { return logica_; }
+    PanelFilasRamal* Panel() const { return panel_; }
+
+    void done(int r) override {
+        panel_->TerminarEdicion();
+        // Errors while closing are ignored: every edit is already in the model.
+        try {
+            logica_.Cerrar();
+        } catch (...) {
+        }
+        QDialog::done(r);
+    }
+
+private:
+    T logica_;
+    PanelFilasRamal* panel_ = nullptr;
 };

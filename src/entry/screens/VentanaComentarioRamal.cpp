@@ -66,6 +66,11 @@ VentanaComentarioRamal::VentanaComentarioRamal(ProyectoEdificio& p, Sesion& s, D
     ConfigurarToolTips(this, tip_, s.Tapiz);
 }
 
+void VentanaComentarioRamal::reject() {
+    Accion([this] { logica_.Cerrar(); });
+    QDialog::reject();
+}
+
 void VentanaComentarioRamal::Accion(const std::function<void()>& f) {
     SinFallaDeCalculo(d_, f);
     Mostrar();

@@ -24,6 +24,8 @@ public:
     QLineEdit* Text1() const { return texto_; }
     QScrollBar* VScroll1() const { return vscroll1_; }
     QLabel* Panel() const { return panel_; }
+    // "Retorno", Esc and the close box keep what was typed.
+    void reject() override;
 
 private:
     void Accion(const std::function<void()>& f);
