@@ -21,7 +21,10 @@ QString NombreCatalogo(const Sesion& s) {
 }  // namespace
 
 ConexionesRamales::ConexionesRamales(ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor)
-    : RamalesConFilas(p, s, d, editor, p.NConexiones, TablaImagenes::Conexiones) {}
+    : p_(p), s_(s), d_(d), filas_(Spread1, Spread2, p, s, d, editor, p.NConexiones, TablaImagenes::Conexiones) {
+    filas_.salvarRamal = [this] { SalvarRamal(); };
+    filas_.coloquePantalla = [this](int ramal) { ColoquePantalla(ramal); };
+}
 
 const AspectoFilas& ConexionesRamales::Aspecto() {
     static const AspectoFilas a = [] {

@@ -18,7 +18,10 @@ QString NombreCatalogo(const Sesion& s) { return Trim(ComoTexto(s.RsPiezas.Campo
 }  // namespace
 
 PiezasRamales::PiezasRamales(ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor)
-    : RamalesConFilas(p, s, d, editor, p.NPiezas, TablaImagenes::Piezas) {}
+    : p_(p), s_(s), d_(d), filas_(Spread1, Spread2, p, s, d, editor, p.NPiezas, TablaImagenes::Piezas) {
+    filas_.salvarRamal = [this] { SalvarRamal(); };
+    filas_.coloquePantalla = [this](int ramal) { ColoquePantalla(ramal); };
+}
 
 const AspectoFilas& PiezasRamales::Aspecto() {
     static const AspectoFilas a = [] {

@@ -27,17 +27,24 @@ struct PiezaCapturada {
     QImage foto;
 };
 
-class PiezasRamales : public RamalesConFilas {
+class PiezasRamales {
 public:
     PiezasRamales(ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor);
 
     static const AspectoFilas& Aspecto();
 
+    Grid Spread1;
+    Grid Spread2;
+
     // On RamalActual: caption, image mirror, grids, catalogue, rows.
     void Cargar();
-    void ColoquePantalla(int ramal) override;
-    void SalvarRamal() override;
+    void ColoquePantalla(int ramal);
+    void SalvarRamal();
 
+    // Column 3 of Spread1: the count of reserved rows (21 or more is 20).
+    bool EditarRamales(int fila, int columna, const QString& texto) {
+        return filas_.ReservarFilas(fila, columna, texto);
+    }
     // A typed key (column 1), units (4), quantity (5) or name (3).
     bool EditarFilas(int fila, int columna, const QString& texto);
     // A quick button: its key into the active row.
@@ -45,10 +52,22 @@ public:
     // The catalogue screen's capture onto the active row (quantity 3).
     // False when nothing was written.
     bool Capturar(const PiezaCapturada& pieza);
+
+    void CambiarRamal(int ramal) { filas_.CambiarRamal(ramal); }
+    void Baja() { filas_.Baja(); }
+    void Sube() { filas_.Sube(); }
+    void MoverPrimera() { filas_.MoverPrimera(); }
+    void MoverArriba() { filas_.MoverArriba(); }
+    void MoverAbajo() { filas_.MoverAbajo(); }
+    void MoverUltima() { filas_.MoverUltima(); }
     void Eliminar();
     void EliminarTodas();
     void ActualizarImagenes();
     void Cerrar();
+
+    // The shared part: caption, "Ramal n", the nodes, the photographs of
+    // keys and rows for the buttons and the floating preview.
+    FilasRamal& Filas() { return filas_; }
 
 private:
     bool TeclearClave(int fila, const QString& texto);
@@ -56,4 +75,9 @@ private:
     void PonerDelCatalogo(int fila, const QString& nombre, int cantidad);
     void PonerUnidades(int fila, double unidades);
     void ClaveNoExiste(int clave);
+
+    ProyectoEdificio& p_;
+    Sesion& s_;
+    Dialogos& d_;
+    FilasRamal filas_;
 };
