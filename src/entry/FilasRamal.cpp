@@ -135,7 +135,7 @@ void FilasRamal::ConfigurarFilas(const QStringList& encabezado) {
         TipoCelda tipo;
         int ancho;
         bool editable;
-    } columnas[] = {{FClave, TipoCelda::Texto, 6, true},   {FImagen, TipoCelda::Imagen, 12, false},
+    } columnas[] = {{FClave, TipoCelda::Entero, 6, true},   {FImagen, TipoCelda::Imagen, 12, false},
                     {FDescripcion, TipoCelda::Texto, 34, true}, {FValor, TipoCelda::Numero, 12, true},
                     {FCantidad, TipoCelda::Entero, 8, true}};
     for (const auto& c : columnas) {
@@ -145,7 +145,10 @@ void FilasRamal::ConfigurarFilas(const QStringList& encabezado) {
         col.bloqueada = !c.editable;
         col.minimo = 0;
     }
+    // A key is a whole number: the cell takes no letters, so a slip of the
+    // keyboard never reads as key 0 and empties the row.
     spread2_.Col(FClave).largo = 6;
+    spread2_.Col(FClave).maximo = 32767;
     spread2_.Col(FCantidad).maximo = 32767;
     spread2_.PonerEncabezados(FClave, QStringLiteral("Clave"));
     spread2_.PonerEncabezados(FImagen, QStringLiteral("Imagen"));

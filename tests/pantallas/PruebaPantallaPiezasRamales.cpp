@@ -41,6 +41,8 @@ TEST_F(PantallaPiezasRamales, BotonYClaveTecleada) {
               QStringLiteral("Base de Datos de Piezas..."));
     TeclearEnVista(panel->Spread2(), QStringLiteral("10\n"));
     EXPECT_EQ(p.PiezaClave(1, 2), 10);
+    TeclearEnVista(panel->Spread2(), QStringLiteral("x\n"));  // a letter never reaches the key
+    EXPECT_EQ(p.PiezaClave(1, 2), 10);
     EXPECT_GT(refrescos, 0);
     v.reject();
     EXPECT_FALSE(s.CatalogoDesdeProyecto);
