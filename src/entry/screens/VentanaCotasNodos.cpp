@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 VentanaCotasNodos::VentanaCotasNodos(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre)
     : QDialog(padre), d_(d), logica_(p, s, d) {
@@ -60,7 +61,9 @@ VentanaCotasNodos::VentanaCotasNodos(ProyectoEdificio& p, Sesion& s, Dialogos& d
     });
     connect(cancelar, &QPushButton::clicked, this, &VentanaCotasNodos::reject);
     ConfigurarToolTips(this, tip_, s.Tapiz);
-    resize(sizeHint().width(), fontMetrics().height() * 30);
+    // Wide enough for its title as well as for its two columns.
+    resize(std::max(sizeHint().width(), fontMetrics().horizontalAdvance(windowTitle()) + 120),
+           fontMetrics().height() * 30);
 }
 
 VentanaCotasNodos::~VentanaCotasNodos() { spread1_->MostrarGrid(nullptr); }
