@@ -51,20 +51,14 @@ public:
     // False when nothing was written.
     bool Capturar(const ConexionCapturada& conexion);
 
-    void CambiarRamal(int ramal) { filas_.CambiarRamal(ramal); }
-    void Baja() { filas_.Baja(); }
-    void Sube() { filas_.Sube(); }
-    void MoverPrimera() { filas_.MoverPrimera(); }
-    void MoverArriba() { filas_.MoverArriba(); }
-    void MoverAbajo() { filas_.MoverAbajo(); }
-    void MoverUltima() { filas_.MoverUltima(); }
     void Eliminar();
     void EliminarTodas();
     void ActualizarImagenes();
     void Cerrar();
 
     // The shared part: caption, "Ramal n", the nodes, the photographs of
-    // keys and rows for the buttons and the floating preview.
+    // keys and rows for the buttons and the floating preview, and the events
+    // that are the same on both screens (the branch walk, the four moves).
     FilasRamal& Filas() { return filas_; }
 
 private:

@@ -71,7 +71,7 @@ TEST_F(ConexionesPrueba, FilasAntiguasMenoresDeDoceSalenAutomaticas) {
     p.ConexionClave(2, 2) = 13;
     p.ConexionLongitud(2, 2) = 5;
     p.ConexionCantidad(2, 2) = 1;
-    cr.CambiarRamal(2);
+    cr.Filas().CambiarRamal(2);
     EXPECT_TRUE(Automatica(1));
     EXPECT_EQ(cr.Spread2.Texto(2, 4), QStringLiteral("5.00"));
     cr.SalvarRamal();

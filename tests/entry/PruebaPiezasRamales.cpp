@@ -111,8 +111,8 @@ TEST_F(PiezasPrueba, UnidadesTecleadasDuranHastaQueSeTecleaLaClave) {
     ASSERT_TRUE(pr.EditarFilas(1, 4, QStringLiteral("7.5")));
     ASSERT_TRUE(pr.EditarFilas(1, 5, QStringLiteral("4")));
     p.OpcionUsoPiezas = 2;
-    pr.CambiarRamal(2);
-    pr.CambiarRamal(1);
+    pr.Filas().CambiarRamal(2);
+    pr.Filas().CambiarRamal(1);
     EXPECT_EQ(pr.Spread2.Texto(1, 4), QStringLiteral("7.50"));
     EXPECT_EQ(p.PiezaCantidad(1, 1), 4);
     ASSERT_TRUE(pr.EditarFilas(1, 1, QStringLiteral("6")));
@@ -180,14 +180,14 @@ TEST_F(PiezasPrueba, MoverEliminarYActualizar) {
     for (int k : {1, 2, 3}) pr.BotonRapido(k);
     auto claves = [&] { return QString::number(p.PiezaClave(1, 1)) + QString::number(p.PiezaClave(1, 2)) + QString::number(p.PiezaClave(1, 3)); };
     pr.Spread2.PonerActiva(1, 1);
-    pr.MoverUltima();
+    pr.Filas().MoverUltima();
     EXPECT_EQ(claves(), QStringLiteral("231"));
     EXPECT_EQ(pr.Spread2.FilaActiva(), 3);
-    pr.MoverArriba();
+    pr.Filas().MoverArriba();
     EXPECT_EQ(claves(), QStringLiteral("213"));
-    pr.MoverPrimera();
+    pr.Filas().MoverPrimera();
     EXPECT_EQ(claves(), QStringLiteral("123"));
-    pr.MoverAbajo();
+    pr.Filas().MoverAbajo();
     EXPECT_EQ(claves(), QStringLiteral("213"));
     EXPECT_TRUE(pr.Spread2.TieneImagen(2, 2));  // the picture travels with its row
 
@@ -215,13 +215,13 @@ TEST_F(PiezasPrueba, MoverEliminarYActualizar) {
 }
 
 TEST_F(PiezasPrueba, CambiarDeRamal) {
-    pr.Baja();
-    pr.Baja();
-    pr.Baja();  // stops at the last
+    pr.Filas().Baja();
+    pr.Filas().Baja();
+    pr.Filas().Baja();  // stops at the last
     EXPECT_EQ(s.RamalActual, 3);
     EXPECT_EQ(editor.llamadas.back(), QStringLiteral("IrARamal 3 3"));
     EXPECT_EQ(pr.Filas().NodoI() + pr.Filas().NodoJ() + pr.Filas().EtiquetaRamal(), QStringLiteral("N3N4Ramal 3"));
-    pr.Sube();
+    pr.Filas().Sube();
     EXPECT_EQ(s.RamalActual, 2);
     EXPECT_EQ(pr.Spread1.FilaActiva(), 2);
 }
