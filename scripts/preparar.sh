@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 PAQUETES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libsqlite3-dev
-          libgtest-dev googletest libbenchmark-dev fonts-dejavu-core
+          libgtest-dev googletest libbenchmark-dev libeigen3-dev fonts-dejavu-core
           qt6-translations-l10n)
 
 faltan=()

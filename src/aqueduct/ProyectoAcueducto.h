@@ -12,6 +12,7 @@
 #include <QDate>
 #include <QString>
 #include <cstdint>
+#include <algorithm>
 #include <vector>
 
 struct Sesion;
@@ -94,6 +95,17 @@ struct ProyectoAcueducto {
     int AnchoBandaSolucion = 0;     // band of the numbering the equations were solved in
     bool NumeracionInterna = false;  // the last solve used the internal numbering
     std::vector<int> Iteraciones;   // iterations of each pass of the last run
+    // The mean flow imbalance (m³/s) each pass of the last run ended with,
+    // and whether it reached the tolerance: a pass that used up the
+    // iteration limit is reported, its results still shown.
+    std::vector<double> Desbalance;
+    std::vector<bool> Convergio;
+    bool SinConvergencia() const {
+        return std::find(Convergio.begin(), Convergio.end(), false) != Convergio.end();
+    }
+    // The iteration limit of a pass; lowered only by tests and by the
+    // command line's --limite-iteraciones, to show a pass that does not end.
+    int LimiteIteraciones = 100;
     QString DetalleError;           // the fault behind ErrorAnalisis, for the console
 
     // Sizes the six section arrays for `tramos` sections, cleared.
