@@ -10,13 +10,41 @@
 #include "entry/BuscarPartida.h"
 #include "shell/Sesion.h"
 
+#include <algorithm>
+#include <cmath>
+
 
 namespace {
 
 enum ColRamal { RNo, RI, RJ, RLongitud, RLongitudCalculo, RDiametro, RC, RCaudal, RVelocidad, RPerdidas, RHF };
 enum ColNodo { NNo, NNodo, NTerreno, NReal, NCalculo, NPiezometrica, NPresion, NConectados, NDescripcion };
 
+// Three significant figures, however small the imbalance: a fixed number of
+// decimals would show most of them as 0.
+QString TresCifras(double v) {
+    const double a = std::fabs(v);
+    const int decimales = a > 0 ? std::clamp(2 - int(std::floor(std::log10(a))), 0, 15) : 0;
+    return Formato(v, decimales > 0 ? QStringLiteral("#,##0.") + QString(decimales, QLatin1Char('0'))
+                                    : QStringLiteral("#,##0"));
+}
+
 }  // namespace
+
+QStringList LineasSinConvergencia(const ProyectoAcueducto& p) {
+    QStringList lineas;
+    const size_t pasos = p.Convergio.size();
+    for (size_t i = 0; i < pasos; ++i) {
+        if (p.Convergio[i]) continue;
+        const QString paso = pasos < 2 ? QString()
+                             : i == 0  ? QStringLiteral(" sin el caudal de incendio")
+                                       : QStringLiteral(" con el caudal de incendio");
+        const int iteraciones = i < p.Iteraciones.size() ? p.Iteraciones[i] : 0;
+        const double desbalance = i < p.Desbalance.size() ? p.Desbalance[i] : 0.0;
+        lineas << QStringLiteral("El cálculo%1 no convergió: %2 iteraciones, desbalance medio %3 m³/s")
+                      .arg(paso, Formato(iteraciones, QStringLiteral("#,##0")), TresCifras(desbalance));
+    }
+    return lineas;
+}
 
 QString MensajeSinTanque(const QString& nombreProyecto) {
     return QStringLiteral("Proyecto: ") + nombreProyecto +
@@ -134,6 +162,7 @@ void AnalisisACU::Cargar() {
 void AnalisisACU::Vaciar() {
     Spread1.PonerFilas(0);
     Spread2.PonerFilas(0);
+    AvisoConvergencia.clear();
 }
 
 bool AnalisisACU::MostrarFalla() {
@@ -206,6 +235,7 @@ void AnalisisACU::LlenarNodos() {
 void AnalisisACU::ColoquePantalla() {
     LlenarRamales();
     LlenarNodos();
+    AvisoConvergencia = LineasSinConvergencia(p_).join(QLatin1Char('\n'));
 }
 
 void AnalisisACU::CambiarCaso(int fila) {

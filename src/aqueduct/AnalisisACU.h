@@ -39,6 +39,9 @@ public:
     int Pestana = 0;      // 0 sections, 1 nodes
     QString LRamal;       // "Ramal " and the section number
     QString LNodo;        // the node name
+    // The status line: a pass of the case shown that reached the iteration
+    // limit, in red; empty when every pass converged.
+    QString AvisoConvergencia;
     bool cerrar = false;  // the screen must close now
 
     // "Redes de Acueductos   Proyecto: [ NAME ]".
@@ -56,7 +59,7 @@ public:
     // solve, the grids emptied and `cerrar` set.  True when the screen closes.
     bool PrimeraActivacion();
 
-    // Fills both grids from the last solve.
+    // Fills both grids and the status line from the last solve.
     void ColoquePantalla();
 
     // A new row of Combo1: CasoDemanda, a new solve from ErrorAnalisis
@@ -102,6 +105,11 @@ private:
     bool tanque_ = false;
     bool primeraActivacion_ = true;
 };
+
+// One line per pass of the last solve that reached the iteration limit:
+// which pass when the case has two, its iterations and its remaining mean
+// imbalance in m³/s, with the session's marks.
+QStringList LineasSinConvergencia(const ProyectoAcueducto& p);
 
 // "Proyecto: NAME" and the line of the missing tank.
 QString MensajeSinTanque(const QString& nombreProyecto);

@@ -187,3 +187,40 @@ TEST(AnalisisACU, LosRamalesSalvadosSinEstanqueCierranLaPantalla) {
     EXPECT_TRUE(t.a.cerrar);
     EXPECT_EQ(t.d.Ultimo().encabezado, "Error en Datos del Proyecto...");
 }
+
+// A pass that reached the iteration limit, as the solver leaves it, shows a
+// line per pass that did not end; the grids stay filled.  Three significant
+// figures of the imbalance and the iterations with the locale's marks.
+TEST(AnalisisACU, AvisoDeUnPasoSinConvergencia) {
+    struct Caso {
+        const char* locale;
+        std::vector<bool> convergio;
+        std::vector<int> iteraciones;
+        std::vector<double> desbalance;
+        QString aviso;
+    };
+    const Caso casos[] = {
+        {"es_ES", {false}, {100}, {1.23e-5},
+         "El cálculo no convergió: 100 iteraciones, desbalance medio 0,0000123 m³/s"},
+        {"C", {false}, {100}, {1.23e-5}, "El cálculo no convergió: 100 iteraciones, desbalance medio 0.0000123 m³/s"},
+        // The fire case: which of its two passes, 1000 grouped, 0.04564 to three figures.
+        {"es_AR", {true, false}, {12, 1000}, {1e-9, 0.04564},
+         "El cálculo con el caudal de incendio no convergió: 1.000 iteraciones, desbalance medio 0,0456 m³/s"},
+        {"es_MX", {false, false}, {5, 5}, {2.5, 1234.5},
+         "El cálculo sin el caudal de incendio no convergió: 5 iteraciones, desbalance medio 2.50 m³/s\n"
+         "El cálculo con el caudal de incendio no convergió: 5 iteraciones, desbalance medio 1,235 m³/s"},
+        {"es_CO", {true, true}, {3, 4}, {1e-9, 1e-9}, ""},
+    };
+    Pantalla t;
+    EXPECT_EQ(t.a.AvisoConvergencia, "");
+    for (const Caso& c : casos) {
+        const MarcasPrueba marcas(c.locale);
+        t.p.Convergio = c.convergio;
+        t.p.Iteraciones = c.iteraciones;
+        t.p.Desbalance = c.desbalance;
+        t.a.ColoquePantalla();
+        EXPECT_EQ(t.a.AvisoConvergencia, c.aviso) << c.locale;
+        EXPECT_EQ(t.a.Spread1.Filas(), 4);
+    }
+    EXPECT_TRUE(t.d.mensajes.empty());
+}

@@ -12,6 +12,7 @@
 #include "widgets/NivoNumero.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
 
@@ -239,4 +240,24 @@ TEST_F(AnalisisPantalla, AbrirOtroProyectoLoResuelveEnLaMismaPantalla) {
     // A cancelled dialog changes nothing.
     Boton("LSButton5")->click();
     EXPECT_EQ(v->Vista1()->model()->rowCount(), 17);
+}
+
+// A pass at the iteration limit: the red line under the grids, which stay.
+TEST_F(AnalisisPantalla, UnPasoSinConvergenciaSeAvisaEnRojo) {
+    Abrir("EjemploRedA", falsos);
+    QLabel* aviso = v->Aviso();
+    EXPECT_FALSE(aviso->isVisible());
+    p.Convergio = {false};
+    p.Iteraciones = {100};
+    p.Desbalance = {0.5};
+    v->Logica().ColoquePantalla();
+    v->Refrescar();
+    EXPECT_TRUE(aviso->isVisible());
+    EXPECT_EQ(aviso->text(), "El cálculo no convergió: 100 iteraciones, desbalance medio 0.500 m³/s");
+    EXPECT_EQ(aviso->palette().color(QPalette::WindowText), QColor(Qt::red));
+    EXPECT_GT(v->Vista1()->model()->rowCount(), 0);
+    p.Convergio = {true};
+    v->Logica().ColoquePantalla();
+    v->Refrescar();
+    EXPECT_FALSE(aviso->isVisible());
 }

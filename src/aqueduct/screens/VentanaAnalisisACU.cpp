@@ -55,6 +55,15 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
     tab1_->addTab(spread2_, QStringLiteral("Resultados del Análisis de los Nodos"));
     capa->addWidget(tab1_, 1);
 
+    // A pass that did not converge: its results stay, the line says so in red.
+    aviso_ = new QLabel(this);
+    aviso_->setObjectName(QStringLiteral("AvisoConvergencia"));
+    QPalette rojo = aviso_->palette();
+    rojo.setColor(QPalette::WindowText, Qt::red);
+    aviso_->setPalette(rojo);
+    aviso_->setVisible(false);
+    capa->addWidget(aviso_);
+
     auto* pie = new QHBoxLayout;
     auto boton = [&](const char* nombre, const char* texto, const std::function<void()>& accion) {
         auto* b = BotonACU(QString::fromLatin1(nombre), QString::fromUtf8(texto), this);
@@ -137,6 +146,8 @@ void VentanaAnalisisACU::Refrescar() {
     lramal_->setEnabled(logica_.Pestana == 0);
     lnodo_->setText(logica_.LNodo);
     lnodo_->setEnabled(logica_.Pestana == 1);
+    aviso_->setText(logica_.AvisoConvergencia);
+    aviso_->setVisible(!logica_.AvisoConvergencia.isEmpty());
     for (VistaGrid* v : {spread1_, spread2_}) {
         v->Refrescar();
         v->MostrarActiva();

@@ -1,7 +1,8 @@
 #pragma once
 // The aqueduct results screen, "Análisis de la Malla de Acueductos": the
 // case list, the search button LRamal and the caption LNodo above two tabs
-// with the section and node grids, and the buttons below.  It solves the
+// with the section and node grids, a red status line when a pass did not
+// converge, and the buttons below.  It solves the
 // network as it opens; on its first activation a missing tank or a failed
 // solve is reported and the screen closes.
 
@@ -31,6 +32,7 @@ public:
     QTabWidget* Tabs() const { return tab1_; }
     QPushButton* LRamal() const { return lramal_; }
     QLabel* LNodo() const { return lnodo_; }
+    QLabel* Aviso() const { return aviso_; }
     QPushButton* Boton(const QString& nombre) const;
     NivoToolTip* Tip() const { return tip_; }
 
@@ -60,6 +62,7 @@ private:
     QComboBox* combo1_;
     QPushButton* lramal_;
     QLabel* lnodo_;
+    QLabel* aviso_;
     QTabWidget* tab1_;
     VistaGrid* spread1_;
     VistaGrid* spread2_;
