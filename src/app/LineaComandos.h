@@ -15,6 +15,7 @@ constexpr int Bien = 0;
 constexpr int Falla = 1;         // bad arguments, unreadable or foreign file
 constexpr int DatosInvalidos = 2;  // the project's data are refused (numbering, no tank)
 constexpr int ErrorCalculo = 3;  // a run-time fault of a calculation
+constexpr int SinConvergencia = 4;  // results given, but a pass reached the iteration limit
 }  // namespace Salida
 
 // Runs the verb in args[1] (args[0] is the program); returns the status.

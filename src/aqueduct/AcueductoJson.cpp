@@ -199,6 +199,12 @@ QJsonObject ResultadosComoJson(const ProyectoAcueducto& p, const QString& mensaj
     QJsonArray iteraciones;
     for (int i : p.Iteraciones) iteraciones.append(i);
     o[QStringLiteral("iteraciones")] = iteraciones;
+    // Whether every pass reached the tolerance, and where each one ended.
+    QJsonArray desbalance;
+    for (double d : p.Desbalance) desbalance.append(d);
+    o[QStringLiteral("Convergencia")] = QJsonObject{{QStringLiteral("Convergio"), !p.SinConvergencia()},
+                                                   {QStringLiteral("Iteraciones"), iteraciones},
+                                                   {QStringLiteral("Desbalance"), desbalance}};
     QJsonArray tramos, nodos;
     for (int t = 1; t <= p.NumeroTramos; ++t) {
         QJsonObject r = TramoJson(p, t);
