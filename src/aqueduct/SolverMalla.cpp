@@ -127,15 +127,32 @@ void PrepararSistema(Sistema& x, const ProyectoAcueducto& p, const Tramos& t, co
     x.ldlt.analyzePattern(x.a);
 }
 
-// Factorises the values written and solves for the right-hand side.  A zero
-// pivot (no fixed head reaches a part of the network) is the division by zero
-// it would be; a number beyond the double range, the overflow.
-void ResolverSistema(Sistema& x) {
+// A system the factorisation finds singular (a part of the network no fixed
+// head reaches) is eliminated in band storage instead, where the substitute
+// pivot carries the run through as it always has.
+void ResolverEnBanda(Sistema& x, int ancho) {
+    const int nodos = int(x.b.size());
+    MatrizBanda a;
+    a.Redim(ancho, nodos);
+    for (int c = 0; c < nodos; ++c)
+        for (Eigen::SparseMatrix<double>::InnerIterator k(x.a, c); k; ++k)
+            a(int(k.row()) - c + 1, c + 1) = k.value();
+    std::vector<double> b(size_t(nodos) + 1);
+    for (int n = 0; n < nodos; ++n) b[size_t(n) + 1] = x.b[n];
+    ResolverBanda(a, b, nodos, 1.0);
+    for (int n = 0; n < nodos; ++n) x.b[n] = b[size_t(n) + 1];
+}
+
+// Factorises the values written and solves for the right-hand side; a
+// number beyond the double range is the overflow it would be.
+void ResolverSistema(Sistema& x, int ancho) {
     double* v = x.a.valuePtr();
     for (Eigen::Index k = 0; k < x.a.nonZeros(); ++k) Finito(v[k]);
     x.ldlt.factorize(x.a);
-    if (x.ldlt.info() != Eigen::Success) throw ErrorEjecucion(Error::DivisionPorCero);
-    x.b = x.ldlt.solve(x.b);
+    if (x.ldlt.info() == Eigen::Success)
+        x.b = x.ldlt.solve(x.b);
+    else
+        ResolverEnBanda(x, ancho);
     for (Eigen::Index n = 0; n < x.b.size(); ++n) Finito(x.b[n]);
 }
 
@@ -193,8 +210,10 @@ struct FinPaso {
 };
 
 // One pass of the iteration.
-FinPaso Iterar(ProyectoAcueducto& p, const Tramos& t, const std::vector<int>& orden, Sistema& x,
-               std::vector<double>& flujo, double e) {
+FinPaso Iterar(ProyectoAcueducto& p, const Tramos& t, const OrdenNodos& o, Sistema& x, std::vector<double>& flujo,
+               double e) {
+    const std::vector<int>& orden = o.orden;
+    const int ancho = o.ancho;
     const int nodos = p.NumeroNodosACU;
     const int tramos = p.NumeroTramos;
     const int limite = std::max(p.LimiteIteraciones, 1);
@@ -221,7 +240,7 @@ FinPaso Iterar(ProyectoAcueducto& p, const Tramos& t, const std::vector<int>& or
             v[Ranura(x.a, n, n)] += Penalidad;
             x.b[n] = Penalidad * (p.CotaFija[f] - p.CotaReferencia);
         }
-        ResolverSistema(x);
+        ResolverSistema(x, ancho);
 
         // The new heads replace the old ones whole: no relaxation.
         p.Alturas[0] = -p.DemandaReal[0];
@@ -317,7 +336,7 @@ void Analizar(ProyectoAcueducto& p, const Sesion& s) {
     for (int paso = 1; paso <= pasos; ++paso) {
         // The fire flow goes to the node of lowest pressure of the first pass.
         if (paso == 2) p.DemandaReal[p.NodoMinimo] += p.LitrosIncendio / 1000.0;
-        const FinPaso fin = Iterar(p, t, o.orden, x, flujo, e);
+        const FinPaso fin = Iterar(p, t, o, x, flujo, e);
         p.Iteraciones.push_back(fin.iteraciones);
         p.Desbalance.push_back(fin.desbalance);
         p.Convergio.push_back(fin.convergio);

@@ -290,7 +290,8 @@ TEST(AnalizarMalla, SinNodoFijoNoSeCae) {
     ProyectoAcueducto p = Red({{"T", "N", 100, 0.2}}, {{"T", 0, 50, -100}, {"N", 10, 40, 0}}, sp.s);
     AnalizarMalla(p, sp.s);
     EXPECT_EQ(p.NumeroFijos, 0);
-    SUCCEED();
+    EXPECT_EQ(p.ErrorAnalisis, 0);
+    EXPECT_TRUE(p.SinConvergencia());
 }
 
 TEST(AnalizarMalla, NumeracionInternaIgualALaDeEntrada) {
