@@ -2,7 +2,7 @@
 // The mesh network solver: heads at the nodes and flows in the sections of a
 // looped network by a nodal Hazen-Williams iteration.  Each section becomes a
 // conductance from the head difference of the previous iterate (never below
-// that of a 1e-6 m difference, so no node is cut off), fixed-head nodes
+// that of a 1e-14 m difference, so no node is cut off), fixed-head nodes
 // (tanks, pumps) carry a penalty on the diagonal, and the iteration stops
 // when the mean flow imbalance of the free nodes is below 1e-8 m³/s or at
 // the project's iteration limit.  Units inside are metres and cubic metres

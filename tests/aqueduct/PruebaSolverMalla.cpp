@@ -424,3 +424,16 @@ TEST(AnalizarMalla, PasoQueAgotaElLimiteSeInforma) {
     EXPECT_EQ(p.Convergio, std::vector<bool>({true, true}));
     EXPECT_FALSE(p.SinConvergencia());
 }
+
+TEST(AnalizarMalla, CasiEmpateEnUnaMallaConverge) {
+    // T feeds A and B by equal pipes and A-B closes the loop; B draws 1e-6 l/s
+    // more, so A-B sits at a head difference of about 1e-8 m.  A floor on that
+    // difference must stay below it, or the balance stalls above the tolerance.
+    SesionPrueba sp;
+    ProyectoAcueducto p = Red({{"T", "A", 100, 0.2}, {"T", "B", 100, 0.2}, {"A", "B", 100, 0.1}},
+                              {{"T", 0, 45, 60}, {"A", 5, 30, 0}, {"B", 5.000001, 30, 0}}, sp.s);
+    AnalizarMalla(p, sp.s);
+    ASSERT_EQ(p.ErrorAnalisis, 0);
+    EXPECT_EQ(p.Convergio, std::vector<bool>({true}));
+    EXPECT_NEAR(p.Caudal[1] + p.Caudal[2], 10.000001, TolCaudal3);
+}
