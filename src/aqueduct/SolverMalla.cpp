@@ -223,17 +223,20 @@ FinPaso Iterar(ProyectoAcueducto& p, const Tramos& t, const OrdenNodos& o, Siste
     const int tramos = p.NumeroTramos;
     const int limite = std::max(p.LimiteIteraciones, 1);
     double* v = x.a.valuePtr();
+    // K d^(e-1) is K d^e / d: the flow of the last iterate divided by its
+    // head difference gives the conductance without a second power.
+    std::vector<double> caudal(size_t(tramos) + 1), caida(size_t(tramos) + 1);
+    const double piso = Potencia(DiferenciaMinima, e - 1.0);
     FinPaso fin;
     for (int it = 1; it <= limite; ++it) {
         fin.iteraciones = it;
         for (int n = 1; n <= nodos; ++n) x.b[orden[size_t(n)] - 1] = -p.DemandaReal[n];
         std::fill(v, v + x.a.nonZeros(), 0.0);
         for (int s = 1; s <= tramos; ++s) {
-            const int i = t.i[size_t(s)], j = t.j[size_t(s)];
             double g = t.k[size_t(s)];
             if (it > 1) {
-                const double d = std::fabs(p.Alturas[i] - p.Alturas[j]);
-                g = Finito(g * Potencia(std::max(d, DiferenciaMinima), e - 1.0));
+                const double d = caida[size_t(s)];
+                g = d >= DiferenciaMinima ? caudal[size_t(s)] / d : g * piso;
             }
             if (x.ii[size_t(s)] >= 0) v[x.ii[size_t(s)]] += g;
             if (x.jj[size_t(s)] >= 0) v[x.jj[size_t(s)]] += g;
@@ -255,6 +258,8 @@ FinPaso Iterar(ProyectoAcueducto& p, const Tramos& t, const OrdenNodos& o, Siste
             const int i = t.i[size_t(s)], j = t.j[size_t(s)];
             const double h = Diferencia(p.Alturas[i], p.Alturas[j]);
             const double q = Finito(t.k[size_t(s)] * Potencia(std::fabs(h), e));
+            caudal[size_t(s)] = q;
+            caida[size_t(s)] = std::fabs(h);
             if (h > 0) {
                 flujo[size_t(i)] -= q;
                 flujo[size_t(j)] += q;
