@@ -135,8 +135,11 @@ void PrepararSistema(Sistema& x, const ProyectoAcueducto& p, const Tramos& t, co
 // A system the factorisation finds singular (a part of the network no fixed
 // head reaches) is eliminated in band storage instead, where the substitute
 // pivot carries the run through as it always has.
-void ResolverEnBanda(Sistema& x, int ancho) {
+void ResolverEnBanda(Sistema& x) {
     const int nodos = int(x.b.size());
+    int ancho = 1;
+    for (int c = 0; c < nodos; ++c)
+        for (Eigen::SparseMatrix<double>::InnerIterator k(x.a, c); k; ++k) ancho = std::max(ancho, int(k.row()) - c + 1);
     MatrizBanda a;
     a.Redim(ancho, nodos);
     for (int c = 0; c < nodos; ++c)
@@ -150,14 +153,14 @@ void ResolverEnBanda(Sistema& x, int ancho) {
 
 // Factorises the values written and solves for the right-hand side; a
 // number beyond the double range is the overflow it would be.
-void ResolverSistema(Sistema& x, int ancho) {
+void ResolverSistema(Sistema& x) {
     double* v = x.a.valuePtr();
     for (Eigen::Index k = 0; k < x.a.nonZeros(); ++k) Finito(v[k]);
     x.ldlt.factorize(x.a);
     if (x.ldlt.info() == Eigen::Success)
         x.b = x.ldlt.solve(x.b);
     else
-        ResolverEnBanda(x, ancho);
+        ResolverEnBanda(x);
     for (Eigen::Index n = 0; n < x.b.size(); ++n) Finito(x.b[n]);
 }
 
@@ -215,10 +218,8 @@ struct FinPaso {
 };
 
 // One pass of the iteration.
-FinPaso Iterar(ProyectoAcueducto& p, const Tramos& t, const OrdenNodos& o, Sistema& x, std::vector<double>& flujo,
-               double e) {
-    const std::vector<int>& orden = o.orden;
-    const int ancho = o.ancho;
+FinPaso Iterar(ProyectoAcueducto& p, const Tramos& t, const std::vector<int>& orden, Sistema& x,
+               std::vector<double>& flujo, double e) {
     const int nodos = p.NumeroNodosACU;
     const int tramos = p.NumeroTramos;
     const int limite = std::max(p.LimiteIteraciones, 1);
@@ -248,7 +249,7 @@ FinPaso Iterar(ProyectoAcueducto& p, const Tramos& t, const OrdenNodos& o, Siste
             v[Ranura(x.a, n, n)] += Penalidad;
             x.b[n] = Penalidad * (p.CotaFija[f] - p.CotaReferencia);
         }
-        ResolverSistema(x, ancho);
+        ResolverSistema(x);
 
         // The new heads replace the old ones whole: no relaxation.
         p.Alturas[0] = -p.DemandaReal[0];
@@ -346,7 +347,7 @@ void Analizar(ProyectoAcueducto& p, const Sesion& s) {
     for (int paso = 1; paso <= pasos; ++paso) {
         // The fire flow goes to the node of lowest pressure of the first pass.
         if (paso == 2) p.DemandaReal[p.NodoMinimo] += p.LitrosIncendio / 1000.0;
-        const FinPaso fin = Iterar(p, t, o, x, flujo, e);
+        const FinPaso fin = Iterar(p, t, o.orden, x, flujo, e);
         p.Iteraciones.push_back(fin.iteraciones);
         p.Desbalance.push_back(fin.desbalance);
         p.Convergio.push_back(fin.convergio);
