@@ -1,18 +1,20 @@
 #pragma once
 // The mesh network solver: heads at the nodes and flows in the sections of a
 // looped network by a nodal Hazen-Williams iteration.  Each section becomes a
-// conductance from the head difference of the previous iterate, the
-// symmetric system is assembled in band storage and eliminated without
-// pivoting, fixed-head nodes (tanks, pumps) carry a penalty on the diagonal,
-// and the iteration stops when the mean flow imbalance of the free nodes is
-// below 1e-8 m³/s.  Units inside are metres and cubic metres per second.
+// conductance from the head difference of the previous iterate (never below
+// that of a 1e-14 m difference, so no node is cut off), fixed-head nodes
+// (tanks, pumps) carry a penalty on the diagonal, and the iteration stops
+// when the mean flow imbalance of the free nodes is below 1e-8 m³/s or at
+// the project's iteration limit.  Units inside are metres and cubic metres
+// per second.
 //
-// The band follows the numbering of the nodes, which follows the order in
-// which the sections were typed.  When that band is wide and a reverse
-// Cuthill-McKee order of the same nodes gives a clearly narrower one, the
-// equations are solved in that order instead; the node numbers shown and
-// stored stay those of the numbering, and the heads agree with the entered
-// order to rounding.
+// The symmetric system is kept sparse and solved by an LDLᵀ factorisation
+// (Eigen's SimplicialLDLT) in an approximate minimum degree order: the order
+// and the symbolic factorisation once per analysis, only the numbers per
+// iteration, so a star or a long branched main costs what its sections do.
+// The band of the numbering (AnchoBanda) is still worked out and shown to
+// the engineer, and the reverse Cuthill-McKee order may still number the
+// equations, but neither decides the cost of the solve any more.
 
 #include <cstddef>
 #include <vector>
@@ -24,7 +26,6 @@ namespace ConstantesMalla {
 constexpr double ExponenteCaudal = 1.852;
 constexpr double ExponenteDiametro = 4.8704;
 constexpr double FactorHazen = 10.675;
-constexpr int LimiteIteraciones = 100;
 constexpr double Tolerancia = 1e-8;
 constexpr double Penalidad = 1e10;
 constexpr double PivoteNulo = 1e-20;
@@ -61,7 +62,7 @@ private:
 // kept in it); with 0 only the right-hand side is processed, with the
 // multipliers of an earlier elimination.  A zero pivot is replaced by 1e-20.
 // A division by zero or a number beyond the double range is an
-// ErrorEjecucion, as in the older runtime.
+// ErrorEjecucion, as in the older runtime.  AnalizarMalla no longer uses it.
 void ResolverBanda(MatrizBanda& a, std::vector<double>& b, int n, double bandera);
 
 // AnchoBanda: the largest |I - J| of NodosTramo plus 1; 1 without sections.
@@ -87,8 +88,9 @@ OrdenNodos OrdenCuthillMcKee(const ProyectoAcueducto& p);
 // The whole run for CasoDemanda: renumbering, demands of the case, design
 // lengths, the passes of the iteration and the results.  A run-time fault
 // (a zero length or diameter, every node fixed, a subscript, an overflow, a
-// number beyond the double range) sets ErrorAnalisis to 1 and ends the run,
+// number beyond the double range, a part of the network no fixed head
+// reaches) sets ErrorAnalisis to 1 and ends the run,
 // leaving the arrays as they were at that moment.  ErrorAnalisis is never
-// cleared here.  Non-convergence is silent: after 100 iterations the last
-// iterate stands.  The caller checks first that a tank exists (VerificaTanque).
+// cleared here.  A pass that reaches LimiteIteraciones keeps its last
+// iterate; Desbalance and Convergio say how each pass ended.  The caller checks first that a tank exists (VerificaTanque).
 void AnalizarMalla(ProyectoAcueducto& p, const Sesion& s);
