@@ -160,8 +160,7 @@ TEST(LineaComandosACU, CorregirDireccionSinPreguntas) {
 // A pass held to 2 iterations cannot reach the tolerance on a loop (the
 // first iteration takes every conductance as linear): results given, the
 // warning on stderr, status 4.  The solver must honour LimiteIteraciones.
-// TODO(lead): enable once the solver fills Convergio and Desbalance.
-TEST(LineaComandosACU, DISABLED_UnPasoSinConvergenciaSaleCon4) {
+TEST(LineaComandosACU, UnPasoSinConvergenciaSaleCon4) {
     Consola c;
     const QString b = c.sp.CopiaDeEjemplo("EjemploRedB.nivo", "b.acu");
     const QStringList limite{QStringLiteral("--limite-iteraciones"), QStringLiteral("2")};
