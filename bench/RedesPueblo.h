@@ -136,7 +136,7 @@ inline RedGenerada Pueblo(int secciones, int tanques, unsigned semilla) {
         if (padre[n] >= 0) aguasAbajo[size_t(padre[n])] += aguasAbajo[n];
     }
     for (TramoRed& t : r.tramos)
-        if (padre[size_t(t.j)] == t.i) t.diametro = DiametroComercial(aguasAbajo[size_t(t.j)], 0.075);
+        if (padre[size_t(t.j)] == t.i) t.diametro = DiametroComercial(aguasAbajo[size_t(t.j)], t.diametro);
     return r;
 }
 
