@@ -11,13 +11,17 @@
 // without a solve time, so that the run always ends.
 //
 //   build-bench/bench/BancoPueblos [--corridas 11] [--tope 30] [--carpeta DIR]
-//                                  [--programa build-bench/fontaria] [benchmark options]
+//                                  [--programa build-bench/fontaria] [--solo REGEX]
+//                                  [benchmark options]
+//
+// --solo keeps only the networks whose name matches, e.g. "pueblo-32k".
 
 #include "RedesPueblo.h"
 #include "aqueduct/SolverMalla.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
@@ -38,9 +42,9 @@ namespace {
 
 struct Fila {
     QString nombre, archivo;
-    int tramos = 0, nodos = 0, iteraciones = 0, estado = 0;
-    bool convergio = true;
-    double msSolve = -1, msProceso = -1, mibMemoria = 0;
+    size_t red = 0;  // index into the networks and their loaded projects
+    int estado = 0;
+    double msProceso = -1, mibMemoria = 0;
     bool tope = false;
 };
 
@@ -123,6 +127,7 @@ int main(int argc, char** argv) {
         Opcion(args, QStringLiteral("--programa"), QStringLiteral(FONTARIA_RUTA_PROGRAMA "/fontaria")).toStdString();
     QTemporaryDir temporal;
     const QString carpeta = Opcion(args, QStringLiteral("--carpeta"), temporal.path());
+    const QRegularExpression solo(Opcion(args, QStringLiteral("--solo"), QString()));
     QDir().mkpath(carpeta + QStringLiteral("/datos/Trabajo"));
 
     Sesion s;
@@ -143,7 +148,9 @@ int main(int argc, char** argv) {
     std::vector<Fila> filas;
     std::vector<ProyectoAcueducto> proyectos(redes.size());
     for (size_t k = 0; k < redes.size(); ++k) {
+        if (!solo.match(redes[k].first).hasMatch()) continue;
         Fila f;
+        f.red = k;
         f.nombre = redes[k].first;
         f.archivo = carpeta + QLatin1Char('/') + f.nombre + QStringLiteral(".acu");
         QString error;
@@ -183,12 +190,11 @@ int main(int argc, char** argv) {
 
     printf("\n%-20s %7s %7s %10s %10s %12s %9s %6s\n", "red", "tramos", "nodos", "iter", "solve ms", "proceso ms",
            "MiB", "salida");
-    for (size_t k = 0; k < filas.size(); ++k) {
-        Fila& f = filas[k];
-        const ProyectoAcueducto& p = proyectos[k];
+    for (const Fila& f : filas) {
+        const ProyectoAcueducto& p = proyectos[f.red];
         const auto medido = reportero.ms.find(f.nombre.toStdString());
         if (f.tope) {
-            printf("%-20s %7d %7s %10s %10s %12s %9s %6s\n", qPrintable(f.nombre), int(redes[k].second.tramos.size()),
+            printf("%-20s %7d %7s %10s %10s %12s %9s %6s\n", qPrintable(f.nombre), int(redes[f.red].second.tramos.size()),
                    "-", "-", "-", qPrintable(QStringLiteral("> %1 s").arg(topeS)), "-", "-");
             continue;
         }
