@@ -63,16 +63,16 @@ bool Proceso(const std::string& programa, const QString& archivo, double topeS, 
         _exit(127);
     }
     // A pidfd becomes readable when the child ends: waiting on it keeps the
-    // timing exact and still allows the cap.
+    // timing exact and still allows the cap (without one, no cap).
     const int pidfd = int(syscall(SYS_pidfd_open, pid, 0));
     pollfd pf{pidfd, POLLIN, 0};
-    const bool acabo = poll(&pf, 1, int(topeS * 1000)) > 0;
+    const bool acabo = pidfd < 0 || poll(&pf, 1, int(topeS * 1000)) > 0;
     if (!acabo) kill(pid, SIGKILL);
     int st = 0;
     rusage uso{};
     wait4(pid, &st, 0, &uso);
     ms = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - inicio).count();
-    close(pidfd);
+    if (pidfd >= 0) close(pidfd);
     mib = uso.ru_maxrss / 1024.0;
     estado = WIFEXITED(st) ? WEXITSTATUS(st) : -1;
     return acabo;
@@ -194,8 +194,9 @@ int main(int argc, char** argv) {
         const ProyectoAcueducto& p = proyectos[f.red];
         const auto medido = reportero.ms.find(f.nombre.toStdString());
         if (f.tope) {
-            printf("%-20s %7d %7s %10s %10s %12s %9s %6s\n", qPrintable(f.nombre), int(redes[f.red].second.tramos.size()),
-                   "-", "-", "-", qPrintable(QStringLiteral("> %1 s").arg(topeS)), "-", "-");
+            printf("%-20s %7d %7s %10s %10s %12s %9s %6s\n", qPrintable(f.nombre),
+                   int(redes[f.red].second.tramos.size()), "-", "-", "-",
+                   qPrintable(QStringLiteral("> %1 s").arg(topeS)), "-", "-");
             continue;
         }
         QStringList pasos;
@@ -204,7 +205,8 @@ int main(int argc, char** argv) {
             pasos << QString::number(i);
             limite = limite || i >= p.LimiteIteraciones;
         }
-        const QString solve = medido == reportero.ms.end() ? QStringLiteral("-") : QString::number(medido->second, 'f', 2);
+        const QString solve =
+            medido == reportero.ms.end() ? QStringLiteral("-") : QString::number(medido->second, 'f', 2);
         printf("%-20s %7d %7d %9s%s %10s %12.2f %9.1f %6d\n", qPrintable(f.nombre), int(p.NumeroTramos),
                int(p.NumeroNodosACU), pasos.isEmpty() ? "-" : qPrintable(pasos.join(QLatin1Char('+'))),
                limite ? "!" : " ", qPrintable(solve), f.msProceso, f.mibMemoria, f.estado);
