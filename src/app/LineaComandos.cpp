@@ -32,7 +32,15 @@ void Imprimir(const QString& texto) {
     fflush(stdout);
 }
 
-void ImprimirJson(const QJsonObject& o) { Imprimir(QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Indented))); }
+void ImprimirJson(const QJsonObject& o) {
+    // Written as the bytes the document gives: a large network's results run
+    // to tens of megabytes, and a round trip through QString would copy and
+    // convert them twice more.
+    QByteArray b = QJsonDocument(o).toJson(QJsonDocument::Indented);
+    if (!b.endsWith('\n')) b.append('\n');
+    fwrite(b.constData(), 1, size_t(b.size()), stdout);
+    fflush(stdout);
+}
 
 int Fallar(const QString& mensaje, int estado) {
     fprintf(stderr, "%s\n", mensaje.toUtf8().constData());
