@@ -6,6 +6,7 @@
 //   cmake -S . -B build-bench -DFONTARIA_BENCH=ON && ninja -C build-bench BancoDatosRamales
 //   QT_QPA_PLATFORM=offscreen build-bench/bench/BancoDatosRamales
 
+#include "BancoConVentanas.h"
 #include "ProyectoGenerado.h"
 #include "entry/DatosRamales.h"
 #include "entry/screens/VentanaDatosRamales.h"
@@ -82,11 +83,4 @@ BENCHMARK(AbrirElEditor)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(AbrirLaPantalla)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(InsertarEnLaFila1)->Unit(benchmark::kMillisecond)->Iterations(5);
 
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+int main(int argc, char** argv) { return CorrerBancosConVentanas(argc, argv); }

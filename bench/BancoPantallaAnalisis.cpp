@@ -9,6 +9,7 @@
 //   ninja -C build BancoPantallaAnalisis
 //   QT_QPA_PLATFORM=offscreen build/bench/BancoPantallaAnalisis
 
+#include "BancoConVentanas.h"
 #include "ProyectoGenerado.h"
 #include "analysis/Numeracion.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
@@ -108,11 +109,4 @@ BENCHMARK(BM_CargaPantalla)->Arg(100)->Arg(5000)->Arg(32766)->Unit(benchmark::kM
 BENCHMARK(BM_EdicionDiametroPantalla)->Arg(100)->Arg(1000)->Arg(5000)->Arg(32766)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_EdicionValvulaPantalla)->Arg(100)->Arg(1000)->Arg(5000)->Arg(32766)->Unit(benchmark::kMillisecond);
 
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+int main(int argc, char** argv) { return CorrerBancosConVentanas(argc, argv); }

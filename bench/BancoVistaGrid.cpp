@@ -5,6 +5,7 @@
 //   cmake -S . -B build -DFONTARIA_BENCH=ON && ninja -C build BancoVistaGrid
 //   QT_QPA_PLATFORM=offscreen build/bench/BancoVistaGrid
 
+#include "BancoConVentanas.h"
 #include "base/Grid.h"
 #include "widgets/VistaGrid.h"
 
@@ -85,11 +86,4 @@ BENCHMARK(MostrarGrid)->Arg(1000)->Arg(5000)->Arg(16383)->Unit(benchmark::kMilli
 BENCHMARK(RefrescarValores)->Arg(5000)->Arg(16383)->Unit(benchmark::kMillisecond);
 BENCHMARK(RefrescarUniones)->Arg(5000)->Arg(16383)->Unit(benchmark::kMillisecond);
 
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+int main(int argc, char** argv) { return CorrerBancosConVentanas(argc, argv); }
