@@ -1,13 +1,13 @@
 #include "aqueduct/NumeracionNodos.h"
 
 #include "aqueduct/ProyectoAcueducto.h"
+#include "base/MapaNombres.h"
 #include "base/Nivo.h"
 #include "shell/Sesion.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
 #include <vector>
 
 namespace {
@@ -66,15 +66,15 @@ void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s) {
 
     // First appearance decides the number; the names are compared exactly.
     p.Nodos.Redim(tramos + 10);
-    QHash<QString, int> vistos;
-    vistos.reserve(tramos + 1);
+    MapaNombres<int> vistos;
+    vistos.reserve(size_t(tramos) + 1);
     std::vector<QString> registros(1);  // record i holds node i; slot 0 unused
     int cuenta = 0;
     auto listar = [&](const QString& nombre) {
-        if (vistos.contains(nombre)) return;
+        if (vistos.count(nombre)) return;
         p.Nodos[cuenta + 1] = nombre;  // beyond NumeroTramos + 10: error 9
         ++cuenta;
-        vistos.insert(nombre, cuenta);
+        vistos.emplace(nombre, cuenta);
         registros.push_back(nombre.left(LargoNombreNodo));
     };
     // The file is opened anew before the first name and takes each record as
@@ -96,13 +96,13 @@ void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s) {
 
     // The ends get the number of the last record whose trimmed name equals
     // theirs; an end no record matches keeps 0.
-    QHash<QString, int> porRegistro;
-    porRegistro.reserve(cuenta);
-    for (int i = 1; i <= cuenta; ++i) porRegistro.insert(Trim(registros[size_t(i)]), i);
+    MapaNombres<int> porRegistro;
+    porRegistro.reserve(size_t(cuenta));
+    for (int i = 1; i <= cuenta; ++i) porRegistro[Trim(registros[size_t(i)])] = i;
     for (int t = 1; t <= tramos; ++t)
         for (int e = 1; e <= 2; ++e) {
-            const auto it = porRegistro.constFind(Trim(p.ExtremosTramo(e, t)));
-            if (it != porRegistro.constEnd()) p.NodosTramo(e, t) = it.value();
+            const auto it = porRegistro.find(Trim(p.ExtremosTramo(e, t)));
+            if (it != porRegistro.end()) p.NodosTramo(e, t) = it->second;
         }
 }
 
@@ -118,16 +118,16 @@ void ConectarNodos(ProyectoAcueducto& p) {
     p.TramosConectados.Redim(nodos);
     p.NombreTramos.Redim(nodos);
     // Every node of a name, in node order, as the search over all nodes finds them.
-    QHash<QString, std::vector<int>> porNombre;
-    porNombre.reserve(nodos);
+    MapaNombres<std::vector<int>> porNombre;
+    porNombre.reserve(size_t(nodos));
     for (int n = 1; n <= nodos; ++n) porNombre[p.Nodos[n]].push_back(n);
     for (int t = 1; t <= p.NumeroTramos; ++t) {
         const QString& i = p.Inicio[t];
         const QString& j = p.Final[t];
-        if (const auto it = porNombre.constFind(i); it != porNombre.constEnd())
-            for (int n : it.value()) AgregarEtiqueta(p, n, Trim(i) + QLatin1Char('-') + Trim(j));
-        if (const auto it = porNombre.constFind(j); it != porNombre.constEnd())
-            for (int n : it.value()) AgregarEtiqueta(p, n, Trim(j) + QLatin1Char('-') + Trim(i));
+        if (const auto it = porNombre.find(i); it != porNombre.end())
+            for (int n : it->second) AgregarEtiqueta(p, n, Trim(i) + QLatin1Char('-') + Trim(j));
+        if (const auto it = porNombre.find(j); it != porNombre.end())
+            for (int n : it->second) AgregarEtiqueta(p, n, Trim(j) + QLatin1Char('-') + Trim(i));
     }
 }
 
