@@ -1,0 +1,35 @@
+#pragma once
+// "Capturar Imagenes": the folder tree, the picture files of the chosen
+// folder, the preview and the buttons of the capture.  Esc and the close
+// box are "Cancelar".
+
+#include "images/CapturaFotoF2.h"
+
+#include <QDialog>
+
+class MarcoImagen;
+class NivoToolTip;
+class QFileSystemModel;
+class QListView;
+class QTreeView;
+
+class VentanaCapturaFotoF2 : public QDialog {
+    Q_OBJECT
+public:
+    VentanaCapturaFotoF2(Sesion& s, Dialogos& d, PantallasFoto& fotos, bool registroConImagen,
+                         QWidget* padre = nullptr);
+
+    CapturaFotoF2& Logica() { return logica_; }
+
+private:
+    void MostrarCarpeta();
+    void ArchivoElegido(const QModelIndex& i);
+    void MostrarImagen();
+    CapturaFotoF2 logica_;
+    QFileSystemModel* carpetas_;
+    QFileSystemModel* archivos_;
+    QTreeView* folderView1_;
+    QListView* fileView1_;
+    MarcoImagen* picture1_;
+    NivoToolTip* tip_;
+};
