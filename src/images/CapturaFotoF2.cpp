@@ -14,6 +14,12 @@
 namespace {
 QString TituloCapturar() { return QStringLiteral("Capturar Imágenes"); }
 QString EncabezadoInsumos() { return QStringLiteral("Imágenes de los Insumos..."); }
+
+// A system without a desktop or documents folder has at least a home.
+QString CarpetaDelSistema(QStandardPaths::StandardLocation lugar) {
+    const QString carpeta = QStandardPaths::writableLocation(lugar);
+    return QFileInfo(carpeta).isDir() ? carpeta : QDir::homePath();
+}
 }  // namespace
 
 CapturaFotoF2::CapturaFotoF2(Sesion& s, Dialogos& d, PantallasFoto& fotos, bool registroConImagen)
@@ -49,13 +55,9 @@ void CapturaFotoF2::IrACarpeta(const QString& carpeta) {
     if (QFileInfo(carpeta).isDir()) carpeta_ = QDir::cleanPath(carpeta);
 }
 
-void CapturaFotoF2::IrAEscritorio() {
-    IrACarpeta(QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
-}
+void CapturaFotoF2::IrAEscritorio() { IrACarpeta(CarpetaDelSistema(QStandardPaths::DesktopLocation)); }
 
-void CapturaFotoF2::IrADocumentos() {
-    IrACarpeta(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-}
+void CapturaFotoF2::IrADocumentos() { IrACarpeta(CarpetaDelSistema(QStandardPaths::DocumentsLocation)); }
 
 void CapturaFotoF2::IrAMiPC() { IrACarpeta(QDir::rootPath()); }
 

@@ -1,5 +1,6 @@
 #include "images/screens/VentanaCapturaFotoF2.h"
 
+#include "base/Nivo.h"
 #include "images/screens/MarcoImagen.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
@@ -8,6 +9,7 @@
 #include <QFileSystemModel>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QListView>
 #include <QPushButton>
 #include <QSplitter>
@@ -42,6 +44,8 @@ VentanaCapturaFotoF2::VentanaCapturaFotoF2(Sesion& s, Dialogos& d, PantallasFoto
     picture1_ = new MarcoImagen(this);
     picture1_->setObjectName(QStringLiteral("Picture1"));
     picture1_->setMinimumSize(320, 240);
+    lblArchivo_ = new QLabel(this);
+    lblArchivo_->setObjectName(QStringLiteral("lblArchivo"));
 
     const auto boton = [this](const char* nombre, const QString& texto, QStyle::StandardPixmap icono,
                               const QString& tip) {
@@ -77,7 +81,12 @@ VentanaCapturaFotoF2::VentanaCapturaFotoF2(Sesion& s, Dialogos& d, PantallasFoto
 
     auto* division = new QSplitter(Qt::Horizontal, this);
     division->addWidget(izquierda);
-    division->addWidget(picture1_);
+    auto* derecha = new QWidget(this);
+    auto* capaDer = new QVBoxLayout(derecha);
+    capaDer->setContentsMargins(0, 0, 0, 0);
+    capaDer->addWidget(picture1_, 1);
+    capaDer->addWidget(lblArchivo_);
+    division->addWidget(derecha);
     division->setStretchFactor(0, 2);
     division->setStretchFactor(1, 3);
 
@@ -108,6 +117,10 @@ VentanaCapturaFotoF2::VentanaCapturaFotoF2(Sesion& s, Dialogos& d, PantallasFoto
                 logica_.IrACarpeta(carpetas_->filePath(i));
                 fileView1_->setRootIndex(archivos_->setRootPath(logica_.Carpeta()));
             });
+    // The tree fills in as folders are read: the chosen one is brought into
+    // sight once its parents are there.
+    connect(carpetas_, &QFileSystemModel::directoryLoaded, this,
+            [this] { folderView1_->scrollTo(folderView1_->currentIndex(), QAbstractItemView::PositionAtCenter); });
     connect(fileView1_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &VentanaCapturaFotoF2::ArchivoElegido);
     connect(b1, &QPushButton::clicked, this, [this] {
@@ -134,9 +147,10 @@ VentanaCapturaFotoF2::VentanaCapturaFotoF2(Sesion& s, Dialogos& d, PantallasFoto
 
 void VentanaCapturaFotoF2::MostrarCarpeta() {
     const QModelIndex i = carpetas_->index(logica_.Carpeta());
+    for (QModelIndex p = i.parent(); p.isValid(); p = p.parent()) folderView1_->expand(p);
     folderView1_->setCurrentIndex(i);
-    folderView1_->scrollTo(i, QAbstractItemView::PositionAtCenter);
     folderView1_->expand(i);
+    folderView1_->scrollTo(i, QAbstractItemView::PositionAtCenter);
     fileView1_->setRootIndex(archivos_->setRootPath(logica_.Carpeta()));
 }
 
@@ -146,4 +160,12 @@ void VentanaCapturaFotoF2::ArchivoElegido(const QModelIndex& i) {
     MostrarImagen();
 }
 
-void VentanaCapturaFotoF2::MostrarImagen() { picture1_->PonerImagen(logica_.Imagen()); }
+void VentanaCapturaFotoF2::MostrarImagen() {
+    const QImage& imagen = logica_.Imagen();
+    picture1_->PonerImagen(imagen);
+    const QString mascara = QStringLiteral("#,##0");
+    lblArchivo_->setText(imagen.isNull() ? QString()
+                                         : QStringLiteral("%1   %2 × %3 px")
+                                               .arg(QFileInfo(logica_.Archivo()).fileName(),
+                                                    Formato(imagen.width(), mascara), Formato(imagen.height(), mascara)));
+}

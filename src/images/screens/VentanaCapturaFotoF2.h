@@ -10,6 +10,7 @@
 class MarcoImagen;
 class NivoToolTip;
 class QFileSystemModel;
+class QLabel;
 class QListView;
 class QTreeView;
 
@@ -20,9 +21,10 @@ public:
                          QWidget* padre = nullptr);
 
     CapturaFotoF2& Logica() { return logica_; }
+    // The tree and the list brought to the logic's folder.
+    void MostrarCarpeta();
 
 private:
-    void MostrarCarpeta();
     void ArchivoElegido(const QModelIndex& i);
     void MostrarImagen();
     CapturaFotoF2 logica_;
@@ -31,5 +33,6 @@ private:
     QTreeView* folderView1_;
     QListView* fileView1_;
     MarcoImagen* picture1_;
+    QLabel* lblArchivo_;
     NivoToolTip* tip_;
 };
