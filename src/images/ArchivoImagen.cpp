@@ -25,6 +25,8 @@ bool LeerArchivoImagen(const QString& ruta, QImage& imagen, QString& motivo) {
     const QString nombre = QFileInfo(ruta).fileName();
     QImageReader lector(ruta);
     lector.setAutoTransform(true);
+    // The toolkit's own limit must not refuse what the program takes.
+    lector.setAllocationLimit(int(MaximoPuntosImagen * 4 / (1024 * 1024)) + 64);
     // A header that states a size is judged before any pixel is decoded.
     const QSize tamano = lector.size();
     if (tamano.isValid()) {
