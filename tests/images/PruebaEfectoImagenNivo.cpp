@@ -1,6 +1,7 @@
 // The logic of the effects screen and of its two lists, through the fakes.
 
 #include "images/efectos/EfectoImagenNivo.h"
+#include "images/efectos/EfectoTapiz.h"
 #include "images/efectos/ListaEfectos.h"
 #include "support/Apoyo.h"
 #include "support/PantallasFotoFalsas.h"
@@ -116,4 +117,22 @@ TEST(ListaEfectos, LasFilasYLaVistaReducida) {
     dit.PonerCheck1(false);  // the whole picture
     EXPECT_EQ(dit.Vista().size(), QSize(600, 300));
     EXPECT_EQ(dit.Aceptar(), 3);
+}
+
+TEST(EfectoTapiz, CadaIndiceEsUnEfectoDistintoYElCeroNinguno) {
+    const QImage foto = Foto(64, 48);
+    EXPECT_EQ(AplicarEfectoTapiz(foto, 0), foto);
+    EXPECT_EQ(AplicarEfectoTapiz(foto, 28), foto);  // read as 0 by the start-up anyway
+    EXPECT_EQ(NombreEfectoTapiz(1), "Escala de Grises");
+    std::vector<QImage> vistas;
+    QStringList nombres;
+    for (int i = 1; i <= NumeroEfectosTapiz; ++i) {
+        const QImage v = AplicarEfectoTapiz(foto, i).convertToFormat(QImage::Format_RGB32);
+        EXPECT_EQ(v.size(), foto.size());
+        EXPECT_NE(v, foto) << i;
+        for (size_t j = 0; j < vistas.size(); ++j) EXPECT_NE(v, vistas[j]) << i << " " << j + 1;
+        vistas.push_back(v);
+        nombres << NombreEfectoTapiz(i);
+    }
+    EXPECT_EQ(nombres.removeDuplicates(), 0);
 }
