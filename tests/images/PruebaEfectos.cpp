@@ -133,8 +133,8 @@ TEST(Efectos, FilasRgbDeFormulaCorta) {
         {"Inverse Blue-Red", 55, 100, 205},
         {"No Green", 200, 0, 50},
         {"Only Red", 200, 0, 0},
-        // Swapped red and blue keep the grey 124.2: (50, 100, 200) has 96.45,
-        // so 27.75 is added to each.
+        // Red leads: red and blue swap, (50, 100, 200) has the grey 96.45
+        // against 124.2, so 27.75 is added to each.
         {"Swap Blue and Red", 78, 128, 228},
         // Sepia: 0.393*200 + 0.769*100 + 0.189*50 = 164.95, 0.349*200 +
         // 0.686*100 + 0.168*50 = 146.8, 0.272*200 + 0.534*100 + 0.131*50 = 114.35.
@@ -149,6 +149,18 @@ TEST(Efectos, FilasRgbDeFormulaCorta) {
         EXPECT_EQ(d(Canal::Verde, 0, 0), c.g) << c.nombre;
         EXPECT_EQ(d(Canal::Azul, 0, 0), c.b) << c.nombre;
     }
+}
+
+TEST(Efectos, CambiarDosColoresDejaLosQueLlevaElTercero) {
+    // (60, 160, 90) is led by green: "Swap Blue and Red" leaves it, while
+    // "Swap RGB (B, G, R)" gives (90, 160, 60).
+    const Pixeles o = Uniforme(1, 1, 60, 160, 90);
+    Pixeles d;
+    RGBEffectsCALC(d, o, 1, 1, int(NombresEfectosRGB().indexOf("Swap Blue and Red")) + 1);
+    EXPECT_EQ(d, o);
+    RGBEffectsCALC(d, o, 1, 1, int(NombresEfectosRGB().indexOf("Swap RGB (B, G, R)")) + 1);
+    EXPECT_EQ(d(Canal::Rojo, 0, 0), 90);
+    EXPECT_EQ(d(Canal::Azul, 0, 0), 60);
 }
 
 TEST(Efectos, LasCientoOnceFilasRgbSonEfectosDistintos) {

@@ -24,14 +24,14 @@ void ContourApply(Pixeles& destino, const Pixeles& origen, int W, int H, const P
 void FiltroBilateral(Pixeles& destino, const Pixeles& origen, int W, int H);
 
 // "Cartonize", step by step, and DrawCartoonizerP which runs them all.
-// zInitSpatialDomainC: edge-preserving smoothing (spatial reach in pixels,
-// intensity reach 0..1).  zInitIntensityDomainC: the picture in CIE L*a*b*
+// zInitSpatialDomainC: edge-preserving smoothing (bilateral: spatial reach
+// in pixels, colour reach in levels).  zInitIntensityDomainC: the picture in CIE L*a*b*
 // (L in channel 0, a and b in 1 and 2).  KleverHistogramEQUC: L equalised.
 // QuantizeLuminanceC: L in `niveles` soft steps.  ContourBySobel: Sobel
 // gradient strength of the grey.  ContourBySobel2: that strength made lines
 // (255) where it passes `umbral`.  ContourApplyC: the lines drawn in black.
-void zInitSpatialDomainC(Pixeles& destino, const Pixeles& origen, int W, int H, double sigmaEspacio = 40,
-                         double sigmaIntensidad = 0.4);
+void zInitSpatialDomainC(Pixeles& destino, const Pixeles& origen, int W, int H, double sigmaEspacio = 7,
+                         double sigmaColor = 30);
 void zInitIntensityDomainC(Pixeles& destino, const Pixeles& origen, int W, int H);
 void KleverHistogramEQUC(Pixeles& destino, const Pixeles& origen, int W, int H);
 void QuantizeLuminanceC(Pixeles& destino, const Pixeles& origen, int W, int H, int niveles = 8);
@@ -40,9 +40,9 @@ void ContourBySobel2(Pixeles& destino, const Pixeles& origen, int W, int H, int 
 void ContourApplyC(Pixeles& destino, const Pixeles& origen, int W, int H, const Pixeles& lineas);
 void DrawCartoonizerP(Pixeles& destino, const Pixeles& origen, int W, int H, int niveles = 8, int umbral = 80);
 
-// "Pencil Drawing": a grey pencil sketch.
-void PencilPlusCALC(Pixeles& destino, const Pixeles& origen, int W, int H, double sigmaEspacio = 40,
-                    double sigmaIntensidad = 0.08, double sombra = 0.03);
+// "Pencil Drawing": a grey pencil sketch; `radio` the width of the strokes
+// in pixels, `sombra` 0..1 the share of the grey laid back as shading.
+void PencilPlusCALC(Pixeles& destino, const Pixeles& origen, int W, int H, double radio = 8, double sombra = 0.15);
 // "Film Noir": grey with hard contrast and a dark vignette.
 void FilmNoirCALC(Pixeles& destino, const Pixeles& origen, int W, int H, double contraste = 1.8,
                   double vineta = 0.55);

@@ -118,12 +118,6 @@ double Posterizar(double v, int niveles) {
     return std::round(v / paso) * paso;
 }
 
-// A channel permutation that keeps each pixel's luminance: the swap moves
-// the colours, the shift puts back the brightness the swap changed.
-Rgb ConLuminancia(Rgb nuevo, const Rgb& antes) {
-    const double d = Lum(antes) - Lum(nuevo);
-    return Rgb{nuevo.r + d, nuevo.g + d, nuevo.b + d};
-}
 
 // Tint of a grey level: the channel `dominante` (0 red, 1 green, 2 blue)
 // takes `fuerte` of it, the others `debil`.
@@ -134,6 +128,19 @@ Rgb Tinte(double v, int dominante, double fuerte, double debil) {
 }
 
 double& CanalDe(Rgb& p, int c) { return c == 0 ? p.r : c == 1 ? p.g : p.b; }
+double CanalDe(const Rgb& p, int c) { return c == 0 ? p.r : c == 1 ? p.g : p.b; }
+
+// "Swap A and B": the colours led by A or B exchange those two channels,
+// with the brightness the exchange changed put back; colours led by the
+// third channel stay as they are, with a soft border between the two.
+Rgb CambiarColores(const Rgb& p, int a, int b) {
+    Rgb q = p;
+    std::swap(CanalDe(q, a), CanalDe(q, b));
+    const double d = Lum(p) - Lum(q);
+    const double w =
+        std::clamp((std::max(CanalDe(q, a), CanalDe(q, b)) - CanalDe(p, 3 - a - b)) / 32 + 0.5, 0.0, 1.0);
+    return Rgb{p.r + w * (q.r + d - p.r), p.g + w * (q.g + d - p.g), p.b + w * (q.b + d - p.b)};
+}
 
 // Neighbourhood effects through OpenCV.
 cv::Mat Borroso(const Pixeles& o, double sigma) {
@@ -221,17 +228,15 @@ void EfectoColores(Pixeles& d, const Pixeles& o, int W, int H, int fila) {
         return Degradado(d, o, {{0, 0x000000}, {51, 0x2000A0}, {102, 0xA000A0}, {153, 0xFF2000}, {204, 0xFFD000},
                                 {255, 0xFFFFFF}});
     case 11: return Degradado(d, o, {{0, 0x101820}, {100, 0x607080}, {190, 0xC0D0E0}, {255, 0xFFFFFF}});
-    case 12: return PorPixel(d, o, [](Rgb p) {
-            const double v = 255 * std::pow(Lum(p) / 255, 1.5);
-            return Rgb{v * 0.35, v * 0.45, v * 0.9 + 25};
-        });
+    case 12:  // night blue, the brightest lights still white
+        return Degradado(d, o, {{0, 0x000010}, {90, 0x101850}, {180, 0x4060A0}, {255, 0xE0E8FF}});
     case 13: return PorPixel(d, o, [](Rgb p) {
             const double v = 255 * std::fabs(std::sin(Lum(p) / 255 * M_PI * 1.5));
             return Rgb{v, v, v + 15};
         });
-    case 14: return PorPixel(d, o, [](Rgb p) {
+    case 14: return PorPixel(d, o, [](Rgb p) {  // frosted: pale, cold, little contrast
             const double l = Lum(p);
-            return Rgb{l * 0.7, l * 0.9 + 20, l * 0.8 + 70};
+            return Rgb{l * 0.6 + 90, l * 0.65 + 105, l * 0.45 + 140};
         });
     case 15: case 16: case 17: {  // Shadow Red, Green, Blue: the other two halved
         const int c = fila - 15;
@@ -280,10 +285,10 @@ void EfectoColores(Pixeles& d, const Pixeles& o, int W, int H, int fila) {
     case 42: return PorPixel(d, o, [](Rgb p) { return Rgb{255 - p.r, p.g, 255 - p.b}; });
     case 43: return PorPixel(d, o, [](Rgb p) { return Rgb{255 - p.r, 255 - p.g, p.b}; });
     case 44: return PorPixel(d, o, [](Rgb p) { return Rgb{p.r, 255 - p.g, 255 - p.b}; });
-    // Swap ... and ...: the two channels exchanged, each pixel's brightness kept.
-    case 45: return PorPixel(d, o, [](Rgb p) { return ConLuminancia(Rgb{p.b, p.g, p.r}, p); });
-    case 46: return PorPixel(d, o, [](Rgb p) { return ConLuminancia(Rgb{p.r, p.b, p.g}, p); });
-    case 47: return PorPixel(d, o, [](Rgb p) { return ConLuminancia(Rgb{p.g, p.r, p.b}, p); });
+    // Swap ... and ...: those two colours exchanged, the others left.
+    case 45: return PorPixel(d, o, [](Rgb p) { return CambiarColores(p, 2, 0); });
+    case 46: return PorPixel(d, o, [](Rgb p) { return CambiarColores(p, 2, 1); });
+    case 47: return PorPixel(d, o, [](Rgb p) { return CambiarColores(p, 0, 1); });
     case 48: return Degradado(d, o, {{0, 0x100400}, {80, 0x6A2A00}, {170, 0xD07010}, {255, 0xFFD070}});
     case 49: return PorPixel(d, o, [](Rgb p) { return Rgb{255 - p.r, 255 - p.g, 255 - p.b}; });
     case 50: return PorPixel(d, o, [](Rgb p) {  // C, M, Y inverted, K kept: each channel max - itself
@@ -402,10 +407,10 @@ void EfectoLumen(Pixeles& d, const Pixeles& o, int W, int H, int n) {
     case 14: return GirarTono(d, o, 300);
     case 15: return PorPixel(d, o, [](Rgb p) { return Saturacion(p, 2.0); });
     case 16: return PorPixel(d, o, [](Rgb p) { return Saturacion(p, 0.5); });
-    case 17: case 18:  // waves in every channel
-        return PorTabla(d, o, [](double v, double k) { return 127.5 * (1 - std::cos(v / 255 * M_PI * k)); },
+    case 17: case 18:  // waves in every channel: dark middle tones, or three bands
+        return PorTabla(d, o, [](double v, double k) { return 127.5 * (1 + std::cos(v / 255 * M_PI * k)); },
                         n == 17 ? 2.0 : 3.0);
-    case 19: return Degradado(d, o, {{0, 0x101848}, {255, 0xFFD040}});
+    case 19: return Degradado(d, o, {{0, 0x400010}, {255, 0xA0FFF0}});
     case 20: return Degradado(d, o, {{0, 0x004020}, {255, 0xFFB0D0}});
     case 21: return Degradado(d, o, {{0, 0x300050}, {255, 0xFFFF60}});
     case 22: return Degradado(d, o, {{0, 0x200040}, {128, 0xE03060}, {255, 0xFFE0A0}});
@@ -433,7 +438,13 @@ void EfectoLumen(Pixeles& d, const Pixeles& o, int W, int H, int n) {
         return ConApoyo(d, o, m, [](Rgb, Rgb e) { return Rgb{255 - e.r, 255 - e.g, 255 - e.b}; });
     }
     case 30: return PorTabla(d, o, [](double v, double) { return 255 * std::log1p(v) / std::log(256.0); }, 0);
-    case 31: return PorTabla(d, o, [](double v, double) { return 255 * (std::exp(v / 255) - 1) / (M_E - 1); }, 0);
+    case 31: {  // scan lines: every third row of the picture dimmed
+        PorPixel(d, o, [](Rgb p) { return Rgb{p.r * 1.1, p.g * 1.1, p.b * 1.1}; });
+        for (int y = 0; y < H; y += 3)
+            for (uint8_t *q = d.Fila(y), *fin = q + 4 * size_t(W); q < fin; q += 4)
+                for (int c = 0; c < 3; ++c) q[c] = uint8_t(q[c] * 35 / 100);
+        return;
+    }
     case 32: return PorTabla(d, o, [](double v, double) { return (v - 127.5) * 2 + 127.5; }, 0);
     case 33: return PorTabla(d, o, [](double v, double) { return v * 0.5 + 64; }, 0);
     case 34: return PorPixel(d, o, [](Rgb p) { return Rgb{p.r + 30, p.g + 5, p.b - 30}; });

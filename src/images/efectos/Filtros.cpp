@@ -102,9 +102,16 @@ void FiltroBilateral(Pixeles& destino, const Pixeles& origen, int W, int H) {
 }
 
 void zInitSpatialDomainC(Pixeles& destino, const Pixeles& origen, int W, int H, double sigmaEspacio,
-                         double sigmaIntensidad) {
-    cv::Mat suave;
-    cv::edgePreservingFilter(BgrDe(origen), suave, cv::RECURS_FILTER, float(sigmaEspacio), float(sigmaIntensidad));
+                         double sigmaColor) {
+    // Two bilateral passes at half size: flat patches of colour with their
+    // borders kept, at a quarter of the cost of the full size.
+    cv::Mat mitad, suave;
+    cv::resize(BgrDe(origen), mitad, cv::Size(std::max(1, W / 2), std::max(1, H / 2)), 0, 0, cv::INTER_AREA);
+    for (int pasada = 0; pasada < 2; ++pasada) {
+        cv::bilateralFilter(mitad, suave, 9, sigmaColor, sigmaEspacio);
+        std::swap(mitad, suave);
+    }
+    cv::resize(mitad, suave, cv::Size(W, H), 0, 0, cv::INTER_LINEAR);
     PrepararDestino(destino, W, H);
     PonerBgr(destino, suave);
 }
@@ -187,12 +194,19 @@ void DrawCartoonizerP(Pixeles& destino, const Pixeles& origen, int W, int H, int
     ContourApplyC(destino, suave, W, H, lab);
 }
 
-void PencilPlusCALC(Pixeles& destino, const Pixeles& origen, int W, int H, double sigmaEspacio,
-                    double sigmaIntensidad, double sombra) {
-    cv::Mat gris, color;
-    cv::pencilSketch(BgrDe(origen), gris, color, float(sigmaEspacio), float(sigmaIntensidad), float(sombra));
+void PencilPlusCALC(Pixeles& destino, const Pixeles& origen, int W, int H, double radio, double sombra) {
+    // The colour dodge of the grey by its blurred negative: flat areas go
+    // white, edges leave graphite strokes as wide as the blur; a little of
+    // the grey is laid back as shading.
+    const cv::Mat gris = GrisDe(origen);
+    cv::Mat negativo, borroso, trazo;
+    cv::bitwise_not(gris, negativo);
+    cv::GaussianBlur(negativo, borroso, cv::Size(0, 0), radio);
+    cv::bitwise_not(borroso, borroso);
+    cv::divide(gris, borroso, trazo, 255.0);
+    cv::addWeighted(trazo, 1 - sombra, gris, sombra, 0, trazo);
     PrepararDestino(destino, W, H);
-    PonerGris(destino, gris);
+    PonerGris(destino, trazo);
 }
 
 void FilmNoirCALC(Pixeles& destino, const Pixeles& origen, int W, int H, double contraste, double vineta) {
