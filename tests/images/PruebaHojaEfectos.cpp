@@ -5,6 +5,7 @@
 // FONTARIA_HOJA_IMAGEN takes a picture file instead, for a colour photograph.
 
 #include "images/Imagen.h"
+#include "images/efectos/Efectos.h"
 #include "images/efectos/EfectosRGB.h"
 #include "images/efectos/Tramados.h"
 #include "store/Conexion.h"
@@ -30,6 +31,19 @@ QImage FotoDeFabrica(int clave) {
 QImage Hoja(const QImage& foto, int columnas) {
     const Pixeles o = LeerPixeles(foto);
     QList<std::pair<QString, QImage>> mosaicos{{QStringLiteral("Original"), foto}};
+    using Efecto = void (*)(Pixeles&, const Pixeles&, int, int);
+    const std::pair<const char*, Efecto> botones[] = {
+        {"Bilateral Filtro", FiltroBilateral},
+        {"Cartonize", [](Pixeles& d, const Pixeles& o, int W, int H) { DrawCartoonizerP(d, o, W, H); }},
+        {"Pencil Drawing", [](Pixeles& d, const Pixeles& o, int W, int H) { PencilPlusCALC(d, o, W, H); }},
+        {"Film Noir", [](Pixeles& d, const Pixeles& o, int W, int H) { FilmNoirCALC(d, o, W, H); }},
+        {"Imagen en 3D", [](Pixeles& d, const Pixeles& o, int W, int H) { ModernArtSculture(d, o, W, H); }},
+    };
+    for (const auto& [nombre, efecto] : botones) {
+        Pixeles d;
+        efecto(d, o, o.W, o.H);
+        mosaicos.append({QString::fromLatin1(nombre), PintarPixeles(d)});
+    }
     for (int f = 1; f <= NumeroEfectosRGB; ++f) {
         Pixeles d;
         RGBEffectsCALC(d, o, o.W, o.H, f);

@@ -38,7 +38,7 @@ void QuantizeLuminanceC(Pixeles& destino, const Pixeles& origen, int W, int H, i
 void ContourBySobel(Pixeles& destino, const Pixeles& origen, int W, int H);
 void ContourBySobel2(Pixeles& destino, const Pixeles& origen, int W, int H, int umbral = 80);
 void ContourApplyC(Pixeles& destino, const Pixeles& origen, int W, int H, const Pixeles& lineas);
-void DrawCartoonizerP(Pixeles& destino, const Pixeles& origen, int W, int H, int niveles = 8, int umbral = 80);
+void DrawCartoonizerP(Pixeles& destino, const Pixeles& origen, int W, int H, int niveles = 8, int umbral = 100);
 
 // "Pencil Drawing": a grey pencil sketch; `radio` the width of the strokes
 // in pixels, `sombra` 0..1 the share of the grey laid back as shading.

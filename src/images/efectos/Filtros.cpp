@@ -188,8 +188,9 @@ void DrawCartoonizerP(Pixeles& destino, const Pixeles& origen, int W, int H, int
     cv::Mat bgr, lab3;
     cv::cvtColor(MatDe(lab), lab3, cv::COLOR_BGRA2BGR);
     cv::cvtColor(lab3, bgr, cv::COLOR_Lab2BGR);
+    // The lines come from the smoothed picture: texture leaves none.
+    ContourBySobel(lineas, suave, W, H);
     PonerBgr(suave, bgr);
-    ContourBySobel(lineas, origen, W, H);
     ContourBySobel2(lab, lineas, W, H, umbral);
     ContourApplyC(destino, suave, W, H, lab);
 }

@@ -1,6 +1,6 @@
 #include "images/screens/VentanaListaEfectos.h"
 
-#include "images/efectos/EfectoImagenNivo.h"
+#include "entry/screens/AnchoVista.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
 #include "widgets/VistaGrid.h"
@@ -23,14 +23,15 @@ VentanaListaEfectos::VentanaListaEfectos(ListaEfectos& logica, const QString& no
     spread1_ = new VistaGrid(this);
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread1_->MostrarGrid(&logica_.Spread1);
-    spread1_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("Ordered (Bayer 8x8)")) * 2);
-    centro->addWidget(spread1_, 1);
+    FijarAnchoAlContenido(spread1_);
+    centro->addWidget(spread1_);
     picture1_ = new QLabel(this);
     picture1_->setObjectName(QStringLiteral("Picture1"));
     picture1_->setAlignment(Qt::AlignCenter);
     picture1_->setMinimumSize(260, 260);
     picture1_->setFrameShape(QFrame::StyledPanel);
-    centro->addWidget(picture1_, 2);
+    picture1_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    centro->addWidget(picture1_, 1);
     capa->addLayout(centro, 1);
 
     auto* pie = new QHBoxLayout;
@@ -74,8 +75,13 @@ void VentanaListaEfectos::MostrarVista() {
         picture1_->clear();
         return;
     }
-    const QSize caja = picture1_->contentsRect().size().boundedTo(QSize(480, 480)).expandedTo(QSize(240, 240));
+    const QSize caja = picture1_->contentsRect().size();
     picture1_->setPixmap(QPixmap::fromImage(v.scaled(caja, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+}
+
+void VentanaListaEfectos::resizeEvent(QResizeEvent* e) {
+    QDialog::resizeEvent(e);
+    MostrarVista();
 }
 
 std::optional<int> VentanaListaEfectos::ElegirEfectoRGB(const QImage& imagen, const ConfiguracionTapiz& tapiz,

@@ -24,6 +24,9 @@ public:
     static std::optional<int> ElegirEfectoRGB(const QImage& imagen, const ConfiguracionTapiz& tapiz, QWidget* padre);
     static std::optional<int> ElegirDithering(const QImage& imagen, const ConfiguracionTapiz& tapiz, QWidget* padre);
 
+protected:
+    void resizeEvent(QResizeEvent* e) override;
+
 private:
     void MostrarVista();
     ListaEfectos& logica_;
