@@ -1,5 +1,6 @@
 #include "widgets/PanelTapiz.h"
 
+#include "images/efectos/EfectoTapiz.h"
 #include "shell/ColoqueImagen.h"
 
 #include <QFileInfo>
@@ -16,12 +17,18 @@ PanelTapiz::PanelTapiz(QWidget* padre) : QWidget(padre) {
 bool PanelTapiz::Aplicar(const ConfiguracionTapiz& c) {
     c_ = c;
     const QFileInfo info(c.RutaTapiz);
-    if (c.RutaTapiz != ruta_ || info.lastModified() != fecha_) {
+    const bool otroArchivo = c.RutaTapiz != ruta_ || info.lastModified() != fecha_;
+    if (otroArchivo) {
         ruta_ = c.RutaTapiz;
         fecha_ = info.lastModified();
         QImageReader lector(c.RutaTapiz);
         lector.setAutoTransform(true);
-        imagen_ = lector.read();
+        original_ = lector.read();
+    }
+    // Record 5: the picture wears its effect; 0 shows it as it is.
+    if (otroArchivo || c.EfectoTapiz != efecto_) {
+        efecto_ = c.EfectoTapiz;
+        imagen_ = AplicarEfectoTapiz(original_, efecto_);
     }
     update();
     return !imagen_.isNull();

@@ -14,12 +14,13 @@ class PanelTapiz : public QWidget {
 public:
     explicit PanelTapiz(QWidget* padre = nullptr);
 
-    // Loads the picture of record 1 (again only when the file changed) and
-    // keeps the placement settings.  False when the picture can't be read;
-    // the panel then shows its colour alone.
+    // Loads the picture of record 1 (again only when the file changed),
+    // gives it the effect of record 5 and keeps the placement settings.
+    // False when the picture can't be read; the panel then shows its colour
+    // alone.
     bool Aplicar(const ConfiguracionTapiz& c);
     void PonerEscala(double escala);
-    const QImage& Imagen() const { return imagen_; }
+    const QImage& Imagen() const { return imagen_; }  // with its effect
     // Where the picture is drawn now, in the panel's coordinates.
     QRect RectImagen() const;
 
@@ -28,7 +29,8 @@ protected:
 
 private:
     ConfiguracionTapiz c_;
-    QImage imagen_;
+    QImage original_, imagen_;  // as read, and with its effect
+    int efecto_ = 0;
     QString ruta_;
     QDateTime fecha_;
     double escala_ = 1.0;
