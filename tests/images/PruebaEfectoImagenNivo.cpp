@@ -99,7 +99,7 @@ TEST_F(EfectoPrueba, LasListasEligenLaFilaYCancelarNoCambiaNada) {
 }
 
 TEST(ListaEfectos, LasFilasYLaVistaReducida) {
-    RGBColors rgb;
+    ListaEfectos rgb = RGBColors();
     ASSERT_EQ(rgb.Spread1.Filas(), 111);
     EXPECT_EQ(rgb.Spread1.Texto(111, 1), "Lumen Effect (37)");
     rgb.Cargar(Foto(600, 300));
@@ -108,7 +108,7 @@ TEST(ListaEfectos, LasFilasYLaVistaReducida) {
     EXPECT_EQ(rgb.Aceptar(), 49);
     EXPECT_EQ(rgb.Vista().size(), QSize(240, 120));
 
-    Dithering dit;
+    ListaEfectos dit = Dithering();
     ASSERT_EQ(dit.Spread1.Filas(), 13);
     EXPECT_EQ(dit.Spread1.Texto(13, 1), "Ordered (Bayer 8x8)");
     dit.Cargar(Foto(600, 300), dit.Check1());

@@ -4,8 +4,9 @@
 #include "images/efectos/EfectosRGB.h"
 #include "images/efectos/Tramados.h"
 
-ListaEfectos::ListaEfectos(const QStringList& nombres, Funcion efecto, const QString& encabezado)
-    : Spread1(1), efecto_(efecto) {
+ListaEfectos::ListaEfectos(const QStringList& nombres, Funcion efecto, const QString& encabezado,
+                           const QString& titulo, bool conCheck1)
+    : Spread1(1), efecto_(efecto), titulo_(titulo), conCheck1_(conCheck1) {
     // FillSpread: one locked row per effect, its number in the row header.
     Spread1.PonerEncabezados(1, encabezado);
     Spread1.Col(1).ancho = 24;
@@ -38,14 +39,18 @@ void ListaEfectos::ElegirFila(int fila) {
     vista_ = PintarPixeles(d);
 }
 
-RGBColors::RGBColors() : ListaEfectos(NombresEfectosRGB(), RGBEffectsCALC, QStringLiteral("Efectos RGB")) {}
-QString RGBColors::Titulo() { return QStringLiteral("Efectos RGB"); }
-
-Dithering::Dithering() : ListaEfectos(NombresDithering(), AplicarDithering, QStringLiteral("Método")) {}
-QString Dithering::Titulo() { return QStringLiteral("Dithering"); }
-
-void Dithering::PonerCheck1(bool si) {
+void ListaEfectos::PonerCheck1(bool si) {
     check1_ = si;
     PonerReducida(si);
     ElegirFila(Fila());
+}
+
+ListaEfectos RGBColors() {
+    return ListaEfectos(NombresEfectosRGB(), RGBEffectsCALC, QStringLiteral("Efectos RGB"),
+                        QStringLiteral("Efectos RGB"), false);
+}
+
+ListaEfectos Dithering() {
+    return ListaEfectos(NombresDithering(), AplicarDithering, QStringLiteral("Método"), QStringLiteral("Dithering"),
+                        true);
 }

@@ -11,9 +11,12 @@
 class ListaEfectos {
 public:
     using Funcion = void (*)(Pixeles&, const Pixeles&, int, int, int);
-    ListaEfectos(const QStringList& nombres, Funcion efecto, const QString& encabezado);
+    // `conCheck1`: the list offers Check1, the choice of a reduced preview.
+    ListaEfectos(const QStringList& nombres, Funcion efecto, const QString& encabezado, const QString& titulo,
+                 bool conCheck1);
 
     Grid Spread1;
+    const QString& Titulo() const { return titulo_; }
 
     // The picture the previews stand for; `reducida` previews on a copy of
     // at most ImagenReducida's size, else on the whole picture.
@@ -25,31 +28,23 @@ public:
     // Button2: the row chosen.
     int Aceptar() const { return fila_; }
 
-protected:
-    void PonerReducida(bool reducida);
+    // Check1, where the list has it: the preview reduced or whole.
+    bool TieneCheck1() const { return conCheck1_; }
+    bool Check1() const { return check1_; }
+    void PonerCheck1(bool si);
 
 private:
+    void PonerReducida(bool reducida);
+
     Funcion efecto_;
+    QString titulo_;
+    bool conCheck1_ = false, check1_ = true;
     QImage imagen_, muestra_, vista_;
     Pixeles origen_;
     int fila_ = 1;
 };
 
 // frmRGBColors: the 111 colour effects.
-class RGBColors : public ListaEfectos {
-public:
-    RGBColors();
-    static QString Titulo();
-};
-
-// frmDithering: the 13 two-colour methods; Check1 previews reduced.
-class Dithering : public ListaEfectos {
-public:
-    Dithering();
-    static QString Titulo();
-    bool Check1() const { return check1_; }
-    void PonerCheck1(bool si);
-
-private:
-    bool check1_ = true;
-};
+ListaEfectos RGBColors();
+// frmDithering: the 13 two-colour methods, with Check1 (reduced preview).
+ListaEfectos Dithering();

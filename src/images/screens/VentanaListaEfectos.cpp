@@ -11,11 +11,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-VentanaListaEfectos::VentanaListaEfectos(ListaEfectos& logica, const QString& nombre, const QString& titulo,
-                                         Dithering* dithering, const ConfiguracionTapiz& tapiz, QWidget* padre)
+VentanaListaEfectos::VentanaListaEfectos(ListaEfectos& logica, const QString& nombre,
+                                         const ConfiguracionTapiz& tapiz, QWidget* padre)
     : QDialog(padre), logica_(logica) {
     setObjectName(nombre);
-    setWindowTitle(titulo);
+    setWindowTitle(logica.Titulo());
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     tip_ = new NivoToolTip(this);
     auto* capa = new QVBoxLayout(this);
@@ -35,14 +35,14 @@ VentanaListaEfectos::VentanaListaEfectos(ListaEfectos& logica, const QString& no
     capa->addLayout(centro, 1);
 
     auto* pie = new QHBoxLayout;
-    if (dithering) {
+    if (logica_.TieneCheck1()) {
         auto* check1 = new QCheckBox(QStringLiteral("Vista reducida"), this);
         check1->setObjectName(QStringLiteral("Check1"));
-        check1->setChecked(dithering->Check1());
+        check1->setChecked(logica_.Check1());
         pie->addWidget(check1);
-        connect(check1, &QCheckBox::toggled, this, [this, dithering](bool si) {
+        connect(check1, &QCheckBox::toggled, this, [this](bool si) {
             CursorEspera espera;
-            dithering->PonerCheck1(si);
+            logica_.PonerCheck1(si);
             MostrarVista();
         });
     }
@@ -86,18 +86,18 @@ void VentanaListaEfectos::resizeEvent(QResizeEvent* e) {
 
 std::optional<int> VentanaListaEfectos::ElegirEfectoRGB(const QImage& imagen, const ConfiguracionTapiz& tapiz,
                                                         QWidget* padre) {
-    RGBColors logica;
+    ListaEfectos logica = RGBColors();
     logica.Cargar(imagen);
-    VentanaListaEfectos v(logica, QStringLiteral("RGBColors"), RGBColors::Titulo(), nullptr, tapiz, padre);
+    VentanaListaEfectos v(logica, QStringLiteral("RGBColors"), tapiz, padre);
     if (v.exec() != QDialog::Accepted) return std::nullopt;
     return logica.Aceptar();
 }
 
 std::optional<int> VentanaListaEfectos::ElegirDithering(const QImage& imagen, const ConfiguracionTapiz& tapiz,
                                                         QWidget* padre) {
-    Dithering logica;
+    ListaEfectos logica = Dithering();
     logica.Cargar(imagen, logica.Check1());
-    VentanaListaEfectos v(logica, QStringLiteral("Dithering"), Dithering::Titulo(), &logica, tapiz, padre);
+    VentanaListaEfectos v(logica, QStringLiteral("Dithering"), tapiz, padre);
     if (v.exec() != QDialog::Accepted) return std::nullopt;
     return logica.Aceptar();
 }

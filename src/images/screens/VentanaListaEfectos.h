@@ -16,8 +16,8 @@ struct ConfiguracionTapiz;
 class VentanaListaEfectos : public QDialog {
     Q_OBJECT
 public:
-    VentanaListaEfectos(ListaEfectos& logica, const QString& nombre, const QString& titulo, Dithering* dithering,
-                        const ConfiguracionTapiz& tapiz, QWidget* padre = nullptr);
+    VentanaListaEfectos(ListaEfectos& logica, const QString& nombre, const ConfiguracionTapiz& tapiz,
+                        QWidget* padre = nullptr);
     ~VentanaListaEfectos() override;
 
     // frmRGBColors and frmDithering over `imagen`: the row accepted.
