@@ -11,8 +11,11 @@
 // without a solve time, so that the run always ends.
 //
 //   build-bench/bench/BancoPueblos [--corridas 11] [--tope 30] [--carpeta DIR]
-//                                  [--programa build-bench/fontaria] [--solo REGEX]
-//                                  [benchmark options]
+//                                  [--programa build-bench/fontaria] [--antes OTRO]
+//                                  [--solo REGEX] [benchmark options]
+//
+// --antes runs an earlier build of the program on the same files, its runs
+// alternating with ours, and shows its process time and memory beside.
 //
 // --solo keeps only the networks whose name matches, e.g. "pueblo-32k".
 
@@ -36,15 +39,23 @@
 #include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <string>
 
 namespace {
 
+// The whole process of one program on one network.
+struct Medida {
+    int estado = 0;
+    double msProceso = -1, mibMemoria = 0;
+    bool tope = false;
+    std::vector<double> tiempos;
+};
+
 struct Fila {
     QString nombre, archivo;
     size_t red = 0;  // index into the networks and their loaded projects
-    int estado = 0;
-    double msProceso = -1, mibMemoria = 0;
+    Medida nuevo, antes;
     bool tope = false;
 };
 
@@ -140,21 +151,33 @@ private:
 };
 
 // The median of up to `corridas` runs (fewer when they pass 20 s in all),
-// the largest peak memory; the first run is also the cap check.
-void MedirProceso(Fila& f, Lanzador& lanzador, int corridas, double topeS) {
-    std::vector<double> tiempos;
-    double ms = 0, mib = 0, total = 0;
-    for (int k = 0; k < corridas && (k < 3 || total < 20000); ++k) {
-        if (!lanzador.Correr(f.archivo, topeS, ms, mib, f.estado)) {
-            f.tope = true;
+// the largest peak memory; the first run is also the cap check.  With a
+// program to compare, its runs alternate with ours, so that a change in the
+// machine's load falls on both alike.
+void MedirProceso(Fila& f, Lanzador& nuevo, Lanzador* antes, int corridas, double topeS) {
+    double total = 0;
+    auto correr = [&](Lanzador& l, Medida& m) {
+        if (m.tope) return;
+        double ms = 0, mib = 0;
+        if (!l.Correr(f.archivo, topeS, ms, mib, m.estado)) {
+            m.tope = true;
             return;
         }
-        tiempos.push_back(ms);
+        m.tiempos.push_back(ms);
         total += ms;
-        f.mibMemoria = std::max(f.mibMemoria, mib);
+        m.mibMemoria = std::max(m.mibMemoria, mib);
+    };
+    for (int k = 0; k < corridas && (k < 3 || total < 20000); ++k) {
+        correr(nuevo, f.nuevo);
+        if (antes) correr(*antes, f.antes);
+        if (f.nuevo.tope && (!antes || f.antes.tope)) break;
     }
-    std::sort(tiempos.begin(), tiempos.end());
-    f.msProceso = tiempos[tiempos.size() / 2];
+    for (Medida* m : {&f.nuevo, &f.antes}) {
+        if (m->tiempos.empty()) continue;
+        std::sort(m->tiempos.begin(), m->tiempos.end());
+        m->msProceso = m->tiempos[m->tiempos.size() / 2];
+    }
+    f.tope = f.nuevo.tope;
 }
 
 // Keeps the time per solve of each benchmark besides printing it.
@@ -186,7 +209,10 @@ int main(int argc, char** argv) {
     const double topeS = Opcion(args, QStringLiteral("--tope"), QStringLiteral("30")).toDouble();
     const std::string programa =
         Opcion(args, QStringLiteral("--programa"), QStringLiteral(FONTARIA_RUTA_PROGRAMA "/fontaria")).toStdString();
+    const QString antes = Opcion(args, QStringLiteral("--antes"), QString());
     Lanzador lanzador(programa);
+    std::unique_ptr<Lanzador> lanzadorAntes;
+    if (!antes.isEmpty()) lanzadorAntes = std::make_unique<Lanzador>(antes.toStdString());
     QTemporaryDir temporal;
     const QString carpeta = Opcion(args, QStringLiteral("--carpeta"), temporal.path());
     const QRegularExpression solo(Opcion(args, QStringLiteral("--solo"), QString()));
@@ -220,9 +246,9 @@ int main(int argc, char** argv) {
             fprintf(stderr, "%s: %s\n", qPrintable(f.nombre), qPrintable(error));
             return 1;
         }
-        MedirProceso(f, lanzador, corridas, topeS);
+        MedirProceso(f, lanzador, lanzadorAntes.get(), corridas, topeS);
         fprintf(stderr, "%s: proceso %s\n", qPrintable(f.nombre),
-                f.tope ? "pasó el tope" : qPrintable(QString::number(f.msProceso, 'f', 1) + " ms"));
+                f.tope ? "pasó el tope" : qPrintable(QString::number(f.nuevo.msProceso, 'f', 1) + " ms"));
         filas.push_back(f);
         if (f.tope) continue;
         ProyectoAcueducto& p = proyectos[k];
@@ -250,15 +276,21 @@ int main(int argc, char** argv) {
     Reportero reportero;
     benchmark::RunSpecifiedBenchmarks(&reportero);
 
-    printf("\n%-20s %7s %7s %10s %10s %12s %9s %6s\n", "red", "tramos", "nodos", "iter", "solve ms", "proceso ms",
-           "MiB", "salida");
+    // The earlier program's process, when one was given to compare.
+    auto columnasAntes = [&](const Fila& f) {
+        if (!lanzadorAntes) return QString();
+        if (f.antes.tope) return QStringLiteral("%1 %2").arg(QStringLiteral("> %1 s").arg(topeS), 12).arg(QStringLiteral("-"), 9);
+        return QStringLiteral("%1 %2").arg(f.antes.msProceso, 12, 'f', 2).arg(f.antes.mibMemoria, 9, 'f', 1);
+    };
+    printf("\n%-20s %7s %7s %10s %10s %12s %9s %6s%s\n", "red", "tramos", "nodos", "iter", "solve ms", "proceso ms",
+           "MiB", "salida", lanzadorAntes ? "   antes: proceso ms       MiB" : "");
     for (const Fila& f : filas) {
         const ProyectoAcueducto& p = proyectos[f.red];
         const auto medido = reportero.ms.find(f.nombre.toStdString());
         if (f.tope) {
-            printf("%-20s %7d %7s %10s %10s %12s %9s %6s\n", qPrintable(f.nombre),
+            printf("%-20s %7d %7s %10s %10s %12s %9s %6s %s\n", qPrintable(f.nombre),
                    int(redes[f.red].second.tramos.size()), "-", "-", "-",
-                   qPrintable(QStringLiteral("> %1 s").arg(topeS)), "-", "-");
+                   qPrintable(QStringLiteral("> %1 s").arg(topeS)), "-", "-", qPrintable(columnasAntes(f)));
             continue;
         }
         QStringList pasos;
@@ -269,9 +301,10 @@ int main(int argc, char** argv) {
         }
         const QString solve =
             medido == reportero.ms.end() ? QStringLiteral("-") : QString::number(medido->second, 'f', 2);
-        printf("%-20s %7d %7d %9s%s %10s %12.2f %9.1f %6d\n", qPrintable(f.nombre), int(p.NumeroTramos),
+        printf("%-20s %7d %7d %9s%s %10s %12.2f %9.1f %6d %s\n", qPrintable(f.nombre), int(p.NumeroTramos),
                int(p.NumeroNodosACU), pasos.isEmpty() ? "-" : qPrintable(pasos.join(QLatin1Char('+'))),
-               limite ? "!" : " ", qPrintable(solve), f.msProceso, f.mibMemoria, f.estado);
+               limite ? "!" : " ", qPrintable(solve), f.nuevo.msProceso, f.nuevo.mibMemoria, f.nuevo.estado,
+               qPrintable(columnasAntes(f)));
     }
     printf("\niter: iterations of each pass of the solve; \"!\" a pass that reached the limit.\n");
     return 0;
