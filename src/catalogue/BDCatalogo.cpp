@@ -43,7 +43,7 @@ void BDCatalogo::ConfigurarSpread() {
         Spread1.PonerEncabezado(2, ColFiguras + i, t_.encabezados2.value(i));
         Columna& c = Spread1.Col(ColFiguras + i);
         c.tipo = TipoCelda::Numero;
-        c.ancho = 11;
+        c.ancho = t_.automatico ? 15 : 11;
     }
     // The upper header row pairs the figures of one use.
     for (int i = 0; i + 1 < t_.figuras.size(); i += 2) Spread1.UnirEncabezado(1, ColFiguras + i, 1, 2);

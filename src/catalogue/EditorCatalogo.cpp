@@ -22,6 +22,12 @@ EditorCatalogo::EditorCatalogo(BDCatalogo& bd, Sesion& s, Dialogos& d, Pantallas
 
 int EditorCatalogo::Registros() const { return bd_.Rs().Abierto() ? bd_.Rs().RecordCount() : 0; }
 
+QString EditorCatalogo::Posicion() const {
+    if (nuevo_) return QStringLiteral("Registro Nuevo");
+    return QStringLiteral("Registro ") + Formato(registro_, QStringLiteral("#,##0")) + QStringLiteral(" de ") +
+           Formato(Registros(), QStringLiteral("#,##0"));
+}
+
 void EditorCatalogo::Cargar(int filaGrid) {
     const int r = bd_.Registro(filaGrid);
     Mostrar(r > 0 ? r : std::min(1, Registros()));

@@ -30,6 +30,8 @@ public:
     int Registro() const { return registro_; }
     int Registros() const;
     bool BarraHabilitada() const { return Registros() > 0; }
+    // "Registro 5 de 21", "Registro Nuevo" for a record being created.
+    QString Posicion() const;
     // The boxes as they stand.
     const QString& TextoClave() const { return clave_; }
     const QString& TextoNombre() const { return nombre_; }

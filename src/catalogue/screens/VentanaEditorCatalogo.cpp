@@ -55,7 +55,13 @@ VentanaEditorCatalogo::VentanaEditorCatalogo(EditorCatalogo& logica, const TipoC
     barra_ = new QScrollBar(Qt::Horizontal, this);
     barra_->setObjectName(QStringLiteral("Registros"));
     barra_->setPageStep(1);
-    contenido->addWidget(barra_);
+    posicion_ = new QLabel(this);
+    posicion_->setObjectName(QStringLiteral("Posicion"));
+    posicion_->setMinimumWidth(posicion_->fontMetrics().horizontalAdvance(QStringLiteral("Registro 00.000 de 00.000")));
+    auto* desplazar = new QHBoxLayout;
+    desplazar->addWidget(barra_, 1);
+    desplazar->addWidget(posicion_);
+    contenido->addLayout(desplazar);
     auto* pie = new QHBoxLayout;
     auto* crear = BotonNivo(QStringLiteral("Crear"), QStringLiteral("Crear"), this, QStyle::SP_FileIcon,
                             QStringLiteral("Crear nueva pieza sanitaria. "));
@@ -190,6 +196,7 @@ void VentanaEditorCatalogo::Mostrar() {
     barra_->setRange(std::min(1, logica_.Registros()), logica_.Registros());
     barra_->setValue(logica_.Registro());
     barra_->setEnabled(logica_.BarraHabilitada());
+    posicion_->setText(logica_.Posicion());
 }
 
 void VentanaEditorCatalogo::Enfocar() {

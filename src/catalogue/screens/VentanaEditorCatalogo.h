@@ -46,5 +46,6 @@ private:
     QLabel* automatico_ = nullptr;
     QLabel* foto_ = nullptr;
     QScrollBar* barra_ = nullptr;
+    QLabel* posicion_ = nullptr;
     NivoToolTip* tip_ = nullptr;
 };
