@@ -27,6 +27,16 @@ QImage Foto(QColor c) {
 
 struct BDPrueba : RamalesFilasPrueba {
     PantallasFotoFalsas fotos;
+    std::unique_ptr<BDPiezas> bd;
+    std::unique_ptr<NewPieza> np;
+    // The fixture catalogue from the menu, its record editor on a grid row.
+    EditorCatalogo& AbrirEditor(int fila) {
+        bd = std::make_unique<BDPiezas>(s, d);
+        bd->Cargar();
+        np = std::make_unique<NewPieza>(*bd, s, d, fotos);
+        np->Logica().Cargar(fila);
+        return np->Logica();
+    }
     QString Catalogo() const { return s.ConexionCatalogo.Ruta(); }
     // A new fixture through the editor: "Crear", the name, the picture, "Salvar".
     bool NuevaPieza(EditorCatalogo& e, const QString& nombre, const QString& clave = QString()) {
@@ -130,22 +140,18 @@ TEST_F(BDPrueba, EliminarClavesReservadasRehusadoConSusTextos) {
 // "Crear" offers the count plus 1: after 22 and 23 are made and 22 deleted,
 // it offers 23 again, which the save refuses.
 TEST_F(BDPrueba, CrearOfreceUnaClaveQueChocaTrasEliminar) {
-    BDPiezas bd(s, d);
-    bd.Cargar();
-    NewPieza np(bd, s, d, fotos);
-    EditorCatalogo& e = np.Logica();
-    e.Cargar(1);
+    EditorCatalogo& e = AbrirEditor(1);
     ASSERT_TRUE(NuevaPieza(e, QStringLiteral(" TINA DE HIDROMASAJE ")));
     ASSERT_TRUE(NuevaPieza(e, QStringLiteral("LAVADERO")));
-    EXPECT_EQ(Clave(bd.Logica(), 23), 23);
-    EXPECT_EQ(bd.Spread1().Texto(22, 3), QStringLiteral("TINA DE HIDROMASAJE"));
-    EXPECT_EQ(bd.Logica().FilaActiva(), 23);
-    bd.Logica().PonerActiva(22);
+    EXPECT_EQ(Clave(bd->Logica(), 23), 23);
+    EXPECT_EQ(bd->Spread1().Texto(22, 3), QStringLiteral("TINA DE HIDROMASAJE"));
+    EXPECT_EQ(bd->Logica().FilaActiva(), 23);
+    bd->Logica().PonerActiva(22);
     d.respuestas = {Respuesta::Si};
-    bd.Eliminar();
+    bd->Eliminar();
     MensajeEs(d.Ultimo(), QStringLiteral("Clave de la Pieza: ( 22 )TINA DE HIDROMASAJE¿Esta Seguro de Eliminar la Pieza?"),
               QStringLiteral("Eliminar Piezas Sanitarias..."));
-    ASSERT_EQ(bd.Logica().Filas(), 22);
+    ASSERT_EQ(bd->Logica().Filas(), 22);
 
     e.Crear();
     EXPECT_EQ(e.TextoClave(), QStringLiteral("23"));
@@ -158,19 +164,15 @@ TEST_F(BDPrueba, CrearOfreceUnaClaveQueChocaTrasEliminar) {
     EXPECT_EQ(e.TextoNombre(), QStringLiteral("DUCHA TELÉFONO"));
     e.CambiarClave(QStringLiteral("22"));
     ASSERT_TRUE(e.Salvar());
-    EXPECT_EQ(bd.Logica().Cuenta(), QStringLiteral("23"));
-    EXPECT_EQ(Clave(bd.Logica(), 22), 22);
+    EXPECT_EQ(bd->Logica().Cuenta(), QStringLiteral("23"));
+    EXPECT_EQ(Clave(bd->Logica(), 22), 22);
     EXPECT_EQ(e.Registro(), 22);
 }
 
 // No key or no name: the focus goes there and nothing else happens; a key
 // that is no whole number gets the number message, in every locale.
 TEST_F(BDPrueba, SalvarSinClaveONombreOConClaveNoEntera) {
-    BDPiezas bd(s, d);
-    bd.Cargar();
-    NewPieza np(bd, s, d, fotos);
-    EditorCatalogo& e = np.Logica();
-    e.Cargar(1);
+    EditorCatalogo& e = AbrirEditor(1);
     e.Crear();
     EXPECT_FALSE(e.Salvar());
     EXPECT_EQ(e.FocoPedido(), EditorCatalogo::Nombre);
@@ -191,16 +193,12 @@ TEST_F(BDPrueba, SalvarSinClaveONombreOConClaveNoEntera) {
         EXPECT_FALSE(e.Salvar());
         EXPECT_TRUE(d.Ultimo().texto.startsWith(QStringLiteral("\"veinte\" no es un número")));
     }
-    EXPECT_EQ(bd.Logica().Filas(), 21);
+    EXPECT_EQ(bd->Logica().Filas(), 21);
 }
 
 TEST_F(BDPrueba, PiezaNuevaConFotoGuardadaYLeidaDelArchivo) {
     const MarcasPrueba marcas("es_ES");
-    BDPiezas bd(s, d);
-    bd.Cargar();
-    NewPieza np(bd, s, d, fotos);
-    EditorCatalogo& e = np.Logica();
-    e.Cargar(1);
+    EditorCatalogo& e = AbrirEditor(1);
     e.Crear();
     e.CambiarNombre(QStringLiteral("LAVADERO"));
     e.CambiarFigura(0, QStringLiteral("1,5"));
@@ -216,7 +214,7 @@ TEST_F(BDPrueba, PiezaNuevaConFotoGuardadaYLeidaDelArchivo) {
     e.CambiarFigura(3, QStringLiteral("1250"));
     ASSERT_TRUE(e.Salvar());
     EXPECT_FALSE(e.Modificado());
-    EXPECT_EQ(bd.Spread1().Imagen(22, 2).pixelColor(2, 2), QColor(Qt::red));
+    EXPECT_EQ(bd->Spread1().Imagen(22, 2).pixelColor(2, 2), QColor(Qt::red));
 
     Conexion c;
     ASSERT_EQ(AbrirConexion(c, Catalogo()), 0);
@@ -283,11 +281,7 @@ TEST_F(BDPrueba, FigurasDeUnaClaveReservadaLasTomaLaSiguientePieza) {
 }
 
 TEST_F(BDPrueba, DesplazarConCambiosPreguntaSiNoCancelar) {
-    BDPiezas bd(s, d);
-    bd.Cargar();
-    NewPieza np(bd, s, d, fotos);
-    EditorCatalogo& e = np.Logica();
-    e.Cargar(2);
+    EditorCatalogo& e = AbrirEditor(2);
     EXPECT_EQ(e.Registros(), 21);
     e.CambiarFigura(1, QStringLiteral("9"));
     d.respuestas = {Respuesta::Cancelar};
@@ -378,17 +372,13 @@ TEST_F(BDPrueba, CapturaDePiezaEnElRamalConCantidad3) {
 
 // The project's ImgPiezas mirrors the catalogue only when asked.
 TEST_F(BDPrueba, EliminarDejaImgPiezasHastaQueSeActualice) {
-    BDPiezas bd(s, d);
-    bd.Cargar();
-    NewPieza np(bd, s, d, fotos);
-    EditorCatalogo& e = np.Logica();
-    e.Cargar(1);
+    EditorCatalogo& e = AbrirEditor(1);
     ASSERT_TRUE(NuevaPieza(e, QStringLiteral("LAVADERO")));
     ASSERT_TRUE(ActualizarImagenesProyecto(s, TablaImagenes::Piezas));
     ASSERT_EQ(Escalar(s.ConexionProyecto, QStringLiteral("SELECT count(*) FROM ImgPiezas")), 22);
-    bd.Logica().PonerActiva(22);
+    bd->Logica().PonerActiva(22);
     d.respuestas = {Respuesta::Si};
-    bd.Eliminar();
+    bd->Eliminar();
     EXPECT_EQ(Escalar(s.ConexionCatalogo, QStringLiteral("SELECT count(*) FROM Piezas")), 21);
     EXPECT_EQ(Escalar(s.ConexionProyecto, QStringLiteral("SELECT count(*) FROM ImgPiezas WHERE Clave=22")), 1);
     ASSERT_TRUE(ActualizarImagenesProyecto(s, TablaImagenes::Piezas));
@@ -405,11 +395,7 @@ TEST_F(BDPrueba, CatalogoDeSoloLecturaNoPierdeNada) {
     ASSERT_EQ(AbrirConexion(s.ConexionCatalogo, ruta), 0);
     const QByteArray antes = LeerArchivo(ruta);
 
-    BDPiezas bd(s, d);
-    bd.Cargar();
-    NewPieza np(bd, s, d, fotos);
-    EditorCatalogo& e = np.Logica();
-    e.Cargar(22);
+    EditorCatalogo& e = AbrirEditor(22);
     e.CambiarNombre(QStringLiteral("LAVADERO DOBLE"));
     EXPECT_FALSE(e.Salvar());
     MensajeEs(d.Ultimo(),
@@ -418,18 +404,18 @@ TEST_F(BDPrueba, CatalogoDeSoloLecturaNoPierdeNada) {
               QStringLiteral("Base de Datos de Piezas Sanitarias..."));
     EXPECT_EQ(e.TextoNombre(), QStringLiteral("LAVADERO DOBLE"));
     EXPECT_TRUE(e.Modificado());
-    ASSERT_EQ(bd.Logica().Registro(22), 22);
+    ASSERT_EQ(bd->Logica().Registro(22), 22);
     EXPECT_EQ(ComoTexto(s.RsPiezas.Campo(QStringLiteral("NombrePieza"))), QStringLiteral("LAVADERO"));
     d.respuestas = {Respuesta::Cancelar};
     e.Crear();  // asks to save the changes first: Cancel stays
     EXPECT_EQ(e.TextoNombre(), QStringLiteral("LAVADERO DOBLE"));
 
-    bd.Logica().PonerActiva(22);
+    bd->Logica().PonerActiva(22);
     d.respuestas = {Respuesta::Si};
-    bd.Eliminar();
+    bd->Eliminar();
     EXPECT_TRUE(d.Ultimo().texto.startsWith(QStringLiteral("No se pudo eliminar la pieza de la base de datos:")));
-    EXPECT_EQ(bd.Logica().Filas(), 22);
-    EXPECT_EQ(bd.Spread1().Texto(22, 3), QStringLiteral("LAVADERO"));
+    EXPECT_EQ(bd->Logica().Filas(), 22);
+    EXPECT_EQ(bd->Spread1().Texto(22, 3), QStringLiteral("LAVADERO"));
     EXPECT_EQ(LeerArchivo(ruta), antes);
 }
 

@@ -25,13 +25,7 @@ PanelBDCatalogo::PanelBDCatalogo(BDCatalogo& logica, Sesion& s, Dialogos& d, std
     const TipoCatalogo& t = logica.Tipo();
     tip_ = new NivoToolTip(this);
     auto* capa = new QVBoxLayout(this);
-    auto* titulo = new QLabel(t.titulo, this);
-    titulo->setObjectName(QStringLiteral("Titulo"));
-    QFont f = titulo->font();
-    f.setBold(true);
-    f.setPointSizeF(f.pointSizeF() * 1.3);
-    titulo->setFont(f);
-    capa->addWidget(titulo);
+    capa->addWidget(TituloPantalla(t.titulo, this));
 
     spread1_ = new VistaGrid(this);
     spread1_->setObjectName(QStringLiteral("Spread1"));

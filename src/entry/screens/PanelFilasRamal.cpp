@@ -65,13 +65,7 @@ PanelFilasRamal::PanelFilasRamal(const AspectoFilas& aspecto, LogicaFilas logica
     menuEliminar_ = aspecto.menuEliminar;
     tip_ = new NivoToolTip(this);
     auto* capa = new QVBoxLayout(this);
-    auto* titulo = new QLabel(aspecto.titulo, this);
-    titulo->setObjectName(QStringLiteral("Titulo"));
-    QFont f = titulo->font();
-    f.setBold(true);
-    f.setPointSizeF(f.pointSizeF() * 1.3);
-    titulo->setFont(f);
-    capa->addWidget(titulo);
+    capa->addWidget(TituloPantalla(aspecto.titulo, this));
     auto* centro = new QHBoxLayout;
     centro->addWidget(CrearRamales());
     centro->addWidget(CrearFilas(aspecto), 1);
