@@ -50,9 +50,8 @@ struct Fila {
 
 // One run of the program on `archivo`: wall time in ms, peak memory in MiB,
 // exit status.  False when it passed `topeS` seconds and was killed.
-bool Proceso(const std::string& programa, const QString& archivo, double topeS, double& ms, double& mib,
+bool Proceso(const std::string& programa, const std::string& ruta, double topeS, double& ms, double& mib,
              int& estado) {
-    const std::string ruta = archivo.toStdString();
     const auto inicio = std::chrono::steady_clock::now();
     const pid_t pid = fork();
     if (pid == 0) {
@@ -78,13 +77,75 @@ bool Proceso(const std::string& programa, const QString& archivo, double topeS, 
     return acabo;
 }
 
+// The runs are started by a small process forked before any network is
+// loaded.  A child forked from the bench itself would start with the
+// bench's whole memory counted as its peak (the kernel keeps the high-water
+// mark of the memory an exec replaces), and the peak of a small run would
+// read as the bench's size.
+struct Pedido {
+    char ruta[4096];
+    double topeS;
+};
+struct Respuesta {
+    double ms, mib;
+    int estado;
+    bool acabo;
+};
+
+class Lanzador {
+public:
+    explicit Lanzador(const std::string& programa) {
+        int pedidos[2], respuestas[2];
+        if (pipe(pedidos) != 0 || pipe(respuestas) != 0) return;
+        pid_ = fork();
+        if (pid_ == 0) {
+            close(pedidos[1]);
+            close(respuestas[0]);
+            Pedido p{};
+            while (read(pedidos[0], &p, sizeof p) == ssize_t(sizeof p)) {
+                Respuesta r{};
+                r.acabo = Proceso(programa, p.ruta, p.topeS, r.ms, r.mib, r.estado);
+                if (write(respuestas[1], &r, sizeof r) != ssize_t(sizeof r)) break;
+            }
+            _exit(0);
+        }
+        close(pedidos[0]);
+        close(respuestas[1]);
+        pedidos_ = pedidos[1];
+        respuestas_ = respuestas[0];
+    }
+    ~Lanzador() {
+        if (pedidos_ >= 0) close(pedidos_);
+        if (respuestas_ >= 0) close(respuestas_);
+        if (pid_ > 0) waitpid(pid_, nullptr, 0);
+    }
+    bool Correr(const QString& archivo, double topeS, double& ms, double& mib, int& estado) {
+        Pedido p{};
+        strncpy(p.ruta, archivo.toStdString().c_str(), sizeof p.ruta - 1);
+        p.topeS = topeS;
+        Respuesta r{};
+        if (write(pedidos_, &p, sizeof p) != ssize_t(sizeof p) || read(respuestas_, &r, sizeof r) != ssize_t(sizeof r)) {
+            estado = -1;
+            return false;
+        }
+        ms = r.ms;
+        mib = r.mib;
+        estado = r.estado;
+        return r.acabo;
+    }
+
+private:
+    pid_t pid_ = -1;
+    int pedidos_ = -1, respuestas_ = -1;
+};
+
 // The median of up to `corridas` runs (fewer when they pass 20 s in all),
 // the largest peak memory; the first run is also the cap check.
-void MedirProceso(Fila& f, const std::string& programa, int corridas, double topeS) {
+void MedirProceso(Fila& f, Lanzador& lanzador, int corridas, double topeS) {
     std::vector<double> tiempos;
     double ms = 0, mib = 0, total = 0;
     for (int k = 0; k < corridas && (k < 3 || total < 20000); ++k) {
-        if (!Proceso(programa, f.archivo, topeS, ms, mib, f.estado)) {
+        if (!lanzador.Correr(f.archivo, topeS, ms, mib, f.estado)) {
             f.tope = true;
             return;
         }
@@ -125,6 +186,7 @@ int main(int argc, char** argv) {
     const double topeS = Opcion(args, QStringLiteral("--tope"), QStringLiteral("30")).toDouble();
     const std::string programa =
         Opcion(args, QStringLiteral("--programa"), QStringLiteral(FONTARIA_RUTA_PROGRAMA "/fontaria")).toStdString();
+    Lanzador lanzador(programa);
     QTemporaryDir temporal;
     const QString carpeta = Opcion(args, QStringLiteral("--carpeta"), temporal.path());
     const QRegularExpression solo(Opcion(args, QStringLiteral("--solo"), QString()));
@@ -158,7 +220,7 @@ int main(int argc, char** argv) {
             fprintf(stderr, "%s: %s\n", qPrintable(f.nombre), qPrintable(error));
             return 1;
         }
-        MedirProceso(f, programa, corridas, topeS);
+        MedirProceso(f, lanzador, corridas, topeS);
         fprintf(stderr, "%s: proceso %s\n", qPrintable(f.nombre),
                 f.tope ? "pasó el tope" : qPrintable(QString::number(f.msProceso, 'f', 1) + " ms"));
         filas.push_back(f);

@@ -3,7 +3,6 @@
 #include "shell/Inicio.h"
 #include "shell/Sesion.h"
 
-#include <QCoreApplication>
 #include <QJsonDocument>
 #include <cstdio>
 
@@ -48,7 +47,7 @@ int Fallar(const QString& mensaje, int estado) {
 }
 
 int DialogosConsola::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int,
-                                    int defecto, int, const QImage&) {
+                                    int defecto, int, const QImage*) {
     ultimoTexto = texto;
     if (!silencioso)
         fprintf(stderr, "%s\n%s\n%s\n", titulo.toUtf8().constData(), encabezado.toUtf8().constData(),
@@ -57,7 +56,7 @@ int DialogosConsola::MostrarMensaje(const QString& texto, const QString& encabez
 }
 
 void PrepararSesion(Sesion& s) {
-    s.RutaPrograma = QCoreApplication::applicationDirPath();
+    s.RutaPrograma = CarpetaPrograma();
     SeparadorPrograma(s);
     s.NombreUsuario = NombreUsuarioSistema();
     s.DirectorioDatos = DirectorioDatosPorDefecto();

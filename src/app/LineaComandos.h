@@ -35,7 +35,7 @@ int Fallar(const QString& mensaje, int estado = Salida::Falla);
 class DialogosConsola : public Dialogos {
 public:
     int MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
-                       int defecto, int icono, const QImage& imagen) override;
+                       int defecto, int icono, const QImage* imagen) override;
     std::optional<QString> AbrirArchivo(const QString&, const QString&, const QString&) override { return {}; }
     std::optional<QString> GuardarArchivo(const QString&, const QString&, const QString&) override { return {}; }
     std::optional<QString> PedirTexto(const QString&, const QString&, const QString&) override { return {}; }

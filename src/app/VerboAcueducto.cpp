@@ -9,6 +9,7 @@
 #include "aqueduct/CasosDemanda.h"
 #include "aqueduct/ProyectoAcueducto.h"
 #include "aqueduct/SolverMalla.h"
+#include "model/EscritorJson.h"
 #include "shell/Sesion.h"
 
 #include <QDir>
@@ -88,10 +89,16 @@ void ImprimirTexto(ProyectoAcueducto& p, Sesion& s) {
     Imprimir(t);
 }
 
+void ImprimirResultados(const ProyectoAcueducto& p, const QString& mensaje) {
+    EscritorJson j(stdout);
+    EscribirResultadosJson(j, p, mensaje);
+    j.Terminar();
+}
+
 // Ends the run with a message of the program: on stderr, and in the JSON
 // object when one is asked for.
 int Terminar(const Opciones& o, const ProyectoAcueducto& p, const QString& mensaje, int estado) {
-    if (o.json) ImprimirJson(ResultadosComoJson(p, mensaje));
+    if (o.json) ImprimirResultados(p, mensaje);
     return Fallar(mensaje, estado);
 }
 
@@ -135,7 +142,7 @@ int Analizar(const Opciones& o) {
         fprintf(stderr, "%s\n", mensaje.toUtf8().constData());
     }
     if (o.json)
-        ImprimirJson(ResultadosComoJson(p, mensaje));
+        ImprimirResultados(p, mensaje);
     else
         ImprimirTexto(p, s);
     // The results stand, but the engineer must know they are not final.

@@ -3,6 +3,7 @@
 #include "aqueduct/ArchivoAcueducto.h"
 #include "aqueduct/NumeracionNodos.h"
 #include "aqueduct/ProyectoAcueducto.h"
+#include "model/EscritorJson.h"
 #include "model/LectorJson.h"
 #include "shell/Sesion.h"
 #include "store/Archivos.h"
@@ -185,50 +186,69 @@ bool AcueductoDesdeJson(const QJsonObject& o, ProyectoAcueducto& p, const Sesion
     return LeerNodos(nodos.toArray(), p, error);
 }
 
-QJsonObject ResultadosComoJson(const ProyectoAcueducto& p, const QString& mensaje) {
-    QJsonObject o;
-    o[QStringLiteral("NumeroTramos")] = int(p.NumeroTramos);
-    o[QStringLiteral("NumeroNodosACU")] = int(p.NumeroNodosACU);
-    o[QStringLiteral("CasoDemanda")] = p.CasoDemanda;
-    o[QStringLiteral("ErrorAnalisis")] = p.ErrorAnalisis;
-    o[QStringLiteral("mensaje")] = mensaje;
-    o[QStringLiteral("AnchoBanda")] = int(p.AnchoBanda);
-    o[QStringLiteral("CotaReferencia")] = p.CotaReferencia;
-    o[QStringLiteral("NodoMinimo")] = p.NodoMinimo;
-    o[QStringLiteral("NodoMaximo")] = p.NodoMaximo;
-    QJsonArray iteraciones;
-    for (int i : p.Iteraciones) iteraciones.append(i);
-    o[QStringLiteral("iteraciones")] = iteraciones;
+void EscribirResultadosJson(EscritorJson& j, const ProyectoAcueducto& p, const QString& mensaje) {
+    // Members in the order of the project's other JSON output: by name.
+    auto pasos = [&](const char* clave, const auto& valores) {
+        j.AbrirLista(clave);
+        for (const auto v : valores) j.Numero(nullptr, v);
+        j.CerrarLista();
+    };
+    j.AbrirObjeto();
+    j.Entero("AnchoBanda", p.AnchoBanda);
+    j.Entero("CasoDemanda", p.CasoDemanda);
     // Whether every pass reached the tolerance, and where each one ended.
-    QJsonArray desbalance;
-    for (double d : p.Desbalance) desbalance.append(d);
-    o[QStringLiteral("Convergencia")] = QJsonObject{{QStringLiteral("Convergio"), !p.SinConvergencia()},
-                                                   {QStringLiteral("Iteraciones"), iteraciones},
-                                                   {QStringLiteral("Desbalance"), desbalance}};
-    QJsonArray tramos, nodos;
-    for (int t = 1; t <= p.NumeroTramos; ++t) {
-        QJsonObject r = TramoJson(p, t);
-        r[QStringLiteral("NodosTramo")] = QJsonArray{int(p.NodosTramo.Leer(1, t)), int(p.NodosTramo.Leer(2, t))};
-        r[QStringLiteral("LongitudCalculo")] = p.LongitudCalculo.Leer(t);
-        r[QStringLiteral("Caudal")] = p.Caudal.Leer(t);
-        r[QStringLiteral("Velocidad")] = p.Velocidad.Leer(t);
-        r[QStringLiteral("Perdidas")] = p.Perdidas.Leer(t);
-        r[QStringLiteral("HF")] = PerdidaUnitaria(p, t);
-        tramos.append(r);
-    }
+    j.AbrirObjeto("Convergencia");
+    j.Logico("Convergio", !p.SinConvergencia());
+    pasos("Desbalance", p.Desbalance);
+    pasos("Iteraciones", p.Iteraciones);
+    j.CerrarObjeto();
+    j.Numero("CotaReferencia", p.CotaReferencia);
+    j.Entero("ErrorAnalisis", p.ErrorAnalisis);
+    j.Entero("NodoMaximo", p.NodoMaximo);
+    j.Entero("NodoMinimo", p.NodoMinimo);
+    j.Entero("NumeroNodosACU", p.NumeroNodosACU);
+    j.Entero("NumeroTramos", p.NumeroTramos);
+    pasos("iteraciones", p.Iteraciones);
+    j.Texto("mensaje", mensaje);
+    j.AbrirLista("nodos");
     for (int n = 1; n <= p.NumeroNodosACU; ++n) {
-        QJsonObject r = NodoJson(p, n);
-        r[QStringLiteral("DemandaReal")] = p.DemandaReal.Leer(n) * 1000.0;
-        r[QStringLiteral("DemandaCalculo")] = p.DemandaCalculo.Leer(n);
-        r[QStringLiteral("CotaPiezometrica")] = p.CotaPiezometrica.Leer(n);
-        r[QStringLiteral("Presion")] = PresionNodo(p, n);
-        r[QStringLiteral("TramosConectados")] = int(p.TramosConectados.Leer(n));
-        r[QStringLiteral("NombreTramos")] = p.NombreTramos.Leer(n);
-        nodos.append(r);
+        j.AbrirObjeto();
+        j.Numero("ConsumoMedio", p.ConsumoMedio.Leer(n));
+        j.Numero("CotaBombaEstanque", p.CotaBombaEstanque.Leer(n));
+        j.Numero("CotaPiezometrica", p.CotaPiezometrica.Leer(n));
+        j.Numero("CotaTerreno", p.CotaTerreno.Leer(n));
+        j.Numero("DemandaCalculo", p.DemandaCalculo.Leer(n));
+        j.Numero("DemandaReal", p.DemandaReal.Leer(n) * 1000.0);
+        j.Texto("Nodos", p.Nodos.Leer(n));
+        j.Texto("NombreTramos", p.NombreTramos.Leer(n));
+        j.Entero("Numero", n);
+        j.Numero("Presion", PresionNodo(p, n));
+        j.Entero("TramosConectados", p.TramosConectados.Leer(n));
+        j.CerrarObjeto();
     }
-    o[QStringLiteral("tramos")] = tramos;
-    o[QStringLiteral("nodos")] = nodos;
-    return o;
+    j.CerrarLista();
+    j.AbrirLista("tramos");
+    for (int t = 1; t <= p.NumeroTramos; ++t) {
+        j.AbrirObjeto();
+        j.Numero("Caudal", p.Caudal.Leer(t));
+        j.Entero("CoeficienteC", p.CoeficienteC[t]);
+        j.Numero("Diametro", p.Diametro[t]);
+        j.Texto("Final", p.Final[t]);
+        j.Numero("HF", PerdidaUnitaria(p, t));
+        j.Texto("Inicio", p.Inicio[t]);
+        j.Numero("Longitud", p.Longitud[t]);
+        j.Numero("LongitudCalculo", p.LongitudCalculo.Leer(t));
+        j.AbrirLista("NodosTramo");
+        j.Entero(nullptr, p.NodosTramo.Leer(1, t));
+        j.Entero(nullptr, p.NodosTramo.Leer(2, t));
+        j.CerrarLista();
+        j.Entero("Numero", t);
+        j.Numero("Perdidas", p.Perdidas.Leer(t));
+        j.Numero("Velocidad", p.Velocidad.Leer(t));
+        j.CerrarObjeto();
+    }
+    j.CerrarLista();
+    j.CerrarObjeto();
 }
 
 bool ExportarAcueducto(const QString& archivo, Sesion& s, QJsonObject& salida, QString& error) {

@@ -13,6 +13,7 @@
 #include <QJsonObject>
 #include <QString>
 
+class EscritorJson;
 struct ProyectoAcueducto;
 struct Sesion;
 
@@ -26,7 +27,7 @@ QJsonObject AcueductoComoJson(const ProyectoAcueducto& p);
 bool AcueductoDesdeJson(const QJsonObject& o, ProyectoAcueducto& p, const Sesion& s, QString& error);
 
 // The results of the last solve as the command line prints them.
-QJsonObject ResultadosComoJson(const ProyectoAcueducto& p, const QString& mensaje);
+void EscribirResultadosJson(EscritorJson& j, const ProyectoAcueducto& p, const QString& mensaje);
 
 // Exports an .acu file; false with a message when it is not a project.
 bool ExportarAcueducto(const QString& archivo, Sesion& s, QJsonObject& salida, QString& error);

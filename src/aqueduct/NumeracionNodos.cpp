@@ -1,13 +1,13 @@
 #include "aqueduct/NumeracionNodos.h"
 
 #include "aqueduct/ProyectoAcueducto.h"
+#include "base/MapaNombres.h"
 #include "base/Nivo.h"
 #include "shell/Sesion.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
 #include <vector>
 
 namespace {
@@ -49,14 +49,21 @@ void AgregarEtiqueta(ProyectoAcueducto& p, int nodo, const QString& etiqueta) {
     if (p.TramosConectados[nodo] == 1)
         lista = etiqueta;
     else
-        lista += QStringLiteral(",  ") + etiqueta;
+        lista.append(u",  ").append(etiqueta);
 }
 
 }  // namespace
 
 QString RutaNodosDat(const Sesion& s) { return s.RutaDatos(QStringLiteral("Trabajo/Nodos.Dat")); }
 
-void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s) {
+namespace {
+
+// The node of each section end by its exact name, (1, t) at 2t and (2, t)
+// at 2t + 1, as the listing found it.
+using Extremos = std::vector<int>;
+
+// Lists the nodes and numbers the ends; returns the ends' nodes by exact name.
+Extremos Numerar(ProyectoAcueducto& p, const Sesion& s) {
     const int tramos = p.NumeroTramos;
     p.ExtremosTramo.Redim(2, tramos);
     for (int t = 1; t <= tramos; ++t) {
@@ -66,16 +73,22 @@ void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s) {
 
     // First appearance decides the number; the names are compared exactly.
     p.Nodos.Redim(tramos + 10);
-    QHash<QString, int> vistos;
-    vistos.reserve(tramos + 1);
+    MapaNombres<int> vistos;
+    vistos.reserve(size_t(tramos) + 1);
     std::vector<QString> registros(1);  // record i holds node i; slot 0 unused
+    Extremos exactos(2 * (size_t(tramos) + 1));
+    // Whether every record, trimmed, is its name: then the match of the
+    // ends on the records is the match by exact name already made.
+    bool limpios = true;
     int cuenta = 0;
     auto listar = [&](const QString& nombre) {
-        if (vistos.contains(nombre)) return;
+        const auto [it, nuevo] = vistos.try_emplace(nombre, cuenta + 1);
+        if (!nuevo) return it->second;
         p.Nodos[cuenta + 1] = nombre;  // beyond NumeroTramos + 10: error 9
         ++cuenta;
-        vistos.insert(nombre, cuenta);
         registros.push_back(nombre.left(LargoNombreNodo));
+        limpios = limpios && nombre.size() <= LargoNombreNodo && Trim(nombre).size() == nombre.size();
+        return cuenta;
     };
     // The file is opened anew before the first name and takes each record as
     // its node is listed: a numbering that stops leaves the records up to
@@ -83,8 +96,8 @@ void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s) {
     try {
         listar(p.Inicio[1]);
         for (int t = 1; t <= tramos; ++t) {
-            listar(p.ExtremosTramo(1, t));
-            listar(p.ExtremosTramo(2, t));
+            exactos[2 * size_t(t)] = listar(p.ExtremosTramo(1, t));
+            exactos[2 * size_t(t) + 1] = listar(p.ExtremosTramo(2, t));
         }
     } catch (const ErrorEjecucion&) {
         EscribirNodosDat(s, registros);
@@ -96,20 +109,45 @@ void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s) {
 
     // The ends get the number of the last record whose trimmed name equals
     // theirs; an end no record matches keeps 0.
-    QHash<QString, int> porRegistro;
-    porRegistro.reserve(cuenta);
-    for (int i = 1; i <= cuenta; ++i) porRegistro.insert(Trim(registros[size_t(i)]), i);
+    if (limpios) {
+        for (int t = 1; t <= tramos; ++t)
+            for (int e = 1; e <= 2; ++e) p.NodosTramo(e, t) = exactos[2 * size_t(t) + size_t(e) - 1];
+        return exactos;
+    }
+    MapaNombres<int> porRegistro;
+    porRegistro.reserve(size_t(cuenta));
+    for (int i = 1; i <= cuenta; ++i) porRegistro[Trim(registros[size_t(i)])] = i;
     for (int t = 1; t <= tramos; ++t)
         for (int e = 1; e <= 2; ++e) {
-            const auto it = porRegistro.constFind(Trim(p.ExtremosTramo(e, t)));
-            if (it != porRegistro.constEnd()) p.NodosTramo(e, t) = it.value();
+            const auto it = porRegistro.find(Trim(p.ExtremosTramo(e, t)));
+            if (it != porRegistro.end()) p.NodosTramo(e, t) = it->second;
         }
+    return exactos;
 }
+
+// The connections from the ends' nodes by exact name: right after the
+// listing the node names are the distinct names of the ends, so the node
+// of an end is the one its name was listed as.
+void Conectar(ProyectoAcueducto& p, const Extremos& exactos) {
+    const int nodos = p.NumeroNodosACU;
+    p.TramosConectados.Redim(nodos);
+    p.NombreTramos.Redim(nodos);
+    for (int t = 1; t <= p.NumeroTramos; ++t) {
+        const QString i = Trim(p.Inicio[t]), j = Trim(p.Final[t]);
+        AgregarEtiqueta(p, exactos[2 * size_t(t)], i + QLatin1Char('-') + j);
+        AgregarEtiqueta(p, exactos[2 * size_t(t) + 1], j + QLatin1Char('-') + i);
+    }
+}
+
+}  // namespace
+
+void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s) { Numerar(p, s); }
+
+void NumerarYConectar(ProyectoAcueducto& p, const Sesion& s) { Conectar(p, Numerar(p, s)); }
 
 void NumerarNodos(ProyectoAcueducto& p, const Sesion& s) {
     if (p.NumeroTramos == 0) return;
-    NumerarExtremos(p, s);
-    ConectarNodos(p);
+    NumerarYConectar(p, s);
     AcumularConsumos(p);
 }
 
@@ -118,16 +156,16 @@ void ConectarNodos(ProyectoAcueducto& p) {
     p.TramosConectados.Redim(nodos);
     p.NombreTramos.Redim(nodos);
     // Every node of a name, in node order, as the search over all nodes finds them.
-    QHash<QString, std::vector<int>> porNombre;
-    porNombre.reserve(nodos);
+    MapaNombres<std::vector<int>> porNombre;
+    porNombre.reserve(size_t(nodos));
     for (int n = 1; n <= nodos; ++n) porNombre[p.Nodos[n]].push_back(n);
     for (int t = 1; t <= p.NumeroTramos; ++t) {
         const QString& i = p.Inicio[t];
         const QString& j = p.Final[t];
-        if (const auto it = porNombre.constFind(i); it != porNombre.constEnd())
-            for (int n : it.value()) AgregarEtiqueta(p, n, Trim(i) + QLatin1Char('-') + Trim(j));
-        if (const auto it = porNombre.constFind(j); it != porNombre.constEnd())
-            for (int n : it.value()) AgregarEtiqueta(p, n, Trim(j) + QLatin1Char('-') + Trim(i));
+        if (const auto it = porNombre.find(i); it != porNombre.end())
+            for (int n : it->second) AgregarEtiqueta(p, n, Trim(i) + QLatin1Char('-') + Trim(j));
+        if (const auto it = porNombre.find(j); it != porNombre.end())
+            for (int n : it->second) AgregarEtiqueta(p, n, Trim(j) + QLatin1Char('-') + Trim(i));
     }
 }
 

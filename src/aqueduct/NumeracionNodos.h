@@ -31,6 +31,9 @@ QString RutaNodosDat(const Sesion& s);
 // far); the numbering does not depend on it.
 void NumerarExtremos(ProyectoAcueducto& p, const Sesion& s);
 
+// NumerarExtremos followed by ConectarNodos, sharing the listing's look-ups.
+void NumerarYConectar(ProyectoAcueducto& p, const Sesion& s);
+
 // NumerarNodos: nothing without sections; otherwise NumerarExtremos,
 // ConectarNodos and AcumularConsumos.
 void NumerarNodos(ProyectoAcueducto& p, const Sesion& s);

@@ -429,8 +429,7 @@ void LongitudesCalculo(ProyectoAcueducto& p) {
 }
 
 void RenumerarNodos(ProyectoAcueducto& p, const Sesion& s) {
-    NumerarExtremos(p, s);
-    ConectarNodos(p);
+    NumerarYConectar(p, s);
     CalcularAnchoBanda(p);
 }
 

@@ -3,9 +3,10 @@
 // the desktop answers it with its dialogs, the tests with a scripted fake, the
 // command line with the console.
 
-#include <QImage>
 #include <QString>
 #include <optional>
+
+class QImage;
 
 namespace Botones {
 constexpr int Aceptar = 0;   // one button, result 0
@@ -30,7 +31,7 @@ public:
     virtual int MostrarMensaje(const QString& texto, const QString& encabezado,
                                const QString& titulo, int botones = Botones::Aceptar,
                                int defecto = 0, int icono = 0,
-                               const QImage& imagen = QImage()) = 0;
+                               const QImage* imagen = nullptr) = 0;
 
     // File dialogs.  `filtro` is written as the older program wrote it
     // ("Fontaria (*.plm)|*.plm").  An empty optional is a cancel.

@@ -51,7 +51,7 @@ void Grid::InsertarFila(int fila) {
                    columnas_.size(), Celda());
     if (!imagenes_.empty())
         imagenes_.insert(imagenes_.begin() + std::ptrdiff_t(size_t(fila) * columnas_.size()), columnas_.size(),
-                         QImage());
+                         nullptr);
     ++filas_;
     for (auto& u : uniones_)
         if (u.fila >= fila) ++u.fila;
@@ -187,19 +187,9 @@ TipoCelda Grid::Tipo(int fila, int columna) const {
     return t == TipoCelda::Heredado ? Col(columna).tipo : t;
 }
 
-void Grid::PonerImagen(int fila, int columna, const QImage& imagen) {
+bool Grid::TieneImagen(int fila, int columna) const {
     const size_t i = Indice(fila, columna);
-    if (imagenes_.empty()) {
-        if (imagen.isNull()) return;
-        imagenes_.resize(celdas_.size());
-    }
-    imagenes_[i] = imagen;
-    ++version_;
-}
-
-QImage Grid::Imagen(int fila, int columna) const {
-    const size_t i = Indice(fila, columna);
-    return imagenes_.empty() ? QImage() : imagenes_[i];
+    return !imagenes_.empty() && imagenes_[i];
 }
 
 void Grid::Unir(int fila, int columna, int filas, int columnas) {

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <vector>
 
 // Colours are 0x00BBGGRR numbers (red in the low byte), as the screens give
@@ -99,7 +100,7 @@ public:
     // analysis pay nothing for them.  A null image is an empty picture.
     void PonerImagen(int fila, int columna, const QImage& imagen);
     QImage Imagen(int fila, int columna) const;
-    bool TieneImagen(int fila, int columna) const { return !Imagen(fila, columna).isNull(); }
+    bool TieneImagen(int fila, int columna) const;
 
     // Joined body cells: the top-left cell shows for all.
     void Unir(int fila, int columna, int filas, int columnas);
@@ -127,7 +128,9 @@ private:
     int filas_ = 0;
     std::vector<Columna> columnas_;
     std::vector<Celda> celdas_;  // (filas_ + 1) x columnas_; row 0 unused
-    std::vector<QImage> imagenes_;  // empty, or as celdas_
+    // Empty, or as celdas_; shared, so that moving rows never copies pixels
+    // and the cells' code needs nothing of the image type.
+    std::vector<std::shared_ptr<const QImage>> imagenes_;
     QStringList encabezados_[2];
     std::vector<Union> uniones_;
     std::vector<Union> unionesEncabezado_;

@@ -106,6 +106,12 @@ QString NombreUsuarioSistema() {
     return Trim(QString::fromLocal8Bit(pw->pw_gecos).section(QLatin1Char(','), 0, 0));
 }
 
+QString CarpetaPrograma() {
+    const QString imagen = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+    if (!imagen.isEmpty()) return QFileInfo(imagen).absolutePath();
+    return QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QDir::currentPath();
+}
+
 void SeparadorPrograma(Sesion& s) {
     const Separadores sep = SeparadoresDelSistema();
     SeparadoresActuales() = sep;
@@ -114,7 +120,7 @@ void SeparadorPrograma(Sesion& s) {
 }
 
 void Iniciar(Sesion& s, const QString& rutaPrograma) {
-    QString ruta = rutaPrograma.isEmpty() ? QCoreApplication::applicationDirPath() : rutaPrograma;
+    QString ruta = rutaPrograma.isEmpty() ? CarpetaPrograma() : rutaPrograma;
     if (ruta.endsWith(QLatin1Char('/'))) ruta.chop(1);
     s.RutaPrograma = ruta;
 

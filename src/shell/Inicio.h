@@ -33,5 +33,9 @@ const QList<CopiaInicial>& CopiasSiFaltan();
 // The work databases replaced at every start, in order.
 const QList<CopiaInicial>& CopiasCadaInicio();
 
+// The folder of the running executable, read from the running image, so
+// that it is known with or without an application object.
+QString CarpetaPrograma();
+
 // The full name of the login user where the system knows it, else empty.
 QString NombreUsuarioSistema();

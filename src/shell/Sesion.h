@@ -42,6 +42,10 @@ struct Sesion {
     int RamalActual = 0;
     int EdicionDesdeAnalisis = 0;
     bool CatalogoDesdeProyecto = false;
+    // The capture screen's last accepted picture: the flag (true is -1) and
+    // the file it came from.  RutaImagen(nombre) below is a program image.
+    int16_t HayImagenNueva = 0;
+    QString RutaImagenCapturada;
 
     // Paths under the program and data folders.
     QString RutaImagen(const QString& nombre) const { return RutaPrograma + QStringLiteral("/Imagen/") + nombre; }

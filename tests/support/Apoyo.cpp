@@ -30,11 +30,11 @@ T Siguiente(std::deque<T>& guion) {
 }  // namespace
 
 int DialogosFalsos::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo,
-                                   int botones, int defecto, int icono, const QImage& imagen) {
+                                   int botones, int defecto, int icono, const QImage* imagen) {
     // Every message is laid out by the program's own box, and what the box
     // shows is what is recorded, so each text is checked as the engineer
     // reads it; only the answer comes from the script.
-    const VentanaMsgBox caja(texto, encabezado, titulo, botones, defecto, icono, imagen);
+    const VentanaMsgBox caja(texto, encabezado, titulo, botones, defecto, icono, imagen ? *imagen : QImage());
     auto mostrado = [&caja](const char* etiqueta) {
         return caja.findChild<QLabel*>(QLatin1String(etiqueta))->text();
     };

@@ -45,7 +45,7 @@ public:
     int ocupado = 0;
 
     int MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
-                       int defecto, int icono, const QImage& imagen) override;
+                       int defecto, int icono, const QImage* imagen) override;
     std::optional<QString> AbrirArchivo(const QString& titulo, const QString& filtro, const QString& carpeta) override;
     std::optional<QString> GuardarArchivo(const QString& titulo, const QString& filtro,
                                           const QString& carpeta) override;

@@ -40,9 +40,9 @@ std::optional<QString> Dialogo(bool guardar, const QString& titulo, const QStrin
 }  // namespace
 
 int DialogosQt::MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
-                               int defecto, int icono, const QImage& imagen) {
+                               int defecto, int icono, const QImage* imagen) {
     PunteroEnPausa pausa;
-    return VentanaMsgBox::MostrarMensaje(texto, encabezado, titulo, botones, defecto, icono, imagen, Padre());
+    return VentanaMsgBox::MostrarMensaje(texto, encabezado, titulo, botones, defecto, icono, imagen ? *imagen : QImage(), Padre());
 }
 
 std::optional<QString> DialogosQt::AbrirArchivo(const QString& titulo, const QString& filtro, const QString& carpeta) {

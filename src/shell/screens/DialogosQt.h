@@ -11,7 +11,7 @@ class QWidget;
 class DialogosQt : public Dialogos {
 public:
     int MostrarMensaje(const QString& texto, const QString& encabezado, const QString& titulo, int botones,
-                       int defecto, int icono, const QImage& imagen) override;
+                       int defecto, int icono, const QImage* imagen) override;
     std::optional<QString> AbrirArchivo(const QString& titulo, const QString& filtro, const QString& carpeta) override;
     std::optional<QString> GuardarArchivo(const QString& titulo, const QString& filtro,
                                           const QString& carpeta) override;
