@@ -56,9 +56,8 @@ constexpr int MaximoFilasRamal = 20;
 
 class FilasRamal {
 public:
-    // "Piezas"/"Conexiones" and the menu entry open the catalogue screens,
-    // which come with the catalogue editors; till then they stay off.
-    static constexpr bool BaseDeDatosDisponible = false;
+    // "Piezas"/"Conexiones" and the menu entry open the catalogue screens.
+    static constexpr bool BaseDeDatosDisponible = true;
 
     // `cuenta` is NPiezas or NConexiones of the model.
     FilasRamal(Grid& spread1, Grid& spread2, ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor,

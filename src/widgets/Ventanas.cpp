@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -22,6 +23,16 @@ QPushButton* BotonNivo(const QString& nombre, const QString& texto, QWidget* pad
 
 QPushButton* BotonRetorno(QWidget* padre) {
     return BotonNivo(QStringLiteral("Retorno"), QStringLiteral("Retorno"), padre, QStyle::SP_DialogCloseButton);
+}
+
+QLabel* TituloPantalla(const QString& texto, QWidget* padre) {
+    auto* titulo = new QLabel(texto, padre);
+    titulo->setObjectName(QStringLiteral("Titulo"));
+    QFont f = titulo->font();
+    f.setBold(true);
+    f.setPointSizeF(f.pointSizeF() * 1.3);
+    titulo->setFont(f);
+    return titulo;
 }
 
 std::optional<QDate> PedirFecha(QWidget* padre, const QDate& inicial) {

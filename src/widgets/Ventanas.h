@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <optional>
 
+class QLabel;
 class QLayout;
 class QPushButton;
 class QWidget;
@@ -23,6 +24,8 @@ QPushButton* BotonNivo(const QString& nombre, const QString& texto, QWidget* pad
                        std::optional<QStyle::StandardPixmap> icono = std::nullopt, const QString& tip = QString());
 // "Retorno", which closes a screen.
 QPushButton* BotonRetorno(QWidget* padre);
+// The bold title line at the top of a screen ("Titulo").
+QLabel* TituloPantalla(const QString& texto, QWidget* padre);
 
 // The calendar of a date box ("Calendario"): the day chosen, none when the
 // calendar was closed without one.

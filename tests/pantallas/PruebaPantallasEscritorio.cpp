@@ -26,8 +26,10 @@ TEST_F(Escritorio, LasHerramientasDeResultadosEstanActivas) {
     EXPECT_TRUE(Activa("ID_M2_TanqueH"));
     EXPECT_TRUE(Activa("ID_M2_Computos"));
     EXPECT_TRUE(Activa("ID_M1_Modificar"));
+    EXPECT_TRUE(Activa("ID_M3_Piezas"));
+    EXPECT_TRUE(Activa("ID_M3_Conexiones"));
     // Tools of screens still to come stay disabled.
-    EXPECT_FALSE(Activa("ID_M3_Piezas"));
+    EXPECT_FALSE(Activa("ID_M4_ImprimirHojas"));
 }
 
 TEST_F(Escritorio, ElAnalisisDeUnEjemploDesdeLaVentana) {

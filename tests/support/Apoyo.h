@@ -53,6 +53,8 @@ public:
     std::optional<int> ElegirColor(int inicial) override;
     bool AbrirConSistema(const QString& ruta) override;
     void CursorOcupado(bool o) override { ocupado += o ? 1 : -1; }
+    int pitidos = 0;
+    void Pitido() override { ++pitidos; }
 
     const Mensaje& Ultimo() const { return mensajes.back(); }
 };

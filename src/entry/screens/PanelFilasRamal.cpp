@@ -6,6 +6,7 @@
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
 #include "widgets/VistaGrid.h"
+#include "widgets/VistaPreviaFoto.h"
 
 #include <QDialog>
 #include <QGridLayout>
@@ -13,7 +14,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
@@ -24,8 +24,6 @@ namespace {
 
 constexpr int AltoFilaImagen = 72;
 constexpr int LadoIconoRapido = 48;
-constexpr int LadoVistaPrevia = 260;
-constexpr int EsperaVistaPrevia = 350;  // ms the button is held before the preview shows
 
 // An arrow up or down, doubled with a bar for "to the first/last position".
 QIcon IconoFlecha(bool arriba, bool tope) {
@@ -67,13 +65,7 @@ PanelFilasRamal::PanelFilasRamal(const AspectoFilas& aspecto, LogicaFilas logica
     menuEliminar_ = aspecto.menuEliminar;
     tip_ = new NivoToolTip(this);
     auto* capa = new QVBoxLayout(this);
-    auto* titulo = new QLabel(aspecto.titulo, this);
-    titulo->setObjectName(QStringLiteral("Titulo"));
-    QFont f = titulo->font();
-    f.setBold(true);
-    f.setPointSizeF(f.pointSizeF() * 1.3);
-    titulo->setFont(f);
-    capa->addWidget(titulo);
+    capa->addWidget(TituloPantalla(aspecto.titulo, this));
     auto* centro = new QHBoxLayout;
     centro->addWidget(CrearRamales());
     centro->addWidget(CrearFilas(aspecto), 1);
@@ -81,15 +73,8 @@ PanelFilasRamal::PanelFilasRamal(const AspectoFilas& aspecto, LogicaFilas logica
     capa->addWidget(CrearRapidos(aspecto));
     capa->addWidget(CrearBotones(aspecto));
 
-    vistaPrevia_ = new QLabel(padre ? padre : this);
-    vistaPrevia_->setObjectName(QStringLiteral("VistaPrevia"));
-    vistaPrevia_->setFrameShape(QFrame::Box);
-    vistaPrevia_->setStyleSheet(QStringLiteral("background: white;"));
-    vistaPrevia_->setAlignment(Qt::AlignCenter);
-    vistaPrevia_->hide();
-    temporizador_.setSingleShot(true);
-    temporizador_.setInterval(EsperaVistaPrevia);
-    connect(&temporizador_, &QTimer::timeout, this, &PanelFilasRamal::MostrarVistaPrevia);
+    vistaPrevia_ = new VistaPreviaFoto(spread2_, padre ? padre : this,
+                                       [this](int fila) { return logica_.filas->ImagenFila(fila); });
 
     Mostrar();
     ConfigurarToolTips(this, tip_, s_.Tapiz);
@@ -163,8 +148,6 @@ QWidget* PanelFilasRamal::CrearFilas(const AspectoFilas&) {
     spread2_->verticalHeader()->setDefaultSectionSize(AltoFilaImagen);
     spread2_->horizontalHeader()->setSectionResizeMode(FDescripcion - 1, QHeaderView::Stretch);
     spread2_->setContextMenuPolicy(Qt::CustomContextMenu);
-    spread2_->viewport()->installEventFilter(this);
-    spread2_->viewport()->setMouseTracking(true);
     const auto editar = [this](int fila, int columna, const QString& texto) {
         Accion([&] { logica_.editarFilas(fila, columna, texto); });
     };
@@ -241,7 +224,9 @@ QWidget* PanelFilasRamal::CrearBotones(const AspectoFilas& a) {
     connect(boton("Eliminar", a.eliminar), &QPushButton::clicked, this, [this] { Pulsar(logica_.eliminar); });
     connect(boton("EliminarT", a.eliminarTodas), &QPushButton::clicked, this,
             [this] { Pulsar(logica_.eliminarTodas); });
-    boton("BaseDatos", a.baseDatos)->setEnabled(FilasRamal::BaseDeDatosDisponible);
+    auto* base = boton("BaseDatos", a.baseDatos);
+    base->setEnabled(FilasRamal::BaseDeDatosDisponible && logica_.baseDatos);
+    connect(base, &QPushButton::clicked, this, [this] { Pulsar(logica_.baseDatos); });
     connect(boton("Imagen", a.imagen), &QPushButton::clicked, this, [this] { Pulsar(logica_.actualizarImagenes); });
     // The reports of the branch data come with the report engine's screens.
     boton("Reporte", a.reporte)->setEnabled(false);
@@ -278,7 +263,7 @@ void PanelFilasRamal::TerminarEdicion() {
 }
 
 void PanelFilasRamal::Accion(const std::function<void()>& f) {
-    OcultarVistaPrevia();
+    vistaPrevia_->Ocultar();
     SinFallaDeCalculo(d_, f);
     Mostrar();
     if (refrescarEditor_) refrescarEditor_();
@@ -311,58 +296,11 @@ void PanelFilasRamal::BuscarRamal() {
 void PanelFilasRamal::MenuFilas(const QPoint& donde) {
     QMenu menu(this);
     QAction* base = menu.addAction(menuBaseDatos_);
-    base->setEnabled(FilasRamal::BaseDeDatosDisponible);
+    base->setEnabled(FilasRamal::BaseDeDatosDisponible && logica_.baseDatos);
+    connect(base, &QAction::triggered, this, [this] { Pulsar(logica_.baseDatos); });
     // The second entry deletes the active row, whatever it says.
     connect(menu.addAction(menuEliminar_), &QAction::triggered, this, [this] { Pulsar(logica_.eliminar); });
     menu.exec(spread2_->viewport()->mapToGlobal(donde));
-}
-
-bool PanelFilasRamal::eventFilter(QObject* o, QEvent* e) {
-    if (o == spread2_->viewport()) {
-        switch (e->type()) {
-        case QEvent::MouseButtonPress: {
-            auto* m = static_cast<QMouseEvent*>(e);
-            const QModelIndex i = spread2_->indexAt(m->position().toPoint());
-            if (m->button() == Qt::LeftButton && i.isValid() && logica_.filas->ClaveFila(i.row() + 1) > 0) {
-                filaPrevia_ = i.row() + 1;
-                puntoPrevia_ = m->globalPosition().toPoint();
-                temporizador_.start();
-            }
-            break;
-        }
-        case QEvent::MouseMove:
-            if (static_cast<QMouseEvent*>(e)->buttons() == Qt::NoButton) OcultarVistaPrevia();
-            break;
-        case QEvent::MouseButtonRelease:
-        case QEvent::Leave:
-            OcultarVistaPrevia();
-            break;
-        default:
-            break;
-        }
-    }
-    return QWidget::eventFilter(o, e);
-}
-
-void PanelFilasRamal::MostrarVistaPrevia() {
-    const QImage foto = logica_.filas->ImagenFila(filaPrevia_);
-    if (foto.isNull()) return;
-    vistaPrevia_->setPixmap(QPixmap::fromImage(
-        foto.scaled(LadoVistaPrevia, LadoVistaPrevia, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
-    vistaPrevia_->adjustSize();
-    // Near the pointer, kept inside the window.
-    QWidget* ventana = vistaPrevia_->parentWidget();
-    QPoint p = ventana->mapFromGlobal(puntoPrevia_) + QPoint(16, 16);
-    p.setX(std::clamp(p.x(), 0, std::max(0, ventana->width() - vistaPrevia_->width())));
-    p.setY(std::clamp(p.y(), 0, std::max(0, ventana->height() - vistaPrevia_->height())));
-    vistaPrevia_->move(p);
-    vistaPrevia_->raise();
-    vistaPrevia_->show();
-}
-
-void PanelFilasRamal::OcultarVistaPrevia() {
-    temporizador_.stop();
-    vistaPrevia_->hide();
 }
 
 void MontarVentanaFilas(QDialog* ventana, PanelFilasRamal* panel, const QString& caption) {

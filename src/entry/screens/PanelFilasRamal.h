@@ -12,7 +12,6 @@
 
 #include <QDialog>
 #include <QPointer>
-#include <QTimer>
 #include <QWidget>
 #include <functional>
 
@@ -21,6 +20,7 @@ class NivoToolTip;
 class QLabel;
 class QPushButton;
 class VistaGrid;
+class VistaPreviaFoto;
 struct Sesion;
 
 // The screen's logic as the panel sees it.
@@ -31,6 +31,8 @@ struct LogicaFilas {
     std::function<bool(int fila, int columna, const QString& texto)> editarRamales, editarFilas;
     std::function<void(int clave)> botonRapido;
     std::function<void()> eliminar, eliminarTodas, actualizarImagenes;
+    // "Piezas"/"Conexiones": the catalogue screen, which may capture a row.
+    std::function<void()> baseDatos;
 };
 
 class PanelFilasRamal;
@@ -68,7 +70,6 @@ public:
     void TerminarEdicion();
 
 protected:
-    bool eventFilter(QObject* o, QEvent* e) override;
     void showEvent(QShowEvent* e) override;
 
 private:
@@ -84,8 +85,6 @@ private:
     void Mostrar();
     void BuscarRamal();
     void MenuFilas(const QPoint& donde);
-    void MostrarVistaPrevia();
-    void OcultarVistaPrevia();
 
     LogicaFilas logica_;
     Sesion& s_;
@@ -96,14 +95,11 @@ private:
     QLabel* ramal_ = nullptr;
     QLabel* nodoI_ = nullptr;
     QLabel* nodoJ_ = nullptr;
-    QLabel* vistaPrevia_ = nullptr;
+    VistaPreviaFoto* vistaPrevia_ = nullptr;
     QPushButton* retorno_ = nullptr;
     QString menuBaseDatos_, menuEliminar_;
     std::vector<std::pair<int, QWidget*>> rapidos_;
     NivoToolTip* tip_ = nullptr;
-    QTimer temporizador_;
-    int filaPrevia_ = 0;
-    QPoint puntoPrevia_;
     bool mostrando_ = false;
 };
 
@@ -118,12 +114,17 @@ void MontarVentanaFilas(QDialog* ventana, PanelFilasRamal* panel, const QString&
 template <class T>
 class VentanaFilasRamal : public QDialog {
 public:
+    // `abrirCatalogo` shows the catalogue screen over this window, able to
+    // capture onto the screen's logic.
     VentanaFilasRamal(const QString& nombre, ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor,
-                      std::function<void()> refrescarEditor, QWidget* padre)
+                      std::function<void()> refrescarEditor, std::function<void(T&, QWidget*)> abrirCatalogo,
+                      QWidget* padre)
         : QDialog(padre), logica_(p, s, d, editor) {
         setObjectName(nombre);
         SinFallaDeCalculo(d, [this] { logica_.Cargar(); });
-        panel_ = new PanelFilasRamal(T::Aspecto(), LogicaDe(logica_), s, d, std::move(refrescarEditor), this);
+        LogicaFilas l = LogicaDe(logica_);
+        l.baseDatos = [this, abrir = std::move(abrirCatalogo)] { abrir(logica_, this); };
+        panel_ = new PanelFilasRamal(T::Aspecto(), std::move(l), s, d, std::move(refrescarEditor), this);
         MontarVentanaFilas(this, panel_, logica_.Filas().Caption());
     }
 

@@ -1,6 +1,7 @@
 #pragma once
 // The window of ConexionesRamales: the shared branch-rows panel over its logic.
 
+#include "catalogue/screens/VentanaBDConexiones.h"
 #include "entry/ConexionesRamales.h"
 #include "entry/screens/PanelFilasRamal.h"
 
@@ -9,5 +10,10 @@ class VentanaConexionesRamales : public VentanaFilasRamal<ConexionesRamales> {
 public:
     VentanaConexionesRamales(ProyectoEdificio& p, Sesion& s, Dialogos& d, EditorRamales& editor,
               std::function<void()> refrescarEditor, QWidget* padre = nullptr)
-        : VentanaFilasRamal(QStringLiteral("ConexionesRamales"), p, s, d, editor, std::move(refrescarEditor), padre) {}
+        : VentanaFilasRamal(QStringLiteral("ConexionesRamales"), p, s, d, editor, std::move(refrescarEditor),
+                            [&s, &d](ConexionesRamales& logica, QWidget* sobre) {
+                                VentanaBDConexiones catalogo(s, d, &logica, sobre);
+                                catalogo.exec();
+                            },
+                            padre) {}
 };

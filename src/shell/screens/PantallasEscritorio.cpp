@@ -3,6 +3,8 @@
 #include "analysis/screens/VentanaAnalisisRed.h"
 #include "aqueduct/screens/VentanaAnalisisACU.h"
 #include "aqueduct/screens/VentanaDatosAcueducto.h"
+#include "catalogue/screens/VentanaBDConexiones.h"
+#include "catalogue/screens/VentanaBDPiezas.h"
 #include "entry/screens/VentanaDatosRamales.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
@@ -20,6 +22,8 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::AnalisisACU:
     case Pantalla::ConfigurarPrograma:
     case Pantalla::Sobre:
+    case Pantalla::BDPiezas:
+    case Pantalla::BDConexiones:
         return true;
     default:
         return false;
@@ -64,6 +68,16 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::DatosAcueducto: {
         VentanaDatosAcueducto pantalla(acu_, s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::BDPiezas: {
+        VentanaBDPiezas pantalla(s_, d_, nullptr, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::BDConexiones: {
+        VentanaBDConexiones pantalla(s_, d_, nullptr, ventana_);
         pantalla.exec();
         break;
     }
