@@ -13,10 +13,13 @@ namespace {
 
 // A whole number of a field, faulting as the older runtime did when it does
 // not fit the variable.
-long long Entero(const Valor& v, long long minimo, long long maximo, const char* campo) {
-    const long long e = ComoEntero(v);
+long long Entero(long long e, long long minimo, long long maximo, const char* campo) {
     if (e < minimo || e > maximo) throw ErrorEjecucion(Error::Desbordamiento, QString::fromLatin1(campo));
     return e;
+}
+
+long long Entero(const Valor& v, long long minimo, long long maximo, const char* campo) {
+    return Entero(ComoEntero(v), minimo, maximo, campo);
 }
 
 uint8_t Byte(const Valor& v, const char* campo) { return uint8_t(Entero(v, 0, 255, campo)); }
@@ -53,12 +56,12 @@ void LeerTramos(ProyectoAcueducto& p, Conexion& c) {
               cl = q.IndiceColumna(QStringLiteral("Longitud")), cd = q.IndiceColumna(QStringLiteral("Diametro")),
               cc = q.IndiceColumna(QStringLiteral("CoeficienteC")), cq = q.IndiceColumna(QStringLiteral("Demanda"));
     for (int i = 1; q.Siguiente(); ++i) {
-        p.Inicio[i] = ComoTexto(q.Columna(ci));
-        p.Final[i] = ComoTexto(q.Columna(cf));
-        p.Longitud[i] = ComoDoble(q.Columna(cl));
-        p.Diametro[i] = ComoDoble(q.Columna(cd));
-        p.CoeficienteC[i] = int(Entero(q.Columna(cc), -32768, 32767, "CoeficienteC"));
-        p.Demanda[i] = ComoDoble(q.Columna(cq));
+        p.Inicio[i] = q.Texto(ci);
+        p.Final[i] = q.Texto(cf);
+        p.Longitud[i] = q.Doble(cl);
+        p.Diametro[i] = q.Doble(cd);
+        p.CoeficienteC[i] = int(Entero(q.Entero(cc), -32768, 32767, "CoeficienteC"));
+        p.Demanda[i] = q.Doble(cq);
     }
 }
 
@@ -76,10 +79,10 @@ void LeerNodos(ProyectoAcueducto& p, Conexion& c) {
               ct = q.IndiceColumna(QStringLiteral("CotaTerreno")),
               cb = q.IndiceColumna(QStringLiteral("CotaBombaEstanque"));
     for (int i = 1; i <= p.NumeroNodosACU && q.Siguiente(); ++i) {
-        p.Nodos[i] = Trim(ComoTexto(q.Columna(cn)));
-        p.ConsumoMedio[i] = ComoDoble(q.Columna(cm));
-        p.CotaTerreno[i] = ComoDoble(q.Columna(ct));
-        p.CotaBombaEstanque[i] = ComoDoble(q.Columna(cb));
+        p.Nodos[i] = Trim(q.Texto(cn));
+        p.ConsumoMedio[i] = q.Doble(cm);
+        p.CotaTerreno[i] = q.Doble(ct);
+        p.CotaBombaEstanque[i] = q.Doble(cb);
     }
 }
 

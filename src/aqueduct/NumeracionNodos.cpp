@@ -12,9 +12,11 @@
 
 namespace {
 
-// One record of Nodos.Dat.
-QByteArray RegistroNodo(const QString& nombre, int numero) {
-    QByteArray r(LargoRegistroNodo, '\0');
+// One record of Nodos.Dat, appended to `todo`.
+void AgregarRegistroNodo(QByteArray& todo, const QString& nombre, int numero) {
+    const qsizetype inicio = todo.size();
+    todo.resize(inicio + LargoRegistroNodo, '\0');
+    char* r = todo.data() + inicio;
     for (int i = 0; i < LargoNombreNodo; ++i) {
         char c = ' ';
         if (i < nombre.size()) {
@@ -25,7 +27,6 @@ QByteArray RegistroNodo(const QString& nombre, int numero) {
     }
     r[LargoNombreNodo] = char(numero & 0xFF);
     r[LargoNombreNodo + 1] = char((numero >> 8) & 0xFF);
-    return r;
 }
 
 // The scratch file is rewritten whole; a folder that cannot be made leaves
@@ -39,7 +40,7 @@ void EscribirNodosDat(const Sesion& s, const std::vector<QString>& registros) {
     if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) return;
     QByteArray todo;
     todo.reserve(qsizetype(registros.size()) * LargoRegistroNodo);
-    for (size_t i = 1; i < registros.size(); ++i) todo += RegistroNodo(registros[i], int(i));
+    for (size_t i = 1; i < registros.size(); ++i) AgregarRegistroNodo(todo, registros[i], int(i));
     f.write(todo);
 }
 

@@ -12,6 +12,10 @@
 #include <string>
 #include <vector>
 
+// The shortest text of `valor` when it has at most three decimals (as
+// std::to_chars would write it), else nullptr; `c` has room for 32 bytes.
+char* DecimalCorto(char* c, double valor);
+
 class EscritorJson {
 public:
     // To `salida`, written out as the buffer fills and at Terminar.
@@ -36,7 +40,7 @@ public:
 
     // The final line end, and the rest written out.
     void Terminar();
-    const std::string& Bytes() const { return b_; }
+    std::string Bytes() const { return b_.substr(0, usado_); }
 
 private:
     void Abrir(const char* clave, char signo);
@@ -44,9 +48,13 @@ private:
     // The separator, indent and key before a value.
     void Antes(const char* clave);
     void Sangria();
+    void Poner(const char* texto, size_t n);
+    // Room for n more bytes, written out first when it goes to a file.
+    void Reservar(size_t n);
     void Vaciar();
 
     FILE* salida_ = nullptr;
-    std::string b_;
+    std::string b_;     // its first usado_ bytes are the text
+    size_t usado_ = 0;
     std::vector<bool> vacio_;  // per open container: nothing written in it yet
 };

@@ -300,6 +300,27 @@ bool Consulta::Ejecutar(const std::vector<Valor>& parametros) {
 
 Valor Consulta::Columna(int i) const { return st_ && i >= 0 ? LeerColumna(st_, i) : Valor(); }
 
+QString Consulta::Texto(int i) const {
+    if (st_ && i >= 0 && sqlite3_column_type(st_, i) == SQLITE_TEXT)
+        return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st_, i)),
+                                 sqlite3_column_bytes(st_, i));
+    return ComoTexto(Columna(i));
+}
+
+double Consulta::Doble(int i) const {
+    if (st_ && i >= 0) {
+        const int tipo = sqlite3_column_type(st_, i);
+        if (tipo == SQLITE_FLOAT) return sqlite3_column_double(st_, i);
+        if (tipo == SQLITE_INTEGER) return double(sqlite3_column_int64(st_, i));
+    }
+    return ComoDoble(Columna(i));
+}
+
+long long Consulta::Entero(int i) const {
+    if (st_ && i >= 0 && sqlite3_column_type(st_, i) == SQLITE_INTEGER) return sqlite3_column_int64(st_, i);
+    return ComoEntero(Columna(i));
+}
+
 int Consulta::IndiceColumna(const QString& nombre) const {
     if (!st_) return -1;
     const int n = sqlite3_column_count(st_);

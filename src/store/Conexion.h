@@ -95,6 +95,11 @@ public:
     // Runs a write with these parameters; false on failure.
     bool Ejecutar(const std::vector<Valor>& parametros);
     Valor Columna(int i) const;
+    // Column i read as ComoTexto, ComoDoble and ComoEntero read it, without
+    // the variant in between: the loads of large tables read these.
+    QString Texto(int i) const;
+    double Doble(int i) const;
+    long long Entero(int i) const;
     // Column of the current row by name (case-insensitive); null when absent.
     Valor Columna(const QString& nombre) const;
     int IndiceColumna(const QString& nombre) const;

@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <cmath>
+#include <charconv>
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <limits>
@@ -106,3 +107,25 @@ TEST(EscritorJson, AUnArchivoPorTandas) {
 }
 
 }  // namespace
+
+// The quick path for typed values writes what std::to_chars writes: the
+// edges of its range (three decimals, 1e5 for whole numbers, 1e12), values
+// that only look decimal (0.1 + 0.2) and signs.
+TEST(EscritorJson, DecimalCortoComoToChars) {
+    const double valores[] = {0.001, 0.005, 0.01, 0.1, 0.5, 1, 2.5, 12.345, 99.999, 4.5, 1234.56, 99999, 100000,
+                              100000.5, 123456.789, 999999999999.999, 1e12, 1e11, 0.1 + 0.2, 1.0 / 3.0, 0.0005,
+                              -0.25, -12.345, -99999, -100000, 48.207, 5.882365365e-09, 30851};
+    for (const double v : valores) {
+        char esperado[32], rapido[32];
+        const std::string e(esperado, std::to_chars(esperado, esperado + 32, v).ptr);
+        char* fin = DecimalCorto(rapido, v);
+        if (fin) EXPECT_EQ(std::string(rapido, fin), e) << e;
+        EscritorJson j;
+        j.Numero(nullptr, v);
+        EXPECT_EQ(j.Bytes(), e);
+    }
+    char b[32];
+    EXPECT_NE(DecimalCorto(b, 12.345), nullptr);  // the path is taken where it should be
+    EXPECT_EQ(DecimalCorto(b, 0.1 + 0.2), nullptr);
+    EXPECT_EQ(DecimalCorto(b, 100000), nullptr);
+}

@@ -161,3 +161,24 @@ TEST(Conexion, UnArchivoDanadoSeDiceEnEspanol) {
     EXPECT_TRUE(c.Escalar(QStringLiteral("SELECT count(*) FROM Piezas WHERE ClavePieza > 0")).isNull());
     EXPECT_EQ(c.UltimoError(), QStringLiteral("El archivo está dañado o no es una base de datos del programa."));
 }
+
+// The direct readers of a statement's columns give what the general ones
+// give, for every kind a column can hold: text, a number stored as text
+// (read in C form whatever the locale), whole and real numbers, null.
+TEST(Consulta, LectoresDirectosComoLosGenerales) {
+    SesionPrueba sp;
+    const MarcasPrueba espana("es_ES");
+    Conexion c;
+    ASSERT_EQ(AbrirConexion(c, BaseConTabla(sp)), 0);
+    Consulta q(c, QStringLiteral("SELECT 'N 1', '2.5', 7, 2.75, NULL, 1e300, '', 3.0"));
+    ASSERT_TRUE(q.Siguiente());
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_EQ(q.Texto(i), ComoTexto(q.Columna(i))) << i;
+        EXPECT_EQ(q.Doble(i), ComoDoble(q.Columna(i))) << i;
+        EXPECT_EQ(q.Entero(i), ComoEntero(q.Columna(i))) << i;
+    }
+    EXPECT_EQ(q.Doble(1), 2.5);
+    EXPECT_EQ(q.Entero(3), 3);  // 2.75 rounds, as the runtime did
+    EXPECT_FALSE(q.Texto(4).isNull());
+    EXPECT_EQ(q.Texto(99), ComoTexto(Valor()));
+}
