@@ -114,7 +114,9 @@ bool EditorCatalogo::LeerCampos(int& clave, std::vector<double>& figuras) {
         Enfocar(Clave);
         return false;
     }
-    if (k.valor != std::floor(k.valor) || k.valor < -32768 || k.valor > 32767) {
+    // A key below 1 would stand among the reserved ones: never deleted,
+    // its name locked.  0 is the empty key, answered by the focus alone.
+    if (k.valor != std::floor(k.valor) || (k.valor < 1 && k.valor != 0) || k.valor > 32767) {
         MostrarNumeroRechazado(d_, QStringLiteral("La clave es un número entero de 1 a 32") +
                                        SeparadoresActuales().miles + QStringLiteral("767: \"") + Trim(clave_) +
                                        QStringLiteral("\" no lo es."));

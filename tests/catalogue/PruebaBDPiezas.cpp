@@ -193,6 +193,12 @@ TEST_F(BDPrueba, SalvarSinClaveONombreOConClaveNoEntera) {
         EXPECT_FALSE(e.Salvar());
         EXPECT_TRUE(d.Ultimo().texto.startsWith(QStringLiteral("\"veinte\" no es un número")));
     }
+    // A negative key would rank among the reserved ones, never to be deleted.
+    const size_t antes = d.mensajes.size();
+    e.CambiarClave(QStringLiteral("-5"));
+    EXPECT_FALSE(e.Salvar());
+    EXPECT_EQ(d.mensajes.size(), antes + 1);
+    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en el Número..."));
     EXPECT_EQ(bd->Logica().Filas(), 21);
 }
 
