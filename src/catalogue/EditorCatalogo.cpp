@@ -134,7 +134,8 @@ bool EditorCatalogo::LeerCampos(int& clave, std::vector<double>& figuras) {
     }
     figuras.assign(size_t(Figuras()), 0.0);
     for (int i = 0; i < Figuras(); ++i) {
-        if (automatico_ || Trim(figuras_[i]).isEmpty()) continue;
+        // An automatic row's hidden length box still holds the stored length.
+        if (Trim(figuras_[i]).isEmpty()) continue;
         const NumeroLeido v = LeerNumeroTecleado(figuras_[i]);
         QString motivo = v.motivo;
         if (v.valido && v.valor < 0)

@@ -350,6 +350,23 @@ TEST_F(BDPrueba, ConexionesAutomaticoPorColumnaEnElGridYPorClaveAlCapturar) {
               QStringLiteral("Capturar Conexiones..."));
 }
 
+// Fitting 13 (length 5) marked automatic: its length box is hidden, and the
+// save, which writes Automatico false from key 12 on, keeps the length 5.
+TEST_F(BDPrueba, ConexionAutomaticaSalvadaConservaSuLongitud) {
+    EjecutarSql(Catalogo(), QStringLiteral("UPDATE Conexiones SET Automatico=-1 WHERE ClaveConexion=13"));
+    BDConexiones bd(s, d);
+    bd.Cargar();
+    NewConexion nc(bd, s, d, fotos);
+    EditorCatalogo& e = nc.Logica();
+    e.Cargar(13);
+    ASSERT_TRUE(e.Automatico());
+    e.CambiarNombre(QStringLiteral("MEDIDOR DE AGUA DE 1/2"));
+    ASSERT_TRUE(e.Salvar());
+    EXPECT_EQ(Escalar(s.ConexionCatalogo, QStringLiteral("SELECT LongitudEquivalente FROM Conexiones "
+                                                         "WHERE ClaveConexion=13 AND Automatico=0")),
+              5);
+}
+
 TEST_F(BDPrueba, CapturaDePiezaEnElRamalConCantidad3) {
     p.OpcionUsoPiezas = 2;  // PublicoTotal
     PiezasRamales pr(p, s, d, editor);
