@@ -1,6 +1,7 @@
 // The pixel buffer and the photograph effects: values worked by hand where
 // the formula is short, properties where it is not.
 
+#include "Apoyo.h"
 #include "base/ErrorEjecucion.h"
 #include "images/Pixeles.h"
 #include "images/efectos/Efectos.h"
@@ -98,6 +99,16 @@ TEST(Pixeles, UnaImagenSinAnchoOAltoOEnormeEsUnDesbordamiento) {
         }
     }
     EXPECT_THROW(LeerPixeles(QImage()), ErrorEjecucion);
+    // The sizes carry the locale's thousands mark.
+    for (const auto& [locale, lado] : {std::pair{"es_ES", "20.000"}, {"es_MX", "20,000"}}) {
+        const MarcasPrueba marcas(locale);
+        try {
+            ComprobarTamanoPixeles(20000, 20000);
+        } catch (const ErrorEjecucion& e) {
+            EXPECT_TRUE(e.detalle().startsWith(QStringLiteral("La imagen de %1 × %1 píxeles").arg(QLatin1String(lado))))
+                << e.detalle().toStdString();
+        }
+    }
 }
 
 TEST(Efectos, EscalaDeGrisesConLosPesosDeLuminancia) {
