@@ -442,6 +442,23 @@ TEST_F(BDPrueba, CatalogoDeSoloLecturaNoPierdeNada) {
     EXPECT_EQ(LeerArchivo(ruta), antes);
 }
 
+// A catalogue file of another kind: said on opening, and a new fixture
+// typed into the empty screen is refused without touching the file.
+TEST_F(BDPrueba, CatalogoQueNoEsBaseDeDatosSeAvisa) {
+    const QString ruta = Catalogo();
+    s.ConexionCatalogo.Cerrar();
+    EscribirArchivo(ruta, "no es una base de datos");
+    ASSERT_NE(AbrirConexion(s.ConexionCatalogo, ruta), 0);
+    EditorCatalogo& e = AbrirEditor(1);
+    MensajeEs(d.mensajes.at(0),
+              QStringLiteral("No se pudo leer la base de datos:\nEl archivo no es una base de datos del programa: ") +
+                  ruta,
+              QStringLiteral("Base de Datos de Piezas Sanitarias..."));
+    EXPECT_EQ(bd->Logica().Filas(), 0);
+    EXPECT_FALSE(NuevaPieza(e, QStringLiteral("LAVADERO")));
+    EXPECT_EQ(LeerArchivo(ruta), QByteArray("no es una base de datos"));
+}
+
 TEST_F(BDPrueba, OrdenarYBuscarActuanSobreLaFilaVista) {
     BDPiezas bd(s, d);
     bd.Cargar();
