@@ -7,11 +7,18 @@
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-QString FiguraComoTexto(double v) { return Formato(v, QStringLiteral("0.00")); }
+// Two decimals, or as many as the stored figure has (up to six): a save
+// that did not touch a figure stores it as it was.
+QString FiguraComoTexto(double v) {
+    int d = 2;
+    while (d < 6 && std::fabs(RoundNivo(v, d) - v) > 1e-9 * std::max(1.0, std::fabs(v))) ++d;
+    return Formato(v, QStringLiteral("0.") + QString(d, QLatin1Char('0')));
+}
 
 }  // namespace
 

@@ -102,6 +102,22 @@ TEST_F(BDPrueba, CeroEnBlancoEnElGridYCeroEnElEditorEnCadaLocale) {
     }
 }
 
+// A figure of three decimals shows whole in the editor, so saving the row
+// for its name alone does not round it to 0.13.
+TEST_F(BDPrueba, UnaFiguraDeTresDecimalesSeGuardaIgualAlSalvarOtroCampo) {
+    EjecutarSql(Catalogo(), QStringLiteral("INSERT INTO Piezas (ClavePieza, NombrePieza, PrivadoTotal) "
+                                           "VALUES (22, 'LAVADERO', 0.125)"));
+    const MarcasPrueba marcas("es_VE");
+    EditorCatalogo& e = AbrirEditor(22);
+    EXPECT_EQ(e.TextoFigura(0), QStringLiteral("0,125"));
+    EXPECT_EQ(e.TextoFigura(1), QStringLiteral("0,00"));
+    e.CambiarNombre(QStringLiteral("LAVADERO DOBLE"));
+    ASSERT_TRUE(e.Salvar());
+    EXPECT_DOUBLE_EQ(ComoDoble(s.ConexionCatalogo.Escalar(
+                         QStringLiteral("SELECT PrivadoTotal FROM Piezas WHERE ClavePieza=22"))),
+                     0.125);
+}
+
 TEST_F(BDPrueba, EliminarClavesReservadasRehusadoConSusTextos) {
     BDPiezas bp(s, d);
     bp.Cargar();
