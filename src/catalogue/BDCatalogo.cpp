@@ -25,7 +25,17 @@ Registros& BDCatalogo::Rs() { return s_.*(t_.registros); }
 
 void BDCatalogo::Cargar() {
     if (!captura_ || !Rs().Abierto()) {
-        t_.leer(s_);
+        // A catalogue file missing or of another kind is said, not shown as
+        // an empty catalogue: by why it could not be opened, or else why it
+        // could not be read.
+        const Conexion& c = s_.ConexionCatalogo;
+        const QString porQueNoAbrio = c.Abierta() ? QString() : c.UltimoError();
+        if (!t_.leer(s_)) {
+            QString motivo = porQueNoAbrio.isEmpty() ? Rs().Error() : porQueNoAbrio;
+            if (c.Abierta()) motivo = c.Ruta() + QLatin1Char('\n') + motivo;
+            d_.MostrarMensaje(QStringLiteral("No se pudo leer la base de datos:\n") + motivo,
+                              t_.titulo + QStringLiteral("..."), TituloProyectoFontaria());
+        }
         abiertoAqui_ = true;
     }
     ConfigurarSpread();

@@ -7,11 +7,18 @@
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-QString FiguraComoTexto(double v) { return Formato(v, QStringLiteral("0.00")); }
+// Two decimals, or as many as the stored figure has (up to six): a save
+// that did not touch a figure stores it as it was.
+QString FiguraComoTexto(double v) {
+    int d = 2;
+    while (d < 6 && std::fabs(RoundNivo(v, d) - v) > 1e-9 * std::max(1.0, std::fabs(v))) ++d;
+    return Formato(v, QStringLiteral("0.") + QString(d, QLatin1Char('0')));
+}
 
 }  // namespace
 
@@ -114,7 +121,9 @@ bool EditorCatalogo::LeerCampos(int& clave, std::vector<double>& figuras) {
         Enfocar(Clave);
         return false;
     }
-    if (k.valor != std::floor(k.valor) || k.valor < -32768 || k.valor > 32767) {
+    // A key below 1 would stand among the reserved ones: never deleted,
+    // its name locked.  0 is the empty key, answered by the focus alone.
+    if (k.valor != std::floor(k.valor) || (k.valor < 1 && k.valor != 0) || k.valor > 32767) {
         MostrarNumeroRechazado(d_, QStringLiteral("La clave es un número entero de 1 a 32") +
                                        SeparadoresActuales().miles + QStringLiteral("767: \"") + Trim(clave_) +
                                        QStringLiteral("\" no lo es."));
@@ -132,7 +141,8 @@ bool EditorCatalogo::LeerCampos(int& clave, std::vector<double>& figuras) {
     }
     figuras.assign(size_t(Figuras()), 0.0);
     for (int i = 0; i < Figuras(); ++i) {
-        if (automatico_ || Trim(figuras_[i]).isEmpty()) continue;
+        // An automatic row's hidden length box still holds the stored length.
+        if (Trim(figuras_[i]).isEmpty()) continue;
         const NumeroLeido v = LeerNumeroTecleado(figuras_[i]);
         QString motivo = v.motivo;
         if (v.valido && v.valor < 0)

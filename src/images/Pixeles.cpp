@@ -1,20 +1,22 @@
 #include "images/Pixeles.h"
 
 #include "base/ErrorEjecucion.h"
+#include "base/Nivo.h"
 
 #include <cstring>
 
 void ComprobarTamanoPixeles(int ancho, int alto) {
+    const QString mascara = QStringLiteral("#,##0");
     if (ancho <= 0 || alto <= 0)
         throw ErrorEjecucion(Error::Desbordamiento,
-                             QStringLiteral("La imagen no tiene ancho o alto: %1 × %2 píxeles.").arg(ancho).arg(alto));
+                             QStringLiteral("La imagen no tiene ancho o alto: %1 × %2 píxeles.")
+                                 .arg(Formato(ancho, mascara), Formato(alto, mascara)));
     if (static_cast<long long>(ancho) * alto > MaximoPixelesEfecto)
         throw ErrorEjecucion(Error::Desbordamiento,
                              QStringLiteral("La imagen de %1 × %2 píxeles es demasiado grande para los efectos "
                                             "(hasta %3 millones de píxeles).")
-                                 .arg(ancho)
-                                 .arg(alto)
-                                 .arg(MaximoPixelesEfecto / 1'000'000));
+                                 .arg(Formato(ancho, mascara), Formato(alto, mascara),
+                                      Formato(double(MaximoPixelesEfecto / 1'000'000), mascara)));
 }
 
 Pixeles LeerPixeles(const QImage& imagen) {

@@ -4,13 +4,16 @@
 // rows run from the bottom of the picture to its top, as a bottom-up 32-bit
 // device-independent bitmap keeps them.
 
+#include "images/ArchivoImagen.h"
+
 #include <QImage>
 #include <cstdint>
 #include <vector>
 
-// The largest picture the effects take: beyond it the two buffers of a
-// screen would not fit in memory.
-constexpr long long MaximoPixelesEfecto = 50'000'000;
+// The largest picture the effects take: every picture the program takes
+// in, and no more, for beyond it the two buffers of a screen would not fit
+// in memory.
+constexpr long long MaximoPixelesEfecto = MaximoPuntosImagen;
 
 struct Pixeles {
     int W = 0, H = 0;

@@ -102,6 +102,22 @@ TEST_F(BDPrueba, CeroEnBlancoEnElGridYCeroEnElEditorEnCadaLocale) {
     }
 }
 
+// A figure of three decimals shows whole in the editor, so saving the row
+// for its name alone does not round it to 0.13.
+TEST_F(BDPrueba, UnaFiguraDeTresDecimalesSeGuardaIgualAlSalvarOtroCampo) {
+    EjecutarSql(Catalogo(), QStringLiteral("INSERT INTO Piezas (ClavePieza, NombrePieza, PrivadoTotal) "
+                                           "VALUES (22, 'LAVADERO', 0.125)"));
+    const MarcasPrueba marcas("es_VE");
+    EditorCatalogo& e = AbrirEditor(22);
+    EXPECT_EQ(e.TextoFigura(0), QStringLiteral("0,125"));
+    EXPECT_EQ(e.TextoFigura(1), QStringLiteral("0,00"));
+    e.CambiarNombre(QStringLiteral("LAVADERO DOBLE"));
+    ASSERT_TRUE(e.Salvar());
+    EXPECT_DOUBLE_EQ(ComoDoble(s.ConexionCatalogo.Escalar(
+                         QStringLiteral("SELECT PrivadoTotal FROM Piezas WHERE ClavePieza=22"))),
+                     0.125);
+}
+
 TEST_F(BDPrueba, EliminarClavesReservadasRehusadoConSusTextos) {
     BDPiezas bp(s, d);
     bp.Cargar();
@@ -193,6 +209,12 @@ TEST_F(BDPrueba, SalvarSinClaveONombreOConClaveNoEntera) {
         EXPECT_FALSE(e.Salvar());
         EXPECT_TRUE(d.Ultimo().texto.startsWith(QStringLiteral("\"veinte\" no es un número")));
     }
+    // A negative key would rank among the reserved ones, never to be deleted.
+    const size_t antes = d.mensajes.size();
+    e.CambiarClave(QStringLiteral("-5"));
+    EXPECT_FALSE(e.Salvar());
+    EXPECT_EQ(d.mensajes.size(), antes + 1);
+    EXPECT_EQ(d.Ultimo().encabezado, QStringLiteral("Error en el Número..."));
     EXPECT_EQ(bd->Logica().Filas(), 21);
 }
 
@@ -344,6 +366,23 @@ TEST_F(BDPrueba, ConexionesAutomaticoPorColumnaEnElGridYPorClaveAlCapturar) {
               QStringLiteral("Capturar Conexiones..."));
 }
 
+// Fitting 13 (length 5) marked automatic: its length box is hidden, and the
+// save, which writes Automatico false from key 12 on, keeps the length 5.
+TEST_F(BDPrueba, ConexionAutomaticaSalvadaConservaSuLongitud) {
+    EjecutarSql(Catalogo(), QStringLiteral("UPDATE Conexiones SET Automatico=-1 WHERE ClaveConexion=13"));
+    BDConexiones bd(s, d);
+    bd.Cargar();
+    NewConexion nc(bd, s, d, fotos);
+    EditorCatalogo& e = nc.Logica();
+    e.Cargar(13);
+    ASSERT_TRUE(e.Automatico());
+    e.CambiarNombre(QStringLiteral("MEDIDOR DE AGUA DE 1/2"));
+    ASSERT_TRUE(e.Salvar());
+    EXPECT_EQ(Escalar(s.ConexionCatalogo, QStringLiteral("SELECT LongitudEquivalente FROM Conexiones "
+                                                         "WHERE ClaveConexion=13 AND Automatico=0")),
+              5);
+}
+
 TEST_F(BDPrueba, CapturaDePiezaEnElRamalConCantidad3) {
     p.OpcionUsoPiezas = 2;  // PublicoTotal
     PiezasRamales pr(p, s, d, editor);
@@ -417,6 +456,23 @@ TEST_F(BDPrueba, CatalogoDeSoloLecturaNoPierdeNada) {
     EXPECT_EQ(bd->Logica().Filas(), 22);
     EXPECT_EQ(bd->Spread1().Texto(22, 3), QStringLiteral("LAVADERO"));
     EXPECT_EQ(LeerArchivo(ruta), antes);
+}
+
+// A catalogue file of another kind: said on opening, and a new fixture
+// typed into the empty screen is refused without touching the file.
+TEST_F(BDPrueba, CatalogoQueNoEsBaseDeDatosSeAvisa) {
+    const QString ruta = Catalogo();
+    s.ConexionCatalogo.Cerrar();
+    EscribirArchivo(ruta, "no es una base de datos");
+    ASSERT_NE(AbrirConexion(s.ConexionCatalogo, ruta), 0);
+    EditorCatalogo& e = AbrirEditor(1);
+    MensajeEs(d.mensajes.at(0),
+              QStringLiteral("No se pudo leer la base de datos:\nEl archivo no es una base de datos del programa: ") +
+                  ruta,
+              QStringLiteral("Base de Datos de Piezas Sanitarias..."));
+    EXPECT_EQ(bd->Logica().Filas(), 0);
+    EXPECT_FALSE(NuevaPieza(e, QStringLiteral("LAVADERO")));
+    EXPECT_EQ(LeerArchivo(ruta), QByteArray("no es una base de datos"));
 }
 
 TEST_F(BDPrueba, OrdenarYBuscarActuanSobreLaFilaVista) {

@@ -1,6 +1,7 @@
 // The pixel buffer and the photograph effects: values worked by hand where
 // the formula is short, properties where it is not.
 
+#include "Apoyo.h"
 #include "base/ErrorEjecucion.h"
 #include "images/Pixeles.h"
 #include "images/efectos/Efectos.h"
@@ -10,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <set>
 
 namespace {
@@ -98,6 +100,16 @@ TEST(Pixeles, UnaImagenSinAnchoOAltoOEnormeEsUnDesbordamiento) {
         }
     }
     EXPECT_THROW(LeerPixeles(QImage()), ErrorEjecucion);
+    // The sizes carry the locale's thousands mark.
+    for (const auto& [locale, lado] : {std::pair{"es_ES", "20.000"}, {"es_MX", "20,000"}}) {
+        const MarcasPrueba marcas(locale);
+        try {
+            ComprobarTamanoPixeles(20000, 20000);
+        } catch (const ErrorEjecucion& e) {
+            EXPECT_TRUE(e.detalle().startsWith(QStringLiteral("La imagen de %1 × %1 píxeles").arg(QLatin1String(lado))))
+                << e.detalle().toStdString();
+        }
+    }
 }
 
 TEST(Efectos, EscalaDeGrisesConLosPesosDeLuminancia) {
@@ -290,4 +302,35 @@ TEST(Efectos, LosEfectosConNombreDanImagenesDelTamanoYDistintas) {
     // The relief of a flat picture is the middle grey.
     ModernArtSculture(r[6], Uniforme(5, 5, 90, 90, 90), 5, 5);
     EXPECT_EQ(r[6](Canal::Verde, 2, 2), 128);
+}
+
+// A picture of one pixel, one row or one column is a picture: every effect
+// gives one of its size.
+TEST(Efectos, LasImagenesDeUnPixelDeAnchoOAltoNoRompenNingunEfecto) {
+    for (const QSize& s : {QSize(1, 1), QSize(7, 1), QSize(1, 5), QSize(2, 3)}) {
+        const Pixeles o = Uniforme(s.width(), s.height(), 200, 100, 50);
+        const int W = o.W, H = o.H;
+        std::vector<std::function<void(Pixeles&)>> efectos = {
+            [&](Pixeles& d) { FiltroBilateral(d, o, W, H); },
+            [&](Pixeles& d) { DrawCartoonizerP(d, o, W, H); },
+            [&](Pixeles& d) { PencilPlusCALC(d, o, W, H); },
+            [&](Pixeles& d) { FilmNoirCALC(d, o, W, H); },
+            [&](Pixeles& d) { ModernArtSculture(d, o, W, H); },
+            [&](Pixeles& d) { AjustarColor(d, o, W, H, 30, 30, 30, 60); },
+        };
+        for (int f = 1; f <= NumeroEfectosRGB; ++f) efectos.push_back([&, f](Pixeles& d) { RGBEffectsCALC(d, o, W, H, f); });
+        for (int f = 1; f <= NumeroMetodosDithering; ++f)
+            efectos.push_back([&, f](Pixeles& d) { AplicarDithering(d, o, W, H, f); });
+        for (size_t i = 0; i < efectos.size(); ++i) {
+            Pixeles d;
+            try {
+                efectos[i](d);
+            } catch (const std::exception& e) {
+                ADD_FAILURE() << s.width() << "x" << s.height() << " effect " << i << ": " << e.what();
+                continue;
+            }
+            EXPECT_EQ(d.W, W) << i;
+            EXPECT_EQ(d.H, H) << i;
+        }
+    }
 }

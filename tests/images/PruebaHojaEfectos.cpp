@@ -1,5 +1,5 @@
 // The sheet of every RGB effect and every dithering method on one factory
-// photograph, each tile named: drawn on every run, and kept as a PNG where
+// photograph, each tile named: no two alike, and kept as a PNG where
 // FONTARIA_HOJA_EFECTOS names a file, for a person to look at.
 // FONTARIA_HOJA_CLAVE chooses the fixture (10, the washbasin, by default);
 // FONTARIA_HOJA_IMAGEN takes a picture file instead, for a colour photograph.
@@ -27,10 +27,12 @@ QImage FotoDeFabrica(int clave) {
     return foto;
 }
 
-// One tile per effect, `columnas` across, the name under each.
-QImage Hoja(const QImage& foto, int columnas) {
+using Mosaicos = QList<std::pair<QString, QImage>>;
+
+// The photograph, then each effect of it, named.
+Mosaicos Efectos(const QImage& foto) {
     const Pixeles o = LeerPixeles(foto);
-    QList<std::pair<QString, QImage>> mosaicos{{QStringLiteral("Original"), foto}};
+    Mosaicos mosaicos{{QStringLiteral("Original"), foto}};
     using Efecto = void (*)(Pixeles&, const Pixeles&, int, int);
     const std::pair<const char*, Efecto> botones[] = {
         {"Bilateral Filtro", FiltroBilateral},
@@ -54,6 +56,11 @@ QImage Hoja(const QImage& foto, int columnas) {
         AplicarDithering(d, o, o.W, o.H, f);
         mosaicos.append({QStringLiteral("D%1 %2").arg(f).arg(NombresDithering()[f - 1]), PintarPixeles(d)});
     }
+    return mosaicos;
+}
+
+// One tile per effect, `columnas` across, the name under each.
+QImage Hoja(const QImage& foto, const Mosaicos& mosaicos, int columnas) {
     const int texto = 18, ancho = foto.width() + 8, alto = foto.height() + texto + 8;
     const int filas = (int(mosaicos.size()) + columnas - 1) / columnas;
     QImage hoja(columnas * ancho, filas * alto, QImage::Format_RGB32);
@@ -78,8 +85,14 @@ TEST(HojaEfectos, TodosLosEfectosSobreUnaFotoDeFabrica) {
     const QString archivo = qEnvironmentVariable("FONTARIA_HOJA_IMAGEN");
     const QImage foto = archivo.isEmpty() ? FotoDeFabrica(clave > 0 ? clave : 10) : QImage(archivo);
     ASSERT_FALSE(foto.isNull());
-    const QImage hoja = Hoja(foto, 10);
-    EXPECT_EQ(hoja.width(), 10 * (foto.width() + 8));
+    // On a real photograph no two differently named effects, nor an effect
+    // and the photograph, give the same picture.
+    const Mosaicos mosaicos = Efectos(foto);
+    for (int a = 0; a < mosaicos.size(); ++a)
+        for (int b = a + 1; b < mosaicos.size(); ++b)
+            EXPECT_NE(mosaicos[a].second, mosaicos[b].second)
+                << mosaicos[a].first.toStdString() << " = " << mosaicos[b].first.toStdString();
+    const QImage hoja = Hoja(foto, mosaicos, 10);
     const QString destino = qEnvironmentVariable("FONTARIA_HOJA_EFECTOS");
     if (!destino.isEmpty()) EXPECT_TRUE(hoja.save(destino));
 }
