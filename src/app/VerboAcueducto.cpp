@@ -14,6 +14,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <optional>
 
 namespace {
 
@@ -24,11 +25,14 @@ namespace {
 class Borrador {
 public:
     Borrador(Sesion& s, bool siempre) {
-        if (siempre || !QDir(s.RutaDatos(QStringLiteral("Trabajo"))).exists()) s.DirectorioDatos = dir_.path();
+        // Made only when used: a folder made and removed costs a small run a
+        // tenth of its time.
+        if (siempre || !QDir(s.RutaDatos(QStringLiteral("Trabajo"))).exists())
+            s.DirectorioDatos = dir_.emplace().path();
     }
 
 private:
-    QTemporaryDir dir_;
+    std::optional<QTemporaryDir> dir_;
 };
 
 const char* UsoAcueducto() {
