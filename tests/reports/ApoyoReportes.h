@@ -1,0 +1,36 @@
+#pragma once
+// A sample building project analysed as the screen shows it, with the
+// session's work database ready for the result reports.
+
+#include "support/Apoyo.h"
+#include "analysis/AnalisisRed.h"
+#include "analysis/Numeracion.h"
+#include "model/ArchivoEdificio.h"
+#include "model/ProyectoEdificio.h"
+#include "shell/Inicio.h"
+#include "store/Conexion.h"
+
+#include <QDir>
+#include <memory>
+
+struct EjemploAnalizado {
+    SesionPrueba sp;
+    ProyectoEdificio p;
+    DialogosFalsos d;
+    std::unique_ptr<AnalisisRed> a;
+
+    // The grids are filled with the marks in force when this runs.
+    explicit EjemploAnalizado(const QString& nivo = QStringLiteral("Edificio_ApartamentoTipo.nivo")) {
+        QDir().mkpath(sp.Datos(QStringLiteral("Trabajo")));
+        CopiarBasesTrabajo(sp.s);
+        sp.s.NombreProyecto = QStringLiteral("ejemplo.plm");
+        sp.s.ArchivoProyecto = sp.CopiaDeEjemplo(nivo, sp.s.NombreProyecto);
+        sp.s.NombreUsuario = QStringLiteral("Oficina Técnica");
+        EXPECT_EQ(AbrirConexionProyecto(sp.s), 0);
+        EXPECT_TRUE(LeerProyecto(p, sp.s));
+        VerificarNumeracion(p, d);
+        a = std::make_unique<AnalisisRed>(p, sp.s, d);
+        a->Cargar();
+    }
+    QString Trabajo() const { return sp.Datos(QStringLiteral("Trabajo/Trabajo.mdb")); }
+};
