@@ -55,6 +55,17 @@ foreach(json IN LISTS MUESTRAS_REDES)
   list(APPEND DATOS_GENERADOS "${IMAGEN}/${nombre}.nivo")
 endforeach()
 
+# The report templates: data/reportes/NAME.json -> Reportes/NAME.json
+file(GLOB PLANTILLAS_REPORTES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/data/reportes/*.json)
+foreach(json IN LISTS PLANTILLAS_REPORTES)
+  get_filename_component(nombre ${json} NAME)
+  add_custom_command(
+    OUTPUT ${CMAKE_BINARY_DIR}/Reportes/${nombre}
+    COMMAND ${CMAKE_COMMAND} -E copy_if_different ${json} ${CMAKE_BINARY_DIR}/Reportes/${nombre}
+    DEPENDS ${json}
+    COMMENT "Plantilla de reporte ${nombre}")
+  list(APPEND DATOS_GENERADOS ${CMAKE_BINARY_DIR}/Reportes/${nombre})
+endforeach()
 
 # The manuals under Manual/: Spanish Markdown sources in data/manual rendered
 # to PDF, and the main manual also as the HTML help (Manual/Ayuda/index.html).

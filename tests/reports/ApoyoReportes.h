@@ -15,12 +15,17 @@
 
 struct EjemploAnalizado {
     SesionPrueba sp;
+    MarcasPrueba marcas;  // after the session, which sets its own
     ProyectoEdificio p;
     DialogosFalsos d;
     std::unique_ptr<AnalisisRed> a;
 
-    // The grids are filled with the marks in force when this runs.
-    explicit EjemploAnalizado(const QString& nivo = QStringLiteral("Edificio_ApartamentoTipo.nivo")) {
+    // The grids are filled with the marks of `locale`.
+    explicit EjemploAnalizado(const char* locale = "C",
+                              const QString& nivo = QStringLiteral("Edificio_ApartamentoTipo.nivo"))
+        : marcas(locale) {
+        sp.s.SeparadorDecimal = SeparadoresActuales().decimal;
+        sp.s.SeparadorMiles = SeparadoresActuales().miles;
         QDir().mkpath(sp.Datos(QStringLiteral("Trabajo")));
         CopiarBasesTrabajo(sp.s);
         sp.s.NombreProyecto = QStringLiteral("ejemplo.plm");

@@ -31,8 +31,9 @@ bool Llenar(EjemploAnalizado& e, QString& error, const OpcionesResultados& o = {
 TEST(TablasResultados, ElEjemploDelApartamentoPasaALasTablasComoLoMuestranLosGrids) {
     for (const char* locale : {"es_ES", "C", "es_AR"}) {
         SCOPED_TRACE(locale);
-        const MarcasPrueba marcas(locale);
-        EjemploAnalizado e;
+        EjemploAnalizado e(locale);
+        // The grid shows bathroom 2's 4.5 m with the locale's mark.
+        EXPECT_EQ(e.a->Spread3.Texto(6, 5), QStringLiteral("4") + SeparadoresActuales().decimal + QStringLiteral("50"));
         QString error;
         OpcionesResultados o;
         o.FormatoColor = false;

@@ -1,0 +1,77 @@
+#include "reports/motor/DatosReporte.h"
+
+#include "store/Conexion.h"
+
+namespace {
+
+bool LeerTabla(Conexion& c, const QString& tabla, const QString& orden, TablaReporte& t, QString& error) {
+    if (!c.ExisteTabla(tabla)) {
+        error = QStringLiteral("La base de datos del reporte no tiene la tabla «%1».").arg(tabla);
+        return false;
+    }
+    t.columnas = c.ColumnasDe(tabla);
+    QString sql = QStringLiteral("SELECT * FROM %1").arg(tabla);
+    if (!orden.isEmpty()) sql += QStringLiteral(" ORDER BY %1").arg(orden);
+    Consulta q(c, sql);
+    if (!q.Valida()) {
+        error = QStringLiteral("No se pudo leer la tabla «%1»: %2").arg(tabla, c.UltimoError());
+        return false;
+    }
+    while (q.Siguiente()) {
+        std::vector<Valor> fila;
+        for (int i = 0; i < t.columnas.size(); ++i) fila.push_back(q.Columna(i));
+        t.filas.push_back(std::move(fila));
+    }
+    return true;
+}
+
+bool TieneCampo(const TablaReporte& t, const QString& tabla, const QString& campo, QString& error) {
+    if (t.Indice(campo) >= 0) return true;
+    error = QStringLiteral("La tabla «%1» no tiene el campo «%2».").arg(tabla, campo);
+    return false;
+}
+
+}  // namespace
+
+int TablaReporte::Indice(const QString& campo) const {
+    for (int i = 0; i < columnas.size(); ++i)
+        if (columnas[i].compare(campo, Qt::CaseInsensitive) == 0) return i;
+    return -1;
+}
+
+Valor TablaReporte::Dato(int fila, const QString& campo) const {
+    const int i = Indice(campo);
+    if (fila < 0 || size_t(fila) >= filas.size() || i < 0) return Valor();
+    return filas[size_t(fila)][size_t(i)];
+}
+
+QString DatosReporte::General(const QString& campo) const { return ComoTexto(generales.Dato(0, campo)); }
+
+bool DatosReporte::FormatoColor() const { return ComoLogico(generales.Dato(0, QStringLiteral("FormatoColor"))); }
+
+const TablaReporte& DatosReporte::Tabla(const QString& nombre) const {
+    static const TablaReporte vacia;
+    const auto it = tablas.constFind(nombre);
+    return it == tablas.cend() ? vacia : *it;
+}
+
+bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error) {
+    datos = DatosReporte{};
+    Conexion c;
+    if (!c.Abrir(rutaBase)) {
+        error = c.UltimoError();
+        return false;
+    }
+    if (!LeerTabla(c, QStringLiteral("DatosGenerales"), QString(), datos.generales, error)) return false;
+    for (const SeccionPlantilla& s : p.secciones) {
+        if (datos.tablas.contains(s.tabla)) continue;
+        TablaReporte t;
+        if (!LeerTabla(c, s.tabla, s.orden, t, error)) return false;
+        for (const ColumnaPlantilla& col : s.columnas)
+            if (!TieneCampo(t, s.tabla, col.campo, error)) return false;
+        for (const CampoPlantilla& campo : s.campos)
+            if (!TieneCampo(t, s.tabla, campo.campo, error)) return false;
+        datos.tablas.insert(s.tabla, std::move(t));
+    }
+    return true;
+}

@@ -1,0 +1,31 @@
+#pragma once
+// The rows a template reads, taken from a work database once, before the
+// layout: a report never holds a connection while it is drawn or written.
+
+#include "reports/motor/Plantilla.h"
+#include "store/Valor.h"
+
+#include <QHash>
+#include <QString>
+#include <vector>
+
+struct TablaReporte {
+    QStringList columnas;
+    std::vector<std::vector<Valor>> filas;
+    int Indice(const QString& campo) const;  // -1 when absent
+    Valor Dato(int fila, const QString& campo) const;
+};
+
+struct DatosReporte {
+    QHash<QString, TablaReporte> tablas;
+    // The general data (the first row of DatosGenerales), for every page.
+    TablaReporte generales;
+    QString General(const QString& campo) const;
+    bool FormatoColor() const;
+    const TablaReporte& Tabla(const QString& nombre) const;
+};
+
+// Reads every table of the template, in each section's order, and the
+// general data.  False with a Spanish message when the database cannot be
+// opened or lacks a table or a field the template names.
+bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error);

@@ -1,0 +1,59 @@
+#pragma once
+// A report template: a JSON description of bands kept as a data file under
+// Reportes/ (building) or ReportesACU/ (aqueduct), named after the report.
+// The format is described in data/reportes/FORMATO.md.
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+enum class Alineacion { Izquierda, Centro, Derecha };
+
+// One column of a detail band.
+struct ColumnaPlantilla {
+    QString campo;
+    QString titulo;     // may hold "\n"; units go in it: "Caudal (l/s)"
+    double ancho = 1.0; // a weight: the columns share the page's width
+    Alineacion alineacion = Alineacion::Izquierda;
+    QString formato;    // "0.00", "0"...; empty for a text
+    bool imagen = false;  // the field holds a picture's bytes
+};
+
+// A label and a field of a one-row table (the general data).
+struct CampoPlantilla {
+    QString etiqueta, campo, formato, unidad;
+};
+
+struct SeccionPlantilla {
+    enum class Tipo { Detalle, Campos, Portada };
+    Tipo tipo = Tipo::Detalle;
+    QString titulo;  // printed above the band
+    QString tabla;
+    QString orden;   // a field of the table, ascending
+    std::vector<ColumnaPlantilla> columnas;
+    // A thin rule above each row whose field is not blank: the rows of one
+    // branch stay together between two rules.
+    QString separarCuando;
+    QStringList totales;  // fields summed in the band's closing row
+    QString etiquetaTotales = QStringLiteral("TOTALES");
+    double altoImagen = 0.0;  // points; rows with a picture column
+    std::vector<CampoPlantilla> campos;
+};
+
+struct Plantilla {
+    QString nombre;  // base name, as the older .rpt
+    QString titulo;
+    bool horizontal = false;
+    bool encabezado = true;  // the page header with the general data
+    bool pie = true;         // "Página N de M"
+    std::vector<SeccionPlantilla> secciones;
+    // The tables the template reads, each once, in order.
+    QStringList Tablas() const;
+};
+
+// The template file of a report: RutaPrograma/Reportes/NOMBRE.json, or
+// ReportesACU/ for the aqueduct's.
+QString RutaPlantilla(const QString& rutaPrograma, const QString& nombre, bool acueducto = false);
+// Reads a template; false with a Spanish message when the file is missing or
+// is not a template.
+bool LeerPlantilla(const QString& ruta, Plantilla& p, QString& error);

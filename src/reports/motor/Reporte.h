@@ -1,0 +1,38 @@
+#pragma once
+// A report: a template opened by its base name, bound to a work database,
+// and written to a file or drawn on a printer.
+
+#include "reports/motor/DatosReporte.h"
+#include "reports/motor/Plantilla.h"
+
+#include <QString>
+
+class QPagedPaintDevice;
+
+class Reporte {
+public:
+    // Opens Reportes/NOMBRE.json (ReportesACU/ for the aqueduct) under the
+    // program folder.
+    bool Abrir(const QString& rutaPrograma, const QString& nombre, bool acueducto = false);
+    // Reads the template's tables from a work database.
+    bool Vincular(const QString& rutaBase);
+
+    // Each writes the whole file or nothing: a target that cannot be
+    // written leaves no file and a Spanish message in Error().
+    bool ExportarPdf(const QString& archivo);
+    bool ExportarHtml(const QString& archivo);
+    // Lays the report out on a printer or any paged device; the number of pages.
+    int Imprimir(QPagedPaintDevice& d);
+
+    const Plantilla& PlantillaActual() const { return plantilla_; }
+    const DatosReporte& Datos() const { return datos_; }
+    const QString& Error() const { return error_; }
+
+private:
+    Plantilla plantilla_;
+    DatosReporte datos_;
+    QString error_;
+};
+
+// The self-contained HTML of a report (styles inline, pictures embedded).
+QString HtmlReporte(const Plantilla& p, const DatosReporte& datos);

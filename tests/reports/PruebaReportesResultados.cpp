@@ -1,0 +1,139 @@
+#include "ApoyoReportes.h"
+#include "reports/TablasResultados.h"
+#include "reports/motor/Reporte.h"
+
+#include <QFile>
+#include <QProcess>
+
+namespace {
+
+// The text of a PDF in pdftotext's reading order, blanks and line ends as
+// one space (a header wrapped in its cell reads whole); pages from `desde`
+// to `hasta`.
+QString TextoPdf(const QString& pdf, int desde = 0, int hasta = 0) {
+    QStringList args;
+    if (desde > 0) args << QStringLiteral("-f") << QString::number(desde) << QStringLiteral("-l") << QString::number(hasta);
+    QProcess p;
+    p.start(QStringLiteral("pdftotext"), args << pdf << QStringLiteral("-"));
+    EXPECT_TRUE(p.waitForFinished(30000));
+    return QString::fromUtf8(p.readAllStandardOutput()).simplified();
+}
+
+QString Renderizar(const EjemploAnalizado& e, const QString& nombre, const QString& formato = QStringLiteral("pdf")) {
+    Reporte r;
+    EXPECT_TRUE(r.Abrir(RutaProgramaPruebas(), nombre)) << r.Error().toStdString();
+    EXPECT_TRUE(r.Vincular(e.Trabajo())) << r.Error().toStdString();
+    const QString archivo = e.sp.Datos(nombre + QLatin1Char('.') + formato);
+    const bool ok = formato == QLatin1String("pdf") ? r.ExportarPdf(archivo) : r.ExportarHtml(archivo);
+    EXPECT_TRUE(ok) << r.Error().toStdString();
+    return archivo;
+}
+
+// The pages of a PDF, as pdfinfo counts them.
+int Paginas(const QString& pdf) {
+    QProcess p;
+    p.start(QStringLiteral("pdfinfo"), {pdf});
+    EXPECT_TRUE(p.waitForFinished(30000));
+    const QString info = QString::fromUtf8(p.readAllStandardOutput());
+    const int i = info.indexOf(QStringLiteral("Pages:"));
+    return i < 0 ? 0 : info.mid(i + 6).section(QLatin1Char('\n'), 0, 0).trimmed().toInt();
+}
+
+const char* const ResultadosEdificio[] = {"UnidadesGasto", "LongitudesEquivalentes", "PerdidasPresiones",
+                                          "Predimensionado", "Resultado", "Portada"};
+
+}  // namespace
+
+TEST(ReportesResultados, ElApartamentoSeImprimeConLosValoresQueMuestraLaPantalla) {
+    // Hand-worked from the sample: 24 fixture units in all, 11 on the
+    // kitchen branch; the meter's 5 m; the given 20 m at the origin; the
+    // 4.5 m of bathroom 2's branch; its assumed 1" on branch 2.
+    const struct {
+        const char* plantilla;
+        std::vector<const char*> textos;
+    } casos[] = {
+        {"UnidadesGasto", {"LAVAPLATOS AUTOMÁTICO", "24,00", "11,00", "Piezas Sanitarias", "Gasto Probable (l/s)"}},
+        {"LongitudesEquivalentes", {"MEDIDOR DE AGUA", "5,00", "L. Equivalente Total (m)"}},
+        {"PerdidasPresiones", {"20,00", "4,50", "BAÑO 2", "Presión en el Nodo J (m)"}},
+        {"Predimensionado", {"4,50", "1\"", "LAVANDERIA"}},
+        {"Resultado", {"20,00", "Nodo desfavorable", "Presiones en los nodos"}},
+        {"Portada", {"ANÁLISIS Y DISEÑO DE LA RED DE FONTARIA", "15/01/2024", "Nivo Software"}},
+    };
+    EjemploAnalizado e("es_ES");
+    QString error;
+    ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error)) << error.toStdString();
+    for (const auto& c : casos) {
+        const QString plantilla = QString::fromLatin1(c.plantilla);
+        const QString texto = TextoPdf(Renderizar(e, plantilla));
+        EXPECT_TRUE(texto.contains(QStringLiteral("Apartamento tipo"))) << c.plantilla;
+        for (const char* t : c.textos) EXPECT_TRUE(texto.contains(QString::fromUtf8(t))) << c.plantilla << ": " << t;
+        if (plantilla != QLatin1String("Portada")) {
+            EXPECT_TRUE(texto.contains(QStringLiteral("Página 1 de 1"))) << c.plantilla;
+        }
+        const QString html = QString::fromUtf8(LeerArchivo(Renderizar(e, plantilla, QStringLiteral("html"))));
+        EXPECT_TRUE(html.contains(QStringLiteral("Apartamento tipo"))) << c.plantilla;
+        for (const char* t : c.textos)
+            EXPECT_TRUE(html.contains(QString::fromUtf8(t).toHtmlEscaped())) << c.plantilla << ": " << t;
+    }
+}
+
+TEST(ReportesResultados, CadaEjemploImprimeTodasSusFilas) {
+    // Every sample, each row's J node printed, with the C marks.
+    for (const char* ejemplo : {"Edificio_ApartamentoTipo", "Edificio_GeneralesConserjeria", "Edificio_MontantePH",
+                                "Vivienda con Tanque Elevado", "Vivienda con Tanque Hidroneumatico"}) {
+        SCOPED_TRACE(ejemplo);
+        EjemploAnalizado e("C", QString::fromUtf8(ejemplo) + QStringLiteral(".nivo"));
+        QString error;
+        ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error)) << error.toStdString();
+        for (const char* plantilla : ResultadosEdificio) {
+            const QString texto = TextoPdf(Renderizar(e, QString::fromLatin1(plantilla)));
+            EXPECT_TRUE(texto.contains(e.p.Proyecto.simplified())) << plantilla;
+        }
+        const QString presiones = TextoPdf(Renderizar(e, QStringLiteral("PerdidasPresiones")));
+        for (int i = 1; i <= e.p.NumeroRamales; ++i)
+            EXPECT_TRUE(presiones.contains(e.p.Nodoj[i].simplified())) << i;
+    }
+}
+
+TEST(ReportesResultados, UnaTablaLargaRepiteLosEncabezadosEnCadaPagina) {
+    // 120 branches at about fifty rows a page: three pages, each with the
+    // column headers, and the last row on the last page.
+    EjemploAnalizado e;
+    QString error;
+    ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error));
+    Conexion c;
+    ASSERT_TRUE(c.Abrir(e.Trabajo()));
+    Consulta q(c, QStringLiteral("INSERT INTO ImprePresiones (Numero, NodoI, Nodoj, Caudal) VALUES (?,?,?,?)"));
+    for (int i = 7; i <= 120; ++i)
+        ASSERT_TRUE(q.Ejecutar({i, QStringLiteral("N%1").arg(i - 1), QStringLiteral("N%1").arg(i), 0.1}));
+    c.Cerrar();
+    const QString pdf = Renderizar(e, QStringLiteral("Predimensionado"));
+    const int paginas = Paginas(pdf);
+    ASSERT_GE(paginas, 2);
+    for (int n = 1; n <= paginas; ++n) {
+        const QString pagina = TextoPdf(pdf, n, n);
+        EXPECT_TRUE(pagina.contains(QStringLiteral("Diámetro Asumido"))) << n;
+        EXPECT_TRUE(pagina.contains(QStringLiteral("Página %1 de %2").arg(n).arg(paginas))) << n;
+    }
+    EXPECT_TRUE(TextoPdf(pdf, paginas, paginas).contains(QStringLiteral("N120")));
+}
+
+TEST(ReportesResultados, UnDestinoQueNoSePuedeEscribirNoDejaArchivo) {
+    EjemploAnalizado e;
+    QString error;
+    ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error));
+    Reporte r;
+    ASSERT_TRUE(r.Abrir(RutaProgramaPruebas(), QStringLiteral("Resultado")));
+    ASSERT_TRUE(r.Vincular(e.Trabajo()));
+    const QString archivo = e.sp.Datos(QStringLiteral("NoExiste/Resultado.pdf"));
+    EXPECT_FALSE(r.ExportarPdf(archivo));
+    EXPECT_TRUE(r.Error().startsWith(QStringLiteral("No se pudo escribir el reporte"))) << r.Error().toStdString();
+    EXPECT_FALSE(QFileInfo::exists(archivo));
+    // A template that does not exist, and one that is not a template.
+    EXPECT_FALSE(r.Abrir(RutaProgramaPruebas(), QStringLiteral("NoHay")));
+    EXPECT_TRUE(r.Error().startsWith(QStringLiteral("No se encontró la plantilla del reporte «NoHay»")));
+    QDir().mkpath(e.sp.Datos(QStringLiteral("Reportes")));
+    EscribirArchivo(e.sp.Datos(QStringLiteral("Reportes/Falsa.json")), "[1, 2");
+    EXPECT_FALSE(r.Abrir(e.sp.s.DirectorioDatos, QStringLiteral("Falsa")));
+    EXPECT_TRUE(r.Error().contains(QStringLiteral("no es una plantilla de reporte válida"))) << r.Error().toStdString();
+}
