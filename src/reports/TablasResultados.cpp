@@ -76,25 +76,28 @@ bool LleneTabla(Conexion& c, const char* tabla, const QString& columnas, int n, 
     return true;
 }
 
+// The two tables of several rows per branch: three texts, the fourth column
+// (an integer count, or the size's text), four numbers and the Final flag.
+bool LleneFilasRamal(Conexion& c, const Grid& g, const char* nombre, const char* tabla, const QString& columnas,
+                     bool cuartaEsTexto) {
+    const LectorGrid l(g, nombre);
+    return LleneTabla(c, tabla, columnas, 10, g, [&](int f) -> std::vector<Valor> {
+        return {f, l.Texto(f, 1), l.Texto(f, 2), l.Texto(f, 3), cuartaEsTexto ? Valor(l.Texto(f, 4)) : Valor(l.Entero(f, 4)),
+                l.Numero(f, 5), l.Numero(f, 6), l.Numero(f, 7), l.Numero(f, 8), Logico(l.Final(f, 9))};
+    });
+}
+
 bool LleneUnidadesGasto(Conexion& c, const Grid& g) {
-    const LectorGrid l(g, "Unidades de Gasto");
     // The first column is the J node here, the reverse of the other tables.
-    return LleneTabla(c, "ImpreUnidadesGasto",
-                      QStringLiteral("Numero, Nodoj, NodoI, Descripcion, Cantidad, PorPieza, SubTotal, Total, Gasto, Final"),
-                      10, g, [&](int f) -> std::vector<Valor> {
-                          return {f, l.Texto(f, 1), l.Texto(f, 2), l.Texto(f, 3), l.Entero(f, 4), l.Numero(f, 5),
-                                  l.Numero(f, 6), l.Numero(f, 7), l.Numero(f, 8), Logico(l.Final(f, 9))};
-                      });
+    return LleneFilasRamal(c, g, "Unidades de Gasto", "ImpreUnidadesGasto",
+                           QStringLiteral("Numero, Nodoj, NodoI, Descripcion, Cantidad, PorPieza, SubTotal, Total, Gasto, Final"),
+                           false);
 }
 
 bool LleneLongitudesEquivalentes(Conexion& c, const Grid& g) {
-    const LectorGrid l(g, "Longitudes Equivalentes");
-    return LleneTabla(c, "ImpreLongitudesEquivalentes",
-                      QStringLiteral("Numero, NodoI, Nodoj, Descripcion, Diametro, Cantidad, PorPieza, SubTotal, Total, Final"),
-                      10, g, [&](int f) -> std::vector<Valor> {
-                          return {f, l.Texto(f, 1), l.Texto(f, 2), l.Texto(f, 3), l.Texto(f, 4), l.Numero(f, 5),
-                                  l.Numero(f, 6), l.Numero(f, 7), l.Numero(f, 8), Logico(l.Final(f, 9))};
-                      });
+    return LleneFilasRamal(c, g, "Longitudes Equivalentes", "ImpreLongitudesEquivalentes",
+                           QStringLiteral("Numero, NodoI, Nodoj, Descripcion, Diametro, Cantidad, PorPieza, SubTotal, Total, Final"),
+                           true);
 }
 
 bool LlenePresiones(Conexion& c, const Grid& g) {
