@@ -55,16 +55,22 @@ foreach(json IN LISTS MUESTRAS_REDES)
   list(APPEND DATOS_GENERADOS "${IMAGEN}/${nombre}.nivo")
 endforeach()
 
-# The report templates: data/reportes/NAME.json -> Reportes/NAME.json
-file(GLOB PLANTILLAS_REPORTES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/data/reportes/*.json)
-foreach(json IN LISTS PLANTILLAS_REPORTES)
-  get_filename_component(nombre ${json} NAME)
-  add_custom_command(
-    OUTPUT ${CMAKE_BINARY_DIR}/Reportes/${nombre}
-    COMMAND ${CMAKE_COMMAND} -E copy_if_different ${json} ${CMAKE_BINARY_DIR}/Reportes/${nombre}
-    DEPENDS ${json}
-    COMMENT "Plantilla de reporte ${nombre}")
-  list(APPEND DATOS_GENERADOS ${CMAKE_BINARY_DIR}/Reportes/${nombre})
+# The report templates: data/reportes/NAME.json -> Reportes/NAME.json, and
+# the aqueduct's data/reportesacu/NAME.json -> ReportesACU/NAME.json
+foreach(par IN ITEMS "reportes:Reportes" "reportesacu:ReportesACU")
+  string(REPLACE ":" ";" par ${par})
+  list(GET par 0 origen)
+  list(GET par 1 destino)
+  file(GLOB PLANTILLAS_REPORTES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/data/${origen}/*.json)
+  foreach(json IN LISTS PLANTILLAS_REPORTES)
+    get_filename_component(nombre ${json} NAME)
+    add_custom_command(
+      OUTPUT ${CMAKE_BINARY_DIR}/${destino}/${nombre}
+      COMMAND ${CMAKE_COMMAND} -E copy_if_different ${json} ${CMAKE_BINARY_DIR}/${destino}/${nombre}
+      DEPENDS ${json}
+      COMMENT "Plantilla de reporte ${destino}/${nombre}")
+    list(APPEND DATOS_GENERADOS ${CMAKE_BINARY_DIR}/${destino}/${nombre})
+  endforeach()
 endforeach()
 
 # The manuals under Manual/: Spanish Markdown sources in data/manual rendered

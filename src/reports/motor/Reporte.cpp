@@ -54,3 +54,14 @@ bool Reporte::ExportarHtml(const QString& archivo) {
     }
     return true;
 }
+
+// Still to come: the workbook and word-processor writers.
+bool Reporte::ExportarXlsx(const QString& archivo) {
+    error_ = NoSeEscribe(archivo, QStringLiteral("el formato de hoja de cálculo aún no está disponible."));
+    return false;
+}
+
+bool Reporte::ExportarRtf(const QString& archivo) {
+    error_ = NoSeEscribe(archivo, QStringLiteral("el formato RTF aún no está disponible."));
+    return false;
+}

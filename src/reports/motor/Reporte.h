@@ -21,6 +21,10 @@ public:
     // written leaves no file and a Spanish message in Error().
     bool ExportarPdf(const QString& archivo);
     bool ExportarHtml(const QString& archivo);
+    // A workbook: one sheet per table section, numbers as numbers.
+    bool ExportarXlsx(const QString& archivo);
+    // A document whose tables a word processor opens as tables.
+    bool ExportarRtf(const QString& archivo);
     // Lays the report out on a printer or any paged device; the number of pages.
     int Imprimir(QPagedPaintDevice& d);
 
