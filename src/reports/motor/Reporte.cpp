@@ -5,13 +5,9 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 
-namespace {
-
-QString NoSeEscribe(const QString& archivo, const QString& motivo) {
+QString NoSeEscribeReporte(const QString& archivo, const QString& motivo) {
     return QStringLiteral("No se pudo escribir el reporte en «%1»:\n%2").arg(archivo, motivo);
 }
-
-}  // namespace
 
 bool Reporte::Abrir(const QString& rutaPrograma, const QString& nombre, bool acueducto) {
     return LeerPlantilla(RutaPlantilla(rutaPrograma, nombre, acueducto), plantilla_, error_);
@@ -29,7 +25,7 @@ int Reporte::Imprimir(QPagedPaintDevice& d) {
 bool Reporte::ExportarPdf(const QString& archivo) {
     QSaveFile f(archivo);
     if (!f.open(QIODevice::WriteOnly)) {
-        error_ = NoSeEscribe(archivo, f.errorString());
+        error_ = NoSeEscribeReporte(archivo, f.errorString());
         return false;
     }
     {
@@ -40,28 +36,23 @@ bool Reporte::ExportarPdf(const QString& archivo) {
         Imprimir(pdf);
     }
     if (!f.commit()) {
-        error_ = NoSeEscribe(archivo, f.errorString());
+        error_ = NoSeEscribeReporte(archivo, f.errorString());
         return false;
     }
     return true;
 }
 
-bool Reporte::ExportarHtml(const QString& archivo) {
+bool Reporte::ExportarHtml(const QString& archivo) { return EscribirEntero(archivo, HtmlReporte(plantilla_, datos_).toUtf8()); }
+
+bool Reporte::ExportarXlsx(const QString& archivo) { return EscribirXlsx(plantilla_, datos_, archivo, error_); }
+
+bool Reporte::ExportarRtf(const QString& archivo) { return EscribirEntero(archivo, RtfReporte(plantilla_, datos_)); }
+
+bool Reporte::EscribirEntero(const QString& archivo, const QByteArray& bytes) {
     QSaveFile f(archivo);
-    if (!f.open(QIODevice::WriteOnly) || f.write(HtmlReporte(plantilla_, datos_).toUtf8()) < 0 || !f.commit()) {
-        error_ = NoSeEscribe(archivo, f.errorString());
+    if (!f.open(QIODevice::WriteOnly) || f.write(bytes) < 0 || !f.commit()) {
+        error_ = NoSeEscribeReporte(archivo, f.errorString());
         return false;
     }
     return true;
-}
-
-// Still to come: the workbook and word-processor writers.
-bool Reporte::ExportarXlsx(const QString& archivo) {
-    error_ = NoSeEscribe(archivo, QStringLiteral("el formato de hoja de cálculo aún no está disponible."));
-    return false;
-}
-
-bool Reporte::ExportarRtf(const QString& archivo) {
-    error_ = NoSeEscribe(archivo, QStringLiteral("el formato RTF aún no está disponible."));
-    return false;
 }

@@ -33,6 +33,9 @@ public:
     const QString& Error() const { return error_; }
 
 private:
+    // A text form written whole through a passing file, or not at all.
+    bool EscribirEntero(const QString& archivo, const QByteArray& bytes);
+
     Plantilla plantilla_;
     DatosReporte datos_;
     QString error_;
@@ -40,3 +43,11 @@ private:
 
 // The self-contained HTML of a report (styles inline, pictures embedded).
 QString HtmlReporte(const Plantilla& p, const DatosReporte& datos);
+// The RTF document of a report: its bands as tables of the word processor.
+QByteArray RtfReporte(const Plantilla& p, const DatosReporte& datos);
+// Writes the workbook of a report whole or not at all; false with a Spanish
+// message in `error`.
+bool EscribirXlsx(const Plantilla& p, const DatosReporte& datos, const QString& archivo, QString& error);
+
+// "No se pudo escribir el reporte en «archivo»:" and the reason.
+QString NoSeEscribeReporte(const QString& archivo, const QString& motivo);

@@ -1,0 +1,112 @@
+// fontaria reporte X.plm|X.acu --plantilla NOMBRE --salida ARCHIVO [--color]
+//
+// Fills the template's work tables as its screen would, in a scratch data
+// folder, then has fontaria-reporte, beside this program, lay the report out
+// and write it: the painting libraries stay out of the command line.  The
+// format follows the output's extension.
+
+#include "app/LineaComandos.h"
+#include "app/LlenadoresReporte.h"
+#include "shell/Inicio.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <cerrno>
+#include <cstring>
+#include <spawn.h>
+#include <sys/wait.h>
+
+extern char** environ;
+
+namespace {
+
+const char* UsoReporte() {
+    return "Uso: fontaria reporte X.plm|X.acu --plantilla NOMBRE --salida ARCHIVO.pdf|.html|.xlsx|.rtf [--color]";
+}
+
+// The format word of fontaria-reporte for an output's extension; empty when
+// the extension names none.
+QString FormatoDeExtension(const QString& archivo) {
+    const QString e = QFileInfo(archivo).suffix().toLower();
+    if (e == QLatin1String("pdf") || e == QLatin1String("xlsx") || e == QLatin1String("rtf")) return e;
+    if (e == QLatin1String("html") || e == QLatin1String("htm")) return QStringLiteral("html");
+    return QString();
+}
+
+// Refused before the analysis, which may take long on a large project.
+QString FallaDestino(const QString& archivo) {
+    const QFileInfo f(archivo);
+    const QFileInfo carpeta(f.absolutePath());
+    QString motivo;
+    if (!carpeta.isDir()) motivo = QStringLiteral("la carpeta no existe.");
+    else if (!carpeta.isWritable()) motivo = QStringLiteral("no hay permiso de escritura en la carpeta.");
+    else if (f.isDir()) motivo = QStringLiteral("es una carpeta.");
+    else if (f.exists() && !f.isWritable()) motivo = QStringLiteral("el archivo es de sólo lectura.");
+    return motivo.isEmpty() ? QString() : QStringLiteral("No se puede escribir el reporte en «%1»: %2").arg(archivo, motivo);
+}
+
+// The scratch data folder: fresh work databases, and the user's catalogue
+// folder linked when there is one.
+void PrepararBorrador(Sesion& s, const QString& borrador) {
+    const QString usuario = s.DirectorioDatos;
+    s.DirectorioDatos = borrador;
+    QDir().mkpath(s.RutaDatos(QStringLiteral("Trabajo")));
+    CopiarBasesTrabajo(s);
+    const QString catalogo = usuario + QStringLiteral("/BDatos");
+    if (QFileInfo(catalogo).isDir()) QFile::link(catalogo, s.RutaDatos(QStringLiteral("BDatos")));
+}
+
+// Runs fontaria-reporte and waits for it; its exit status.
+int Componer(const QStringList& argumentos) {
+    const QByteArray programa = QFile::encodeName(CarpetaPrograma() + QStringLiteral("/fontaria-reporte"));
+    std::vector<QByteArray> bytes{programa};
+    for (const QString& a : argumentos) bytes.push_back(QFile::encodeName(a));
+    std::vector<char*> argv;
+    for (QByteArray& b : bytes) argv.push_back(b.data());
+    argv.push_back(nullptr);
+    pid_t hijo = 0;
+    if (const int e = posix_spawn(&hijo, programa.constData(), nullptr, nullptr, argv.data(), environ); e != 0)
+        return Fallar(QStringLiteral("No se puede ejecutar %1: %2")
+                          .arg(QFile::decodeName(programa), QString::fromLocal8Bit(strerror(e))));
+    int estado = 0;
+    while (waitpid(hijo, &estado, 0) < 0)
+        if (errno != EINTR) return Fallar(QStringLiteral("Se perdió el proceso del reporte."));
+    if (WIFEXITED(estado)) return WEXITSTATUS(estado);
+    return Fallar(QStringLiteral("El proceso del reporte terminó por la señal %1.").arg(WTERMSIG(estado)));
+}
+
+}  // namespace
+
+int VerboReporte(const QStringList& args) {
+    const ArgumentosVerbo a =
+        LeerArgumentos(args, {QStringLiteral("plantilla"), QStringLiteral("salida")}, {QStringLiteral("color")});
+    const QString nombre = a.Valor(QStringLiteral("plantilla")), salida = a.Valor(QStringLiteral("salida"));
+    if (!a.error.isEmpty() || a.archivo.isEmpty() || nombre.isEmpty() || salida.isEmpty()) return FallaDeUso(a, UsoReporte());
+    const QString formato = FormatoDeExtension(salida);
+    if (formato.isEmpty())
+        return Fallar(QStringLiteral("Extensión desconocida del archivo de salida: «%1».\n"
+                                     "Use .pdf, .html, .htm, .xlsx o .rtf.")
+                          .arg(salida));
+    const bool acueducto = QFileInfo(a.archivo).suffix().compare(QLatin1String("acu"), Qt::CaseInsensitive) == 0;
+    const EntradaReporte* e = BuscarReporte(acueducto, nombre);
+    if (!e) {
+        const QStringList conocidas = PlantillasConocidas(acueducto);
+        return Fallar(QStringLiteral("Plantilla desconocida: «%1».\nPlantillas %2: %3.")
+                          .arg(nombre, acueducto ? QStringLiteral("del acueducto") : QStringLiteral("de los edificios"),
+                               conocidas.isEmpty() ? QStringLiteral("ninguna todavía") : conocidas.join(QStringLiteral(", "))));
+    }
+    if (const QString falla = FallaDestino(salida); !falla.isEmpty()) return Fallar(falla);
+
+    QTemporaryDir borrador;
+    if (!borrador.isValid())
+        return Fallar(QStringLiteral("No se puede crear la carpeta temporal del reporte: ") + borrador.errorString());
+    TrabajoReporte t(a.archivo, a.Tiene(QStringLiteral("color")));
+    PrepararBorrador(t.c.s, borrador.path());
+    t.base = t.c.s.RutaDatos(QStringLiteral("Trabajo/Trabajo.mdb"));
+    if (const int estado = e->llenar(t); estado != Salida::Bien) return estado;
+    // Its connections closed, so that the other process reads what was written.
+    t.c.s.ConexionProyecto.Cerrar();
+    return Componer({formato, t.base, QString::fromLatin1(e->plantilla), acueducto ? QStringLiteral("1") : QStringLiteral("0"),
+                     QFileInfo(salida).absoluteFilePath()});
+}
