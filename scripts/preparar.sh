@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # Installs with apt-get what the build needs and is missing, saying what it
-# installs, then configures and builds in Release under build/.
+# installs, then configures and builds in Release under build/.  Packages
+# named as arguments are added to the list (those only the tests need).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 PAQUETES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libsqlite3-dev
           libgtest-dev googletest libbenchmark-dev libeigen3-dev fonts-dejavu-core
           qt6-translations-l10n libopencv-imgproc-dev libopencv-photo-dev poppler-utils
-          libxlsxwriter-dev)
+          libxlsxwriter-dev "$@")
 
 faltan=()
 for p in "${PAQUETES[@]}"; do
