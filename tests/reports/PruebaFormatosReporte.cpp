@@ -6,6 +6,8 @@
 #include "reports/TablasResultados.h"
 #include "reports/motor/Reporte.h"
 
+#include <QBuffer>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -14,8 +16,8 @@
 
 namespace {
 
-// Every sheet of a workbook: its name, frozen cell and cells as
-// [row, column, "n"|"s", value, number format], rows and columns from 1.
+// Every sheet of a workbook: its name, frozen cell and cells as [row,
+// column, "n"|"s", value, number format], rows and columns from 1.
 QJsonArray HojasXlsx(const QString& archivo) {
     static const char* lector = R"(
 import json, sys, openpyxl
@@ -25,6 +27,11 @@ for h in libro:
     celdas = [[c.row, c.column, 'n' if isinstance(c.value, (int, float)) else 's', c.value, c.number_format]
               for fila in h.iter_rows() for c in fila if c.value is not None]
     hojas.append({'nombre': h.title, 'congelado': h.freeze_panes, 'celdas': celdas})
+# openpyxl drops pictures without Pillow: the book's are counted in its
+# package and given with the first sheet.
+import zipfile
+medios = [n for n in zipfile.ZipFile(sys.argv[1]).namelist() if n.startswith('xl/media/')]
+hojas[0]['medios'] = len(medios)
 print(json.dumps(hojas))
 )";
     QProcess p;
@@ -161,4 +168,40 @@ TEST(FormatosReporte, ElRtfLlevaTablasConSuEncabezadoRepetido) {
     const QByteArray apaisado = LeerArchivo(Exportar(e, QStringLiteral("PerdidasPresiones"), QStringLiteral("rtf")));
     EXPECT_TRUE(apaisado.contains("\\paperw15840\\paperh12240"));
     EXPECT_TRUE(apaisado.contains("\\landscape"));
+}
+
+TEST(FormatosReporte, LasFotosVanEnElLibroYEnElRtf) {
+    // A table of two rows, one with a 4 x 2 red picture and one without.
+    SesionPrueba sp;
+    const QString base = sp.Datos(QStringLiteral("fotos.db"));
+    QImage roja(4, 2, QImage::Format_RGB32);
+    roja.fill(Qt::red);
+    QByteArray png;
+    QBuffer b(&png);
+    b.open(QIODevice::WriteOnly);
+    roja.save(&b, "PNG");
+    ASSERT_TRUE(QFile::copy(sp.s.RutaImagen(QStringLiteral("Trabajo.nivo")), base));
+    {
+        Conexion c;
+        ASSERT_TRUE(c.Abrir(base));
+        ASSERT_TRUE(c.Ejecutar(QStringLiteral("INSERT INTO DatosGenerales (Proyecto, FormatoColor) VALUES ('Casa', 1)")));
+        ASSERT_TRUE(c.Ejecutar(QStringLiteral("CREATE TABLE Fotos (Nombre TEXT, Foto BLOB)")));
+        ASSERT_TRUE(c.Ejecutar(QStringLiteral("INSERT INTO Fotos VALUES (?, ?)"), {QStringLiteral("DUCHA"), png}));
+        ASSERT_TRUE(c.Ejecutar(QStringLiteral("INSERT INTO Fotos VALUES (?, NULL)"), {QStringLiteral("BIDET")}));
+    }
+    QDir().mkpath(sp.Datos(QStringLiteral("Reportes")));
+    EscribirArchivo(sp.Datos(QStringLiteral("Reportes/Fotos.json")),
+                    R"({"titulo": "PIEZAS", "secciones": [{"tabla": "Fotos", "altoImagen": 40, "columnas": [
+                        {"campo": "Nombre", "titulo": "Pieza"}, {"campo": "Foto", "titulo": "Foto", "imagen": true}]}]})");
+    Reporte r;
+    ASSERT_TRUE(r.Abrir(sp.s.DirectorioDatos, QStringLiteral("Fotos"))) << r.Error().toStdString();
+    ASSERT_TRUE(r.Vincular(base)) << r.Error().toStdString();
+    ASSERT_TRUE(r.ExportarXlsx(sp.Datos(QStringLiteral("f.xlsx")))) << r.Error().toStdString();
+    const QJsonArray hojas = HojasXlsx(sp.Datos(QStringLiteral("f.xlsx")));
+    ASSERT_EQ(hojas.size(), 1);
+    EXPECT_EQ(hojas[0][QStringLiteral("medios")].toInt(), 1);
+    ASSERT_TRUE(r.ExportarRtf(sp.Datos(QStringLiteral("f.rtf"))));
+    const QByteArray rtf = LeerArchivo(sp.Datos(QStringLiteral("f.rtf")));
+    EXPECT_EQ(rtf.count("{\\pict\\pngblip\\picw4\\pich2"), 1);
+    EXPECT_TRUE(rtf.contains(png.toHex()));
 }
