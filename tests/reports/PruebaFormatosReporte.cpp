@@ -110,25 +110,6 @@ TEST(FormatosReporte, ElLibroTieneUnaHojaPorTablaYSusNumerosSonNumeros) {
     EXPECT_DOUBLE_EQ(bano[3].toDouble(), 4.5);
 }
 
-TEST(FormatosReporte, UnLibroQueNoSePuedeEscribirNoDejaNadaYNoTocaElAnterior) {
-    EjemploAnalizado e;
-    QString error;
-    ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error));
-    Reporte r;
-    ASSERT_TRUE(r.Abrir(RutaProgramaPruebas(), QStringLiteral("Resultado")));
-    ASSERT_TRUE(r.Vincular(e.Trabajo()));
-    const QString falta = e.sp.Datos(QStringLiteral("NoExiste/Resultado.xlsx"));
-    EXPECT_FALSE(r.ExportarXlsx(falta));
-    EXPECT_TRUE(r.Error().startsWith(QStringLiteral("No se pudo escribir el reporte"))) << r.Error().toStdString();
-    EXPECT_FALSE(QFileInfo::exists(falta));
-    // A target that is a folder: the older one stays, and no passing file is left.
-    const QString carpeta = e.sp.Datos(QStringLiteral("Carpeta.xlsx"));
-    QDir().mkpath(carpeta);
-    EXPECT_FALSE(r.ExportarXlsx(carpeta));
-    EXPECT_TRUE(QFileInfo(carpeta).isDir());
-    EXPECT_TRUE(QDir(e.sp.s.DirectorioDatos).entryList({QStringLiteral(".Carpeta*")}, QDir::Files | QDir::Hidden).isEmpty());
-}
-
 TEST(FormatosReporte, ElRtfLlevaTablasConSuEncabezadoRepetido) {
     EjemploAnalizado e;
     QString error;

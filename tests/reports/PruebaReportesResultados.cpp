@@ -125,10 +125,23 @@ TEST(ReportesResultados, UnDestinoQueNoSePuedeEscribirNoDejaArchivo) {
     Reporte r;
     ASSERT_TRUE(r.Abrir(RutaProgramaPruebas(), QStringLiteral("Resultado")));
     ASSERT_TRUE(r.Vincular(e.Trabajo()));
-    const QString archivo = e.sp.Datos(QStringLiteral("NoExiste/Resultado.pdf"));
-    EXPECT_FALSE(r.ExportarPdf(archivo));
-    EXPECT_TRUE(r.Error().startsWith(QStringLiteral("No se pudo escribir el reporte"))) << r.Error().toStdString();
-    EXPECT_FALSE(QFileInfo::exists(archivo));
+    // Each format, into a missing folder, and onto a folder: nothing is
+    // written, the folder stays, and no passing file is left beside it.
+    const QString carpeta = e.sp.Datos(QStringLiteral("Carpeta"));
+    QDir().mkpath(carpeta);
+    const std::pair<const char*, bool (Reporte::*)(const QString&)> formatos[] = {
+        {"pdf", &Reporte::ExportarPdf}, {"html", &Reporte::ExportarHtml}, {"xlsx", &Reporte::ExportarXlsx},
+        {"rtf", &Reporte::ExportarRtf}};
+    for (const auto& [extension, exportar] : formatos) {
+        const QString archivo = e.sp.Datos(QStringLiteral("NoExiste/Resultado.") + QLatin1String(extension));
+        EXPECT_FALSE((r.*exportar)(archivo));
+        EXPECT_TRUE(r.Error().startsWith(QStringLiteral("No se pudo escribir el reporte"))) << r.Error().toStdString();
+        EXPECT_FALSE(QFileInfo::exists(archivo));
+        EXPECT_FALSE((r.*exportar)(carpeta)) << extension;
+        EXPECT_TRUE(QFileInfo(carpeta).isDir());
+        EXPECT_EQ(QDir(e.sp.s.DirectorioDatos).entryList({QStringLiteral("*Carpeta?*")}, QDir::Files | QDir::Hidden),
+                  QStringList());
+    }
     // A template that does not exist, and one that is not a template.
     EXPECT_FALSE(r.Abrir(RutaProgramaPruebas(), QStringLiteral("NoHay")));
     EXPECT_TRUE(r.Error().startsWith(QStringLiteral("No se encontró la plantilla del reporte «NoHay»")));

@@ -71,37 +71,22 @@ public:
     LibroXlsx(const Plantilla& p, const DatosReporte& datos, lxw_workbook* libro)
         : p_(p), datos_(datos), libro_(libro), color_(datos.FormatoColor()) {
         const uint32_t tinta = color_ ? 0x1F4E79 : 0x000000;
-        negrita_ = Nuevo();
-        format_set_bold(negrita_);
-        empresa_ = Nuevo();
-        format_set_bold(empresa_);
-        format_set_font_size(empresa_, 12);
-        format_set_font_color(empresa_, tinta);
-        titulo_ = Nuevo();
-        format_set_bold(titulo_);
-        format_set_font_size(titulo_, 11);
-        format_set_font_color(titulo_, tinta);
-        caja_ = Nuevo();
-        format_set_bold(caja_);
+        negrita_ = Negrita(11, 0x000000);
+        empresa_ = Negrita(12, tinta);
+        titulo_ = Negrita(11, tinta);
+        portada_ = Negrita(16, tinta);
+        caja_ = Negrita(11, tinta);
         format_set_align(caja_, LXW_ALIGN_CENTER);
         format_set_border(caja_, LXW_BORDER_THIN);
         format_set_border_color(caja_, tinta);
-        format_set_font_color(caja_, tinta);
         format_set_bg_color(caja_, color_ ? 0xDCE6F1 : 0xF0F0F0);
-        portada_ = Nuevo();
-        format_set_bold(portada_);
-        format_set_font_size(portada_, 16);
-        format_set_font_color(portada_, tinta);
-        encabezado_ = Nuevo();
-        format_set_bold(encabezado_);
+        encabezado_ = Negrita(11, color_ ? 0xFFFFFF : 0x000000);
         format_set_text_wrap(encabezado_);
         format_set_align(encabezado_, LXW_ALIGN_CENTER);
         format_set_align(encabezado_, LXW_ALIGN_VERTICAL_CENTER);
         format_set_border(encabezado_, LXW_BORDER_THIN);
         format_set_bg_color(encabezado_, color_ ? 0x1F4E79 : 0xD9D9D9);
-        format_set_font_color(encabezado_, color_ ? 0xFFFFFF : 0x000000);
-        etiquetaTotales_ = Nuevo();
-        format_set_bold(etiquetaTotales_);
+        etiquetaTotales_ = Negrita(11, 0x000000);
         format_set_align(etiquetaTotales_, LXW_ALIGN_RIGHT);
         format_set_top(etiquetaTotales_, LXW_BORDER_THIN);
         for (Alineacion a : {Alineacion::Izquierda, Alineacion::Centro, Alineacion::Derecha}) {
@@ -139,6 +124,13 @@ public:
 
 private:
     lxw_format* Nuevo() { return workbook_add_format(libro_); }
+    lxw_format* Negrita(double puntos, uint32_t color) {
+        lxw_format* f = Nuevo();
+        format_set_bold(f);
+        format_set_font_size(f, puntos);
+        format_set_font_color(f, color);
+        return f;
+    }
 
     static uint8_t Alinear(Alineacion a) {
         switch (a) {
@@ -282,7 +274,7 @@ private:
     }
 
     // A value as the cell takes it: a number with its mask, or a text.
-    void Valor_(lxw_worksheet* h, int fila, int columna, const Valor& v, const QString& formato, lxw_format* texto) {
+    void EscribirValor(lxw_worksheet* h, int fila, int columna, const Valor& v, const QString& formato, lxw_format* texto) {
         if (!formato.isEmpty())
             worksheet_write_number(h, lxw_row_t(fila), lxw_col_t(columna), ComoDoble(v),
                                    Numero(formato, false, Alineacion::Izquierda));
@@ -295,7 +287,7 @@ private:
         if (!s.titulo.isEmpty()) worksheet_write_string(h, fila++, 0, U(s.titulo).constData(), titulo_);
         for (const CampoPlantilla& c : s.campos) {
             worksheet_write_string(h, lxw_row_t(fila), 0, U(c.etiqueta).constData(), negrita_);
-            Valor_(h, fila, 1, t.Dato(0, c.campo), c.formato, nullptr);
+            EscribirValor(h, fila, 1, t.Dato(0, c.campo), c.formato, nullptr);
             if (!c.unidad.isEmpty()) worksheet_write_string(h, lxw_row_t(fila), 2, U(c.unidad).constData(), nullptr);
             anchoEtiqueta = std::max(anchoEtiqueta, int(c.etiqueta.size()) + 2);
             anchoValor = std::max(anchoValor, int(TextoDato(t.Dato(0, c.campo), c.formato).size()) + 2);
@@ -318,7 +310,7 @@ private:
         for (const CampoPlantilla& c : s.campos) {
             if (TextoDato(t.Dato(0, c.campo), c.formato).isEmpty()) continue;
             worksheet_write_string(h, lxw_row_t(fila), 0, U(c.etiqueta).constData(), negrita_);
-            Valor_(h, fila++, 1, t.Dato(0, c.campo), c.formato, nullptr);
+            EscribirValor(h, fila++, 1, t.Dato(0, c.campo), c.formato, nullptr);
         }
         return fila + 1;
     }
