@@ -161,6 +161,14 @@ private:
         worksheet_set_paper(h, 1);  // letter
         if (p_.horizontal) worksheet_set_landscape(h);
         worksheet_set_margins(h, 0.5, 0.5, 0.5, 0.5);
+        worksheet_fit_to_pages(h, 1, 0);  // printed as wide as one page, as long as needed
+        if (p_.pie) {
+            // The printed foot of the other forms; '&' is the footer's own mark.
+            const QString pie = QStringLiteral("&LNivo-Fontaria %1 · %2&RPágina &P de &N")
+                                    .arg(datos_.General(QStringLiteral("Version")).replace(QLatin1Char('&'), QStringLiteral("&&")),
+                                         datos_.General(QStringLiteral("Proyecto")).replace(QLatin1Char('&'), QStringLiteral("&&")));
+            worksheet_set_footer(h, U(pie).constData());
+        }
         return h;
     }
 
