@@ -81,8 +81,14 @@ TEST_F(VerboReporte, LaExtensionEligeElFormato) {
     EXPECT_FALSE(LeerArchivo(sp.Datos(QStringLiteral("r.rtf"))).contains("\\red31\\green78\\blue121"));
     ASSERT_EQ(Reporte(plm, "Resultado", sp.Datos(QStringLiteral("r.rtf")), true), 0);
     EXPECT_TRUE(LeerArchivo(sp.Datos(QStringLiteral("r.rtf"))).contains("\\red31\\green78\\blue121"));
-    // The user's work tables are left alone: the run had a folder of its own.
+    // The user's work tables are left alone: the run had a folder of its
+    // own, whose link to the user's catalogue folder went with it, but not
+    // the catalogue.
     EXPECT_FALSE(QFileInfo::exists(sp.Datos(QStringLiteral("Trabajo/Trabajo.mdb"))));
+    QDir().mkpath(sp.Datos(QStringLiteral("BDatos")));
+    EscribirArchivo(sp.Datos(QStringLiteral("BDatos/BD_Piezas_Conexiones.mdb")), "catálogo");
+    ASSERT_EQ(Reporte(plm, "Portada", sp.Datos(QStringLiteral("p.pdf"))), 0);
+    EXPECT_EQ(LeerArchivo(sp.Datos(QStringLiteral("BDatos/BD_Piezas_Conexiones.mdb"))), QByteArray("catálogo"));
 }
 
 TEST_F(VerboReporte, LoQueNoSePuedeHacerSeDiceEnEspanolSinDejarArchivo) {
