@@ -6,7 +6,9 @@
 #include "catalogue/screens/VentanaBDConexiones.h"
 #include "catalogue/screens/VentanaBDPiezas.h"
 #include "entry/screens/VentanaDatosRamales.h"
+#include "shell/screens/VentanaCompactar1.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
+#include "shell/screens/VentanaRespaldoArchivos.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/VentanaSobre.h"
 #include "takeoff/screens/VentanaComputos.h"
@@ -24,6 +26,8 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::Sobre:
     case Pantalla::BDPiezas:
     case Pantalla::BDConexiones:
+    case Pantalla::Compactar:
+    case Pantalla::RespaldoArchivos:
         return true;
     default:
         return false;
@@ -53,6 +57,16 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::ConfigurarPrograma: {
         VentanaConfigurarPrograma pantalla(s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::Compactar: {
+        VentanaCompactar1 pantalla(s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::RespaldoArchivos: {
+        VentanaRespaldoArchivos pantalla(s_, d_, ventana_);
         pantalla.exec();
         break;
     }
