@@ -5,7 +5,10 @@
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
 
+#include <QApplication>
+#include <QGridLayout>
 #include <QGroupBox>
+#include <QProgressBar>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -41,6 +44,30 @@ VentanaRespaldoArchivos::VentanaRespaldoArchivos(Sesion& s, Dialogos& d, QWidget
         });
     }
     capa->addWidget(marco);
+
+    auto* zip = new QGroupBox(QStringLiteral("Respaldo Comprimido (ZIP)"), this);
+    auto* filaZip = new QGridLayout(zip);
+    auto* crear = BotonNivo(QStringLiteral("LSButtonZip"), QStringLiteral("Crear Respaldo ZIP"), zip,
+                            QStyle::SP_DialogSaveButton,
+                            QStringLiteral(" Guardar los proyectos, las redes y el catálogo \n en un archivo ZIP con la fecha "));
+    auto* restaurar = BotonNivo(QStringLiteral("LSButtonRestaurar"), QStringLiteral("Restaurar Respaldo ZIP"), zip,
+                                QStyle::SP_DialogOpenButton,
+                                QStringLiteral(" Restaurar los archivos de un respaldo ZIP \n (los más recientes se conservan) "));
+    auto* barra = new QProgressBar(zip);
+    barra->setObjectName(QStringLiteral("ProgressBar1"));
+    barra->setRange(0, 100);
+    barra->setValue(0);
+    filaZip->addWidget(crear, 0, 0);
+    filaZip->addWidget(restaurar, 0, 1);
+    filaZip->addWidget(barra, 1, 0, 1, 2);
+    capa->addWidget(zip);
+    const auto avance = [barra](double f) {
+        barra->setValue(int(f * 100));
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    };
+    connect(crear, &QPushButton::clicked, this, [&s, &d, avance] { CrearRespaldoZip(s, d, avance); });
+    connect(restaurar, &QPushButton::clicked, this, [&s, &d, avance] { RestaurarRespaldo(s, d, avance); });
+
     auto* cerrar = BotonRetorno(this);
     connect(cerrar, &QPushButton::clicked, this, &QDialog::reject);
     capa->addWidget(cerrar, 0, Qt::AlignRight);
