@@ -144,8 +144,9 @@ bool LleneHojasAcueducto(const QString& ruta, const std::vector<FilaHoja>& filas
     if (!Abrir(c, ruta, error)) return false;
     Transaccion t(c);
     // The header of a blank sheet stays blank: no project of an earlier
-    // report is printed on it.
+    // report is printed on it, only the program's version at the foot.
     if (!Vaciar(c, {"Generales"}) ||
+        !c.Ejecutar(QStringLiteral("INSERT INTO Generales (Version) VALUES (?)"), {EtiquetaVersion()}) ||
         !LleneFilas(c, "Tramos", QStringLiteral("Numero, NodoInicial, NodoFinal"), filas, true) ||
         !LleneFilas(c, "Nodos", QStringLiteral("Numero"), filas, false) || !t.Confirmar())
         return Fallo(c, error);

@@ -44,5 +44,6 @@ struct FilaHoja {
 // ImpreUnidadesGasto (Numero, NodoI, Nodoj) per sheet row.
 bool LleneHojasEdificio(const QString& ruta, const std::vector<FilaHoja>& filas, bool opcion1, QString& error);
 // The aqueduct sheets: Tramos of Resultados.mdb at `ruta` with Numero,
-// NodoInicial, NodoFinal per row, and Nodos with the numbers 1..rows.
+// NodoInicial, NodoFinal per row, Nodos with the rows' numbers, and Generales
+// holding the version only.
 bool LleneHojasAcueducto(const QString& ruta, const std::vector<FilaHoja>& filas, QString& error);

@@ -255,7 +255,7 @@ TEST(ReportesAcueducto, LasHojasDelEdificioLlenanSusFilasYElCheck) {
         EXPECT_TRUE(h.Aceptar());
         const QString t = TextoPdf(pdf);
         EXPECT_TRUE(t.contains(QStringLiteral("2 B C"))) << opcion;
-        EXPECT_TRUE(t.contains(opcion == 1 ? QStringLiteral("Piezas Sanitarias") : QStringLiteral("Cota del Nodo ( I ) (m)")));
+        EXPECT_TRUE(t.contains(opcion == 1 ? QStringLiteral("Piezas Sanitarias") : QStringLiteral("Cota del Nodo I (m)")));
     }
     const auto filas = r.Filas("Trabajo.mdb", QStringLiteral("SELECT Numero, NodoI, Nodoj FROM ImpreUnidadesGasto"));
     EXPECT_EQ(filas.size(), 4u);

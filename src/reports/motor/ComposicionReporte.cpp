@@ -260,7 +260,7 @@ private:
                 NuevaPagina();
                 EncabezadoColumnas(s, cols, altoEncabezado);
             }
-            if (f % 2 == 1) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
+            if (f % 2 == 1 && !s.rejilla) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
             if (!s.separarCuando.isEmpty() && f > 0 && !ComoTexto(t.Dato(f, s.separarCuando)).trimmed().isEmpty())
                 Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
             for (size_t i = 0; i < cols.size(); ++i) {
@@ -279,6 +279,7 @@ private:
 
     // The rules of a form around the row at y_.
     void Rejilla(const std::vector<std::pair<double, double>>& cols, double alto) {
+        Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
         Linea(Margen, y_ + alto, Margen + Ancho(), y_ + alto, estilo_.linea);
         Linea(Margen, y_, Margen, y_ + alto, estilo_.linea);
         for (const auto& [x, w] : cols) Linea(x + w, y_, x + w, y_ + alto, estilo_.linea);
@@ -321,13 +322,15 @@ private:
         SeccionTitulo(s);
         int k = 0;
         for (const CampoPlantilla& c : s.campos) {
-            if (y_ + alto > Fondo()) NuevaPagina();
-            if (k++ % 2 == 0) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
-            Texto(QRectF(Margen + 4, y_, etiqueta - 8, alto), c.etiqueta, 9, true, Qt::AlignLeft | Qt::AlignVCenter);
             QString valor = TextoDato(t.Dato(0, c.campo), c.formato);
             if (!c.unidad.isEmpty()) valor += QLatin1Char(' ') + c.unidad;
-            Texto(QRectF(Margen + etiqueta, y_, Ancho() - etiqueta - 4, alto), valor, 9, false, Qt::AlignLeft | Qt::AlignVCenter);
-            y_ += alto;
+            // A long value (a comment) takes the lines it needs.
+            const double fila = std::max(alto, Alto(valor, Ancho() - etiqueta - 4, 9, false) + 4);
+            if (y_ + fila > Fondo()) NuevaPagina();
+            if (k++ % 2 == 0) Rellenar(QRectF(Margen, y_, Ancho(), fila), estilo_.fondoAlterno);
+            Texto(QRectF(Margen + 4, y_, etiqueta - 8, fila), c.etiqueta, 9, true, Qt::AlignLeft | Qt::AlignVCenter);
+            Texto(QRectF(Margen + etiqueta, y_, Ancho() - etiqueta - 4, fila), valor, 9, false, Qt::AlignLeft | Qt::AlignVCenter);
+            y_ += fila;
         }
         Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
     }
