@@ -6,6 +6,7 @@
 #include "catalogue/screens/VentanaBDConexiones.h"
 #include "catalogue/screens/VentanaBDPiezas.h"
 #include "entry/screens/VentanaDatosRamales.h"
+#include "reports/screens/VentanaImpreHojas.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/VentanaSobre.h"
@@ -24,6 +25,7 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::Sobre:
     case Pantalla::BDPiezas:
     case Pantalla::BDConexiones:
+    case Pantalla::ImpreHojas:
         return true;
     default:
         return false;
@@ -83,6 +85,11 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::AnalisisACU: {
         VentanaAnalisisACU pantalla(acu_, s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::ImpreHojas: {
+        VentanaImpreHojas pantalla(p_, acu_, s_, d_, ventana_);
         pantalla.exec();
         break;
     }
