@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -23,7 +24,8 @@ VentanaImpreHojas::VentanaImpreHojas(const ProyectoEdificio& edificio, const Pro
     spread1_ = new VistaGrid(this);
     spread1_->setObjectName(QStringLiteral("Spread1"));
     spread1_->MostrarGrid(&logica_.Spread1);
-    spread1_->setMinimumWidth(330);
+    spread1_->setMinimumWidth(300);
+    spread1_->horizontalHeader()->setStretchLastSection(true);
     izquierda->addWidget(spread1_, 1);
     auto* borrar = new QPushButton(QStringLiteral(" Borrar el ( I )-( J ) de los Ramales "), this);
     borrar->setObjectName(QStringLiteral("LSButton1"));
@@ -64,11 +66,16 @@ VentanaImpreHojas::VentanaImpreHojas(const ProyectoEdificio& edificio, const Pro
     long1_->PonerLimites(0, 32767);
     long1_->setMaximumWidth(80);
     long1_->PonerValor(logica_.Long1());
-    connect(long1_, &NivoNumero::ValorCambiado, this, [this](double v) {
+    // The rows change once the number is confirmed, not at each key: typing
+    // "30" over 26 rows never passes through 3.
+    const auto filasConfirmadas = [this] {
+        if (long1_->ValorEntero() == logica_.Long1()) return;
         spread1_->TerminarEdicion();
-        logica_.CambiarLong1(int(v));
+        logica_.CambiarLong1(int(long1_->ValorEntero()));
         spread1_->Refrescar();
-    });
+    };
+    connect(long1_, &NivoNumero::Enter, this, filasConfirmadas);
+    connect(long1_, &QLineEdit::editingFinished, this, filasConfirmadas);
     filas->addWidget(long1_);
     filas->addStretch();
     opciones->addLayout(filas);
@@ -92,7 +99,7 @@ VentanaImpreHojas::VentanaImpreHojas(const ProyectoEdificio& edificio, const Pro
             [this, &s, &d] { AbrirReportesExportados(s, d); });
     connect(boton("Button2", "Cancelar", " Cancelar "), &QPushButton::clicked, this, &QDialog::reject);
     capa->addLayout(derecha);
-    resize(720, 520);
+    resize(640, 520);
 }
 
 VentanaImpreHojas::~VentanaImpreHojas() { spread1_->MostrarGrid(nullptr); }
