@@ -7,7 +7,6 @@
 #include "model/ProyectoEdificio.h"
 #include "widgets/NivoNumero.h"
 
-
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QKeyEvent>

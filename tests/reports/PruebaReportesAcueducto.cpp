@@ -56,6 +56,14 @@ struct RedResuelta {
         }
         return filas;
     }
+    // A sheet of option `opcion` printed to a PDF; its text.
+    QString Hoja(ImpreHojas& h, int opcion) {
+        h.Opcion = opcion;
+        const QString pdf = sp.Datos(QStringLiteral("hoja%1.pdf").arg(opcion));
+        salida.elecciones.push_back(EleccionSalida{FormatoSalida::Pdf, pdf});
+        EXPECT_TRUE(h.Aceptar());
+        return TextoPdf(pdf);
+    }
     QString Pdf(const QString& plantilla, const char* base = "Resultados.mdb") const {
         Reporte r;
         EXPECT_TRUE(r.Abrir(RutaProgramaPruebas(), plantilla, true)) << r.Error().toStdString();
@@ -221,11 +229,7 @@ TEST(ReportesAcueducto, LasHojasDeTrabajoImprimenLasFilasPedidas) {
     EXPECT_EQ(h.Spread1.Texto(3, 1), QStringLiteral("3"));
     h.Spread1.PonerTexto(3, 2, QStringLiteral("Pozo-7"));
     for (int opcion : {1, 2}) {
-        h.Opcion = opcion;
-        const QString pdf = r.sp.Datos(QStringLiteral("hoja%1.pdf").arg(opcion));
-        r.salida.elecciones.push_back(EleccionSalida{FormatoSalida::Pdf, pdf});
-        EXPECT_TRUE(h.Aceptar());
-        const QString t = TextoPdf(pdf);
+        const QString t = r.Hoja(h, opcion);
         EXPECT_TRUE(t.contains(opcion == 1 ? QStringLiteral("Material y Observaciones")
                                            : QStringLiteral("Ubicación y Observaciones")));
         EXPECT_EQ(t.contains(QStringLiteral("3 Pozo-7")), opcion == 1);
@@ -249,11 +253,7 @@ TEST(ReportesAcueducto, LasHojasDelEdificioLlenanSusFilasYElCheck) {
     h.Spread1.PonerTexto(2, 3, QStringLiteral("C"));
     h.Check1 = true;
     for (int opcion : {1, 2}) {
-        h.Opcion = opcion;
-        const QString pdf = r.sp.Datos(QStringLiteral("edificio%1.pdf").arg(opcion));
-        r.salida.elecciones.push_back(EleccionSalida{FormatoSalida::Pdf, pdf});
-        EXPECT_TRUE(h.Aceptar());
-        const QString t = TextoPdf(pdf);
+        const QString t = r.Hoja(h, opcion);
         EXPECT_TRUE(t.contains(QStringLiteral("2 B C"))) << opcion;
         EXPECT_TRUE(t.contains(opcion == 1 ? QStringLiteral("Piezas Sanitarias") : QStringLiteral("Cota del Nodo I (m)")));
     }

@@ -1,5 +1,7 @@
 #include "reports/screens/VentanaImpreAcueducto.h"
 
+#include "aqueduct/screens/ComunACU.h"
+
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -34,10 +36,8 @@ VentanaImpreAcueducto::VentanaImpreAcueducto(const ProyectoAcueducto& p, Sesion&
 
     auto* pie = new QHBoxLayout;
     const auto boton = [&](const char* nombre, const char* texto, const char* ayuda) {
-        auto* b = new QPushButton(QString::fromUtf8(texto), this);
-        b->setObjectName(QString::fromLatin1(nombre));
+        auto* b = BotonACU(QString::fromLatin1(nombre), QString::fromUtf8(texto), this);
         b->setToolTip(QString::fromUtf8(ayuda));
-        b->setAutoDefault(false);
         pie->addWidget(b);
         return b;
     };

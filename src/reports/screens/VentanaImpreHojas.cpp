@@ -1,5 +1,6 @@
 #include "reports/screens/VentanaImpreHojas.h"
 
+#include "aqueduct/screens/ComunACU.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/VistaGrid.h"
 
@@ -83,10 +84,8 @@ VentanaImpreHojas::VentanaImpreHojas(const ProyectoEdificio& edificio, const Pro
     derecha->addStretch();
 
     const auto boton = [&](const char* nombre, const char* texto, const char* ayuda) {
-        auto* b = new QPushButton(QString::fromUtf8(texto), this);
-        b->setObjectName(QString::fromLatin1(nombre));
+        auto* b = BotonACU(QString::fromLatin1(nombre), QString::fromUtf8(texto), this);
         b->setToolTip(QString::fromUtf8(ayuda));
-        b->setAutoDefault(false);
         derecha->addWidget(b);
         return b;
     };
