@@ -164,6 +164,13 @@ TEST(ReportesAcueducto, CadaPlantillaDeResultadosMuestraLosValoresDeLaPantalla) 
             EXPECT_TRUE(t.contains(n("12.350"))) << d << locale;
             EXPECT_FALSE(t.contains(n("-12.350"))) << d << locale;
         }
+        // The page as HTML: the company read from Usuario, the ends in the flow's sense.
+        Reporte html;
+        ASSERT_TRUE(html.Abrir(RutaProgramaPruebas(), QStringLiteral("ResultadosTramosD"), true));
+        ASSERT_TRUE(html.Vincular(r.Base("Resultados.mdb")));
+        const QString h = HtmlReporte(html.PlantillaActual(), html.Datos());
+        EXPECT_TRUE(h.contains(QStringLiteral("Oficina Técnica"))) << locale;
+        EXPECT_TRUE(h.contains(QStringLiteral("<td>Entrada</td><td>Boli-4</td>"))) << locale;
         const QString portada = r.Pdf(QStringLiteral("Portada"));
         EXPECT_TRUE(portada.contains(QStringLiteral("REDES DE ACUEDUCTOS"))) << locale;
         EXPECT_TRUE(portada.contains(QStringLiteral("Caso: ConsumoMedio"))) << locale;
