@@ -95,26 +95,38 @@ bool LleneTablasAcueducto(const ProyectoAcueducto& p, const Sesion& s, bool form
 
 bool CopieDatosProyectoACU(const QString& ruta, const QString& archivoProyecto, const QString& usuario,
                            QString& error) {
-    // The project is checked first: a foreign file gets its own message.
+    Conexion c;
+    if (!Abrir(c, ruta, error)) return false;
+    // The columns copied are those of the report's own tables that the
+    // project also has: a file of an older form leaves the others blank, and
+    // no name read from the file reaches the SQL text.
+    QStringList columnas[3];
+    const char* const tablas[3] = {"Generales", "Nodos", "Tramos"};
     {
         Conexion proyecto;
         if (!Abrir(proyecto, archivoProyecto, error)) return false;
-        if (!proyecto.ExisteTabla(QStringLiteral("Generales")) || !proyecto.ExisteTabla(QStringLiteral("Nodos")) ||
-            !proyecto.ExisteTabla(QStringLiteral("Tramos"))) {
-            error = QStringLiteral("El archivo «%1» no es un proyecto de acueductos.").arg(archivoProyecto);
-            return false;
+        for (int i = 0; i < 3; ++i) {
+            const QString tabla = QString::fromLatin1(tablas[i]);
+            const QStringList delProyecto = proyecto.ColumnasDe(tabla);
+            for (const QString& col : c.ColumnasDe(tabla))
+                if (delProyecto.contains(col, Qt::CaseInsensitive)) columnas[i] << col;
+            if (!proyecto.ExisteTabla(tabla) || columnas[i].isEmpty()) {
+                error = QStringLiteral("El archivo «%1» no es un proyecto de acueductos.").arg(archivoProyecto);
+                return false;
+            }
         }
     }
-    Conexion c;
-    if (!Abrir(c, ruta, error)) return false;
     // A database is attached outside any transaction.
     if (!c.Ejecutar(QStringLiteral("ATTACH ?1 AS p"), {archivoProyecto})) return Fallo(c, error);
     bool ok = false;
     {
         Transaccion t(c);
         ok = Vaciar(c, {"Generales", "Nodos", "Tramos"});
-        for (const char* tabla : {"Generales", "Nodos", "Tramos"})
-            ok = ok && c.Ejecutar(QStringLiteral("INSERT INTO %1 SELECT * FROM p.%1").arg(QString::fromLatin1(tabla)));
+        for (int i = 0; i < 3; ++i) {
+            const QString lista = columnas[i].join(QStringLiteral(", "));
+            ok = ok && c.Ejecutar(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM p.%1")
+                                      .arg(QString::fromLatin1(tablas[i]), lista));
+        }
         ok = ok && c.Ejecutar(QStringLiteral("UPDATE Generales SET Usuario = ?"), {usuario}) && t.Confirmar();
         if (!ok) Fallo(c, error);
     }

@@ -195,6 +195,17 @@ TEST(ReportesAcueducto, ElReporteDeDatosLeeElArchivoSalvadoYNoLoQueNoSeSalvo) {
     EXPECT_EQ(r.d.abiertos, QStringList{r.sp.Datos(QStringLiteral("datos.pdf"))});
     EXPECT_EQ(r.Filas("Datos.mdb", QStringLiteral("SELECT Numero FROM Tramos")).size(), 26u);
 
+    // A project of an older form, without the Usuario column, still prints.
+    {
+        Conexion c;
+        ASSERT_TRUE(c.Abrir(r.sp.s.ArchivoProyectoACU));
+        ASSERT_TRUE(c.Ejecutar(QStringLiteral("ALTER TABLE Generales DROP COLUMN Usuario")));
+    }
+    QString error;
+    ASSERT_TRUE(CopieDatosProyectoACU(r.sp.s, error)) << error.toStdString();
+    EXPECT_EQ(ComoTexto(r.Filas("Datos.mdb", QStringLiteral("SELECT Usuario, Proyecto FROM Generales"))[0][1]),
+              QStringLiteral("Acueducto de San Rafael - red mallada con un estanque"));
+
     // A file that is not a project says so and prints nothing.
     r.sp.s.ArchivoProyectoACU = r.Base("Trabajo.mdb");
     EXPECT_FALSE(ImprimirDatosProyecto(r.sp.s, r.d, r.salida));
