@@ -6,6 +6,7 @@
 #include "catalogue/screens/VentanaBDConexiones.h"
 #include "catalogue/screens/VentanaBDPiezas.h"
 #include "entry/screens/VentanaDatosRamales.h"
+#include "reports/screens/VentanaImpreHojas.h"
 #include "shell/screens/VentanaCompactar1.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
 #include "shell/screens/VentanaRespaldoArchivos.h"
@@ -28,6 +29,7 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::BDConexiones:
     case Pantalla::Compactar:
     case Pantalla::RespaldoArchivos:
+    case Pantalla::ImpreHojas:
         return true;
     default:
         return false;
@@ -97,6 +99,11 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::AnalisisACU: {
         VentanaAnalisisACU pantalla(acu_, s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::ImpreHojas: {
+        VentanaImpreHojas pantalla(p_, acu_, s_, d_, ventana_);
         pantalla.exec();
         break;
     }
