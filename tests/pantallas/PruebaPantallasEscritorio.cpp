@@ -30,8 +30,8 @@ TEST_F(Escritorio, LasHerramientasDeResultadosEstanActivas) {
     EXPECT_TRUE(Activa("ID_M3_Piezas"));
     EXPECT_TRUE(Activa("ID_M3_Conexiones"));
     EXPECT_TRUE(Activa("ID_M4_ImprimirHojas"));
-    // Tools of screens still to come stay disabled.
-    EXPECT_FALSE(Activa("ID_M5_Reparar"));
+    EXPECT_TRUE(Activa("ID_M5_Reparar"));
+    EXPECT_TRUE(Activa("ID_M5_Respaldar"));
 }
 
 TEST_F(Escritorio, LasHojasDeTrabajoDesdeElMenu) {
