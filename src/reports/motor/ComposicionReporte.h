@@ -42,3 +42,6 @@ void DibujarReporte(const std::vector<PaginaReporte>& paginas, QPagedPaintDevice
 // A field as a report prints it: with the template's number format and the
 // session's marks, or as text.
 QString TextoDato(const Valor& v, const QString& formato);
+// A title of a cover: read through the header's renaming when the cover's
+// table is the general one.
+QString TituloPortada(const DatosReporte& datos, const SeccionPlantilla& s, const QString& campo);

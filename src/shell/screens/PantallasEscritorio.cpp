@@ -6,7 +6,10 @@
 #include "catalogue/screens/VentanaBDConexiones.h"
 #include "catalogue/screens/VentanaBDPiezas.h"
 #include "entry/screens/VentanaDatosRamales.h"
+#include "reports/screens/VentanaImpreHojas.h"
+#include "shell/screens/VentanaCompactar1.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
+#include "shell/screens/VentanaRespaldoArchivos.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/VentanaSobre.h"
 #include "takeoff/screens/VentanaComputos.h"
@@ -24,6 +27,9 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::Sobre:
     case Pantalla::BDPiezas:
     case Pantalla::BDConexiones:
+    case Pantalla::Compactar:
+    case Pantalla::RespaldoArchivos:
+    case Pantalla::ImpreHojas:
         return true;
     default:
         return false;
@@ -56,6 +62,16 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
         pantalla.exec();
         break;
     }
+    case Pantalla::Compactar: {
+        VentanaCompactar1 pantalla(s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::RespaldoArchivos: {
+        VentanaRespaldoArchivos pantalla(s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
     case Pantalla::Sobre: {
         VentanaSobre pantalla(ventana_);
         pantalla.exec();
@@ -83,6 +99,11 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::AnalisisACU: {
         VentanaAnalisisACU pantalla(acu_, s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::ImpreHojas: {
+        VentanaImpreHojas pantalla(p_, acu_, s_, d_, ventana_);
         pantalla.exec();
         break;
     }
