@@ -20,7 +20,7 @@ const char* Uso() {
            "  acueducto X.acu [--caso 1|2|3] [--json]   análisis de una red de acueducto\n"
            "  acueducto X.acu --corregir-direccion      invierte los ramales de caudal negativo\n"
            "  acueducto exportar X.acu | importar datos.json X.acu\n"
-           "  reporte X.plm|X.acu --plantilla NOMBRE --salida ARCHIVO.pdf|.html|.xlsx|.rtf [--color]\n"
+           "  reporte X.plm|X.acu --plantilla NOMBRE --salida ARCHIVO.pdf|.html|.xlsx|.rtf [--color] [--caso N]\n"
            "                                            un reporte escrito sin ventana\n";
 }
 

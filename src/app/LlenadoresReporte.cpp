@@ -2,9 +2,15 @@
 
 #include "analysis/AnalisisRed.h"
 #include "analysis/Numeracion.h"
+#include "aqueduct/AnalisisACU.h"
+#include "aqueduct/ArchivoAcueducto.h"
+#include "aqueduct/ProyectoAcueducto.h"
+#include "aqueduct/SolverMalla.h"
 #include "base/ErrorEjecucion.h"
+#include "reports/TablasAcueducto.h"
 #include "reports/TablasResultados.h"
 
+#include <QFileInfo>
 #include <memory>
 
 namespace {
@@ -28,9 +34,41 @@ int LleneResultadosEdificio(TrabajoReporte& t) {
     return Salida::Bien;
 }
 
+// The aqueduct's result reports: Generales, Tramos and Nodos of
+// Trabajo/Resultados.mdb from a solve of the asked case, as the results
+// screen leaves them.
+int LleneResultadosAcueducto(TrabajoReporte& t) {
+    Sesion& s = t.c.s;
+    ProyectoAcueducto p;
+    ValoresInicialesACU(p, s);
+    QString error;
+    if (!CargarProyectoACU(p, s, t.archivo, error)) return Fallar(error);
+    if (p.NumeroTramos == 0)
+        return Fallar(s.NombreProyectoACU + QStringLiteral("\nNúmero de Ramales = 0\nRevise el Archivo de Datos..."),
+                      Salida::DatosInvalidos);
+    AnalisisACU pantalla(p, s, t.c.d);
+    if (!pantalla.VerificaTanque()) return Fallar(MensajeSinTanque(s.NombreProyectoACU), Salida::DatosInvalidos);
+    p.CasoDemanda = uint8_t(t.caso);
+    p.ErrorAnalisis = 0;
+    AnalizarMalla(p, s);
+    if (p.ErrorAnalisis == 1)
+        return Fallar(MensajeErrorAnalisis(s.NombreProyectoACU, p.DetalleError), Salida::ErrorCalculo);
+    // Printed all the same, as the screen prints them, with the warning.
+    for (const QString& linea : LineasSinConvergencia(p)) Fallar(QStringLiteral("Aviso: ") + linea);
+    t.base = s.RutaDatos(QStringLiteral("Trabajo/Resultados.mdb"));
+    return LleneTablasAcueducto(t.base, p, s, t.color, error) ? Salida::Bien : Fallar(error);
+}
+
+// The aqueduct's data report: the file as saved, copied into Trabajo/Datos.mdb.
+int LleneDatosAcueducto(TrabajoReporte& t) {
+    t.base = t.c.s.RutaDatos(QStringLiteral("Trabajo/Datos.mdb"));
+    QString error;
+    if (!QFileInfo(t.archivo).isFile()) return Fallar(QStringLiteral("No se encuentra el archivo: ") + t.archivo);
+    return CopieDatosProyectoACU(t.base, t.archivo, t.c.s.NombreUsuario, error) ? Salida::Bien : Fallar(error);
+}
+
 // One line per template.  Fillers of other reports plug in here, e.g.
 //   {false, "DatosProyecto", LleneDatosProyectoLinea},
-//   {true, "ResultadosTodo", LleneResultadosAcueductoLinea},
 const EntradaReporte Reportes[] = {
     {false, "UnidadesGasto", LleneResultadosEdificio},
     {false, "LongitudesEquivalentes", LleneResultadosEdificio},
@@ -38,6 +76,13 @@ const EntradaReporte Reportes[] = {
     {false, "Predimensionado", LleneResultadosEdificio},
     {false, "Resultado", LleneResultadosEdificio},
     {false, "Portada", LleneResultadosEdificio},
+    {true, "ResultadosTodo", LleneResultadosAcueducto},
+    {true, "ResultadosTramos", LleneResultadosAcueducto},
+    {true, "ResultadosNodos", LleneResultadosAcueducto},
+    {true, "Portada", LleneResultadosAcueducto},
+    {true, "ResultadosTramosD", LleneResultadosAcueducto},
+    {true, "ResultadosTodoD", LleneResultadosAcueducto},
+    {true, "ArchivoDatos", LleneDatosAcueducto},
 };
 
 }  // namespace

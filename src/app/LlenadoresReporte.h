@@ -13,10 +13,11 @@
 // catalogue folder (BDatos/), so that reports made side by side never share
 // a table.
 struct TrabajoReporte {
-    explicit TrabajoReporte(const QString& archivo, bool color) : c(false), archivo(archivo), color(color) {}
+    TrabajoReporte(const QString& archivo, bool color, int caso) : c(false), archivo(archivo), color(color), caso(caso) {}
     ContextoVerbo c;     // session, console dialogs and the building project
     QString archivo;     // the project named on the command line (.plm or .acu)
     bool color;          // --color: FormatoColor of DatosGenerales
+    int caso;            // --caso: the aqueduct's demand case, 1 to 3
     // The database the template reads; a filler whose tables live in
     // another file than Trabajo/Trabajo.mdb sets it.
     QString base;

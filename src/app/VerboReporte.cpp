@@ -1,4 +1,4 @@
-// fontaria reporte X.plm|X.acu --plantilla NOMBRE --salida ARCHIVO [--color]
+// fontaria reporte X.plm|X.acu --plantilla NOMBRE --salida ARCHIVO [--color] [--caso 1|2|3]
 //
 // Fills the template's work tables as its screen would, in a scratch data
 // folder, then has fontaria-reporte, beside this program, lay the report out
@@ -22,7 +22,8 @@ extern char** environ;
 namespace {
 
 const char* UsoReporte() {
-    return "Uso: fontaria reporte X.plm|X.acu --plantilla NOMBRE --salida ARCHIVO.pdf|.html|.xlsx|.rtf [--color]";
+    return "Uso: fontaria reporte X.plm|X.acu --plantilla NOMBRE --salida ARCHIVO.pdf|.html|.xlsx|.rtf [--color]\n"
+           "     [--caso 1|2|3]  (acueducto: el caso de demanda; 1 por omisión)";
 }
 
 // The format word of fontaria-reporte for an output's extension; empty when
@@ -80,9 +81,13 @@ int Componer(const QStringList& argumentos) {
 
 int VerboReporte(const QStringList& args) {
     const ArgumentosVerbo a =
-        LeerArgumentos(args, {QStringLiteral("plantilla"), QStringLiteral("salida")}, {QStringLiteral("color")});
+        LeerArgumentos(args, {QStringLiteral("plantilla"), QStringLiteral("salida"), QStringLiteral("caso")},
+                       {QStringLiteral("color")});
     const QString nombre = a.Valor(QStringLiteral("plantilla")), salida = a.Valor(QStringLiteral("salida"));
     if (!a.error.isEmpty() || a.archivo.isEmpty() || nombre.isEmpty() || salida.isEmpty()) return FallaDeUso(a, UsoReporte());
+    const QString textoCaso = a.Valor(QStringLiteral("caso"));
+    const int caso = textoCaso.isNull() ? 1 : textoCaso.toInt();
+    if (caso < 1 || caso > 3) return Fallar(QStringLiteral("El caso de demanda debe ser 1, 2 ó 3."));
     const QString formato = FormatoDeExtension(salida);
     if (formato.isEmpty())
         return Fallar(QStringLiteral("Extensión desconocida del archivo de salida: «%1».\n"
@@ -101,7 +106,7 @@ int VerboReporte(const QStringList& args) {
     QTemporaryDir borrador;
     if (!borrador.isValid())
         return Fallar(QStringLiteral("No se puede crear la carpeta temporal del reporte: ") + borrador.errorString());
-    TrabajoReporte t(a.archivo, a.Tiene(QStringLiteral("color")));
+    TrabajoReporte t(a.archivo, a.Tiene(QStringLiteral("color")), caso);
     PrepararBorrador(t.c.s, borrador.path());
     t.base = t.c.s.RutaDatos(QStringLiteral("Trabajo/Trabajo.mdb"));
     if (const int estado = e->llenar(t); estado != Salida::Bien) return estado;

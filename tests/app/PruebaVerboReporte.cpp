@@ -68,6 +68,26 @@ TEST_F(VerboReporte, CadaEjemploImprimeSusSeisReportes) {
     }
 }
 
+TEST_F(VerboReporte, ElAcueductoImprimeElCasoPedido) {
+    // Sample A: 26 sections in its file; the maximum-demand case is 2.50
+    // times the mean, the factor of its data.
+    const QString acu = sp.CopiaDeEjemplo(QStringLiteral("EjemploRedA.nivo"), QStringLiteral("red.acu"));
+    const QString pdf = sp.Datos(QStringLiteral("red.pdf"));
+    for (const char* plantilla : {"ResultadosTodo", "ResultadosTramos", "ResultadosNodos", "Portada", "ResultadosTramosD",
+                                  "ResultadosTodoD", "ArchivoDatos"}) {
+        ASSERT_EQ(Reporte(acu, plantilla, pdf), 0) << plantilla << errores.toStdString();
+        EXPECT_TRUE(TextoPdf(pdf).contains(QStringLiteral("Acueducto de San Rafael"))) << plantilla;
+    }
+    ASSERT_EQ(Reporte(acu, "ResultadosTodo", pdf), 0);
+    EXPECT_TRUE(TextoPdf(pdf).contains(QStringLiteral("Número de ramales de la red 26")));
+    EXPECT_TRUE(TextoPdf(pdf).contains(QStringLiteral("Caso: ConsumoMedio")));
+    ASSERT_EQ(EjecutarPrograma({QStringLiteral("reporte"), acu, QStringLiteral("--plantilla"), QStringLiteral("Portada"),
+                                QStringLiteral("--salida"), pdf, QStringLiteral("--caso"), QStringLiteral("2")},
+                               &salida, &errores, {QStringLiteral("FONTARIA_DATOS=") + sp.s.DirectorioDatos}),
+              0);
+    EXPECT_TRUE(TextoPdf(pdf).contains(QStringLiteral("Q Máximo = 2.50 Consumo Medio")));
+}
+
 TEST_F(VerboReporte, LaExtensionEligeElFormato) {
     const QString plm = Copia(QStringLiteral("Vivienda con Tanque Elevado"));
     const std::pair<const char*, QByteArray> formatos[] = {
@@ -97,9 +117,13 @@ TEST_F(VerboReporte, LoQueNoSePuedeHacerSeDiceEnEspanolSinDejarArchivo) {
     EXPECT_EQ(Reporte(plm, "NoExiste", pdf), 1);
     EXPECT_TRUE(errores.startsWith(QStringLiteral("Plantilla desconocida: «NoExiste»."))) << errores.toStdString();
     EXPECT_TRUE(errores.contains(QStringLiteral("Resultado")));
-    // An aqueduct project knows only the aqueduct's templates.
+    // An aqueduct project knows only the aqueduct's templates; one without
+    // sections has nothing to solve.
     EXPECT_EQ(Reporte(sp.AcueductoEnBlanco(), "Resultado", pdf), 1);
     EXPECT_TRUE(errores.startsWith(QStringLiteral("Plantilla desconocida"))) << errores.toStdString();
+    EXPECT_TRUE(errores.contains(QStringLiteral("ResultadosTodo"))) << errores.toStdString();
+    EXPECT_EQ(Reporte(sp.AcueductoEnBlanco(), "ResultadosTodo", pdf), 2);
+    EXPECT_TRUE(errores.contains(QStringLiteral("Número de Ramales = 0"))) << errores.toStdString();
     EXPECT_EQ(Reporte(plm, "Resultado", sp.Datos(QStringLiteral("x.doc"))), 1);
     EXPECT_TRUE(errores.startsWith(QStringLiteral("Extensión desconocida del archivo de salida"))) << errores.toStdString();
     EXPECT_EQ(Reporte(sp.Datos(QStringLiteral("falta.plm")), "Resultado", pdf), 1);

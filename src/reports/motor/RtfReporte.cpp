@@ -177,15 +177,17 @@ private:
             formatos.clear();
             for (size_t i = 0; i < s.columnas.size(); ++i) {
                 const ColumnaPlantilla& c = s.columnas[i];
-                const Valor v = t.Dato(f, c.campo);
+                const Valor v = t.Celda(f, c);
                 const int anchoCelda = bordes[i] - (i ? bordes[i - 1] : 0) - 2 * Relleno;
                 textos.push_back(c.imagen ? Imagen(v, anchoCelda, int(s.altoImagen * 20)) : Esc(TextoDato(v, c.formato)));
                 formatos.push_back(Alinear(c.alineacion) + "\\fs14");
                 if (s.totales.contains(c.campo)) sumas[i] += ComoDoble(v);
             }
-            const QByteArray arriba = separa ? Borde("t", Tinta, 15) : Borde("t", Raya, 5);
-            Fila(bordes, QByteArray(), arriba + Borde("b", Raya, 5) + Borde("l", Raya, 5) + Borde("r", Raya, 5), textos,
-                 formatos);
+            // A form to fill by hand is ruled in ink, its rows kept tall.
+            const int raya = s.rejilla ? Negro : Raya, grueso = s.rejilla ? 10 : 5;
+            const QByteArray arriba = separa ? Borde("t", Tinta, 15) : Borde("t", raya, grueso);
+            Fila(bordes, s.altoFila > 0.0 ? "\\trrh" + Num(int(s.altoFila * 20)) : QByteArray(),
+                 arriba + Borde("b", raya, grueso) + Borde("l", raya, grueso) + Borde("r", raya, grueso), textos, formatos);
         }
         if (!s.totales.isEmpty()) Totales(s, bordes, sumas);
         r_ += "\\pard\\plain\\f0\\fs8\\par\n";
@@ -223,8 +225,8 @@ private:
     void Portada(const SeccionPlantilla& s) {
         const TablaReporte& t = datos_.Tabla(s.tabla);
         const QByteArray tinta = "\\cf" + Num(Tinta);
-        Parrafo("\\qc\\sb3000\\sa200\\fs44\\b" + tinta, Esc(ComoTexto(t.Dato(0, QStringLiteral("Titulo1")))));
-        Parrafo("\\qc\\sa600\\fs30\\b" + tinta, Esc(ComoTexto(t.Dato(0, QStringLiteral("Titulo2")))));
+        Parrafo("\\qc\\sb3000\\sa200\\fs44\\b" + tinta, Esc(TituloPortada(datos_, s, QStringLiteral("Titulo1"))));
+        Parrafo("\\qc\\sa600\\fs30\\b" + tinta, Esc(TituloPortada(datos_, s, QStringLiteral("Titulo2"))));
         for (const CampoPlantilla& c : s.campos) {
             const QString valor = TextoDato(t.Dato(0, c.campo), c.formato);
             if (valor.isEmpty()) continue;

@@ -89,11 +89,6 @@ public:
         etiquetaTotales_ = Negrita(11, 0x000000);
         format_set_align(etiquetaTotales_, LXW_ALIGN_RIGHT);
         format_set_top(etiquetaTotales_, LXW_BORDER_THIN);
-        for (Alineacion a : {Alineacion::Izquierda, Alineacion::Centro, Alineacion::Derecha}) {
-            lxw_format* f = Nuevo();
-            format_set_align(f, Alinear(a));
-            textos_.insert(int(a), f);
-        }
     }
 
     void Escribir() {
@@ -140,19 +135,21 @@ private:
         }
     }
 
-    // The number format of a mask, the same text in the spreadsheet's own
-    // notation; bold for the totals.
-    lxw_format* Numero(const QString& mascara, bool total, Alineacion a) {
-        const QString clave = mascara + QLatin1Char('|') + QString::number(int(total)) + QString::number(int(a));
-        if (lxw_format* f = numeros_.value(clave)) return f;
+    // The format of a cell: the number format of a mask (the same text in
+    // the spreadsheet's own notation; none for a text), bold over a rule for
+    // the totals, ruled on every side in a form to fill by hand.
+    lxw_format* Celda(const QString& mascara, Alineacion a, bool total = false, bool rejilla = false) {
+        const QString clave = QStringLiteral("%1|%2%3%4").arg(mascara).arg(int(a)).arg(int(total)).arg(int(rejilla));
+        if (lxw_format* f = formatos_.value(clave)) return f;
         lxw_format* f = Nuevo();
-        format_set_num_format(f, U(mascara).constData());
+        if (!mascara.isEmpty()) format_set_num_format(f, U(mascara).constData());
         format_set_align(f, Alinear(a));
         if (total) {
             format_set_bold(f);
             format_set_top(f, LXW_BORDER_THIN);
         }
-        numeros_.insert(clave, f);
+        if (rejilla) format_set_border(f, LXW_BORDER_THIN);
+        formatos_.insert(clave, f);
         return f;
     }
 
@@ -221,19 +218,23 @@ private:
         for (int f = 0; f < int(t.filas.size()); ++f, ++fila) {
             for (int i = 0; i < ncol; ++i) {
                 const ColumnaPlantilla& c = s.columnas[size_t(i)];
-                const Valor v = t.Dato(f, c.campo);
+                const Valor v = t.Celda(f, c);
+                lxw_format* formato = Celda(c.formato, c.alineacion, false, s.rejilla);
                 if (c.imagen) {
                     Imagen(h, fila, i, v, s.altoImagen, anchos[size_t(i)]);
                 } else if (!c.formato.isEmpty()) {
-                    worksheet_write_number(h, lxw_row_t(fila), lxw_col_t(i), ComoDoble(v), Numero(c.formato, false, c.alineacion));
+                    worksheet_write_number(h, lxw_row_t(fila), lxw_col_t(i), ComoDoble(v), formato);
                     anchos[size_t(i)] = std::max(anchos[size_t(i)], int(TextoDato(v, c.formato).size()) + 2);
                 } else if (const QString texto = TextoDato(v, QString()); !texto.isEmpty()) {
-                    worksheet_write_string(h, lxw_row_t(fila), lxw_col_t(i), U(texto).constData(), textos_.value(int(c.alineacion)));
+                    worksheet_write_string(h, lxw_row_t(fila), lxw_col_t(i), U(texto).constData(), formato);
                     anchos[size_t(i)] = std::max(anchos[size_t(i)], int(texto.size()) + 2);
+                } else if (s.rejilla) {
+                    worksheet_write_blank(h, lxw_row_t(fila), lxw_col_t(i), formato);
                 }
                 if (s.totales.contains(c.campo)) sumas[size_t(i)] += ComoDoble(v);
             }
-            if (s.altoImagen > 0.0) worksheet_set_row(h, lxw_row_t(fila), s.altoImagen + 4.0, nullptr);
+            if (const double alto = std::max(s.altoImagen > 0.0 ? s.altoImagen + 4.0 : 0.0, s.altoFila); alto > 0.0)
+                worksheet_set_row(h, lxw_row_t(fila), alto, nullptr);
         }
         if (!s.totales.isEmpty()) Totales(h, s, fila, sumas);
 
@@ -258,7 +259,7 @@ private:
             const ColumnaPlantilla& c = s.columnas[size_t(i)];
             if (s.totales.contains(c.campo))
                 worksheet_write_number(h, lxw_row_t(fila), lxw_col_t(i), sumas[size_t(i)],
-                                       Numero(c.formato.isEmpty() ? QStringLiteral("General") : c.formato, true, c.alineacion));
+                                       Celda(c.formato, c.alineacion, true));
         }
     }
 
@@ -285,7 +286,7 @@ private:
     void EscribirValor(lxw_worksheet* h, int fila, int columna, const Valor& v, const QString& formato, lxw_format* texto) {
         if (!formato.isEmpty())
             worksheet_write_number(h, lxw_row_t(fila), lxw_col_t(columna), ComoDoble(v),
-                                   Numero(formato, false, Alineacion::Izquierda));
+                                   Celda(formato, Alineacion::Izquierda));
         else
             worksheet_write_string(h, lxw_row_t(fila), lxw_col_t(columna), U(TextoDato(v, QString())).constData(), texto);
     }
@@ -309,7 +310,7 @@ private:
     int Portada(lxw_worksheet* h, const SeccionPlantilla& s, int fila) {
         const TablaReporte& t = datos_.Tabla(s.tabla);
         for (const char* campo : {"Titulo1", "Titulo2"}) {
-            const QString titulo = ComoTexto(t.Dato(0, QString::fromLatin1(campo)));
+            const QString titulo = TituloPortada(datos_, s, QString::fromLatin1(campo));
             if (titulo.isEmpty()) continue;
             worksheet_write_string(h, lxw_row_t(fila), 0, U(titulo).constData(), portada_);
             worksheet_set_row(h, lxw_row_t(fila++), 24.0, nullptr);
@@ -328,8 +329,7 @@ private:
     lxw_workbook* libro_;
     bool color_;
     lxw_format *negrita_, *empresa_, *titulo_, *caja_, *portada_, *encabezado_, *etiquetaTotales_;
-    QHash<int, lxw_format*> textos_;
-    QHash<QString, lxw_format*> numeros_;
+    QHash<QString, lxw_format*> formatos_;
     QSet<QString> usados_;
     std::deque<QByteArray> imagenes_;
 };
