@@ -3,6 +3,7 @@
 // interpreter), the RTF by its structure.
 
 #include "ApoyoReportes.h"
+#include "reports/TablasAcueducto.h"
 #include "reports/TablasResultados.h"
 #include "reports/motor/Reporte.h"
 
@@ -185,4 +186,30 @@ TEST(FormatosReporte, LasFotosVanEnElLibroYEnElRtf) {
     const QByteArray rtf = LeerArchivo(sp.Datos(QStringLiteral("f.rtf")));
     EXPECT_EQ(rtf.count("{\\pict\\pngblip\\picw4\\pich2"), 1);
     EXPECT_TRUE(rtf.contains(png.toHex()));
+}
+
+TEST(FormatosReporte, UnaHojaDeCampoSaleRayadaYConSuAltoDeFila) {
+    // Three blank rows of the aqueduct's sections sheet (rows 20 points
+    // tall, 400 twips): in the RTF each ruled in ink and at least that tall;
+    // in the workbook a number in each row under the headers.
+    SesionPrueba sp;
+    QDir().mkpath(sp.Datos(QStringLiteral("Trabajo")));
+    CopiarBasesTrabajo(sp.s);
+    const QString base = sp.Datos(QStringLiteral("Trabajo/Resultados.mdb"));
+    QString error;
+    ASSERT_TRUE(LleneHojasAcueducto(base, {{1, {}, {}}, {2, {}, {}}, {3, {}, {}}}, error)) << error.toStdString();
+    Reporte r;
+    ASSERT_TRUE(r.Abrir(RutaProgramaPruebas(), QStringLiteral("TablaTramos"), true)) << r.Error().toStdString();
+    ASSERT_TRUE(r.Vincular(base)) << r.Error().toStdString();
+    ASSERT_TRUE(r.ExportarRtf(sp.Datos(QStringLiteral("h.rtf"))));
+    const QByteArray rtf = LeerArchivo(sp.Datos(QStringLiteral("h.rtf")));
+    EXPECT_EQ(rtf.count("\\trrh400"), 3);
+    EXPECT_EQ(rtf.count("\\row"), 1 + 3);
+    ASSERT_TRUE(r.ExportarXlsx(sp.Datos(QStringLiteral("h.xlsx"))));
+    const QJsonArray celdas = HojasXlsx(sp.Datos(QStringLiteral("h.xlsx")))[0][QStringLiteral("celdas")].toArray();
+    const QJsonArray encabezado = CeldaEnFila(celdas, QStringLiteral("Ramal No"), 1);
+    int numeros = 0;
+    for (const QJsonValue& c : celdas)
+        if (c[0].toInt() > encabezado[0].toInt() && c[1].toInt() == 1 && c[2].toString() == QLatin1String("n")) ++numeros;
+    EXPECT_EQ(numeros, 3);
 }
