@@ -243,7 +243,7 @@ private:
         textos.resize(size_t(n));
         for (int f = 0; f < n; ++f)
             for (const ColumnaPlantilla& c : s.columnas)
-                textos[size_t(f)] << (c.imagen ? QString() : TextoDato(t.Dato(f, c.campo), c.formato));
+                textos[size_t(f)] << (c.imagen ? QString() : TextoDato(t.Dato(f, c.campo), c.formato, c.textos));
         const double altoTotales = s.totales.isEmpty() ? 0.0 : 14.0;
         const double altoTitulo = s.titulo.isEmpty() ? 0.0 : 15.0;
 
@@ -316,7 +316,7 @@ private:
             if (y_ + alto > Fondo()) NuevaPagina();
             if (k++ % 2 == 0) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
             Texto(QRectF(Margen + 4, y_, etiqueta - 8, alto), c.etiqueta, 9, true, Qt::AlignLeft | Qt::AlignVCenter);
-            QString valor = TextoDato(t.Dato(0, c.campo), c.formato);
+            QString valor = TextoDato(t.Dato(0, c.campo), c.formato, c.textos);
             if (!c.unidad.isEmpty()) valor += QLatin1Char(' ') + c.unidad;
             Texto(QRectF(Margen + etiqueta, y_, Ancho() - etiqueta - 4, alto), valor, 9, false, Qt::AlignLeft | Qt::AlignVCenter);
             y_ += alto;
@@ -372,6 +372,14 @@ private:
 QString TextoDato(const Valor& v, const QString& formato) {
     if (formato.isEmpty()) return Trim(ComoTexto(v));
     return Formato(ComoDoble(v), formato, SeparadoresActuales());
+}
+
+QString TextoDato(const Valor& v, const QString& formato, const QStringList& textos) {
+    const QString t = Trim(ComoTexto(v));
+    bool entero = false;
+    const int i = t.toInt(&entero);
+    if (entero && i >= 0 && i < textos.size()) return textos[i];
+    return TextoDato(v, formato);
 }
 
 QSizeF TamanoCarta(bool horizontal) { return horizontal ? QSizeF(792, 612) : QSizeF(612, 792); }

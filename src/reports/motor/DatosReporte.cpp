@@ -25,6 +25,28 @@ bool LeerTabla(Conexion& c, const QString& tabla, const QString& orden, TablaRep
     return true;
 }
 
+// Completes each row of `t` with the fields of the first row of `u` whose
+// `por` is equal; a row with no partner gets blanks (a blank picture).
+bool Unir(TablaReporte& t, const TablaReporte& u, const SeccionPlantilla& s, QString& error) {
+    const QString& por = s.unirPor;
+    const int it = t.Indice(por), iu = u.Indice(por);
+    if (it < 0 || iu < 0) {
+        error = QStringLiteral("Las tablas «%1» y «%2» no comparten el campo «%3».").arg(s.tabla, s.unir, por);
+        return false;
+    }
+    QHash<QString, size_t> filaDe;
+    for (size_t f = u.filas.size(); f-- > 0;) filaDe.insert(ComoTexto(u.filas[f][size_t(iu)]), f);
+    std::vector<int> nuevas;
+    for (int k = 0; k < u.columnas.size(); ++k)
+        if (t.Indice(u.columnas[k]) < 0) nuevas.push_back(k);
+    for (int k : nuevas) t.columnas << u.columnas[k];
+    for (std::vector<Valor>& fila : t.filas) {
+        const auto f = filaDe.constFind(ComoTexto(fila[size_t(it)]));
+        for (int k : nuevas) fila.push_back(f == filaDe.cend() ? Valor() : u.filas[*f][size_t(k)]);
+    }
+    return true;
+}
+
 bool TieneCampo(const TablaReporte& t, const QString& tabla, const QString& campo, QString& error) {
     if (t.Indice(campo) >= 0) return true;
     error = QStringLiteral("La tabla «%1» no tiene el campo «%2».").arg(tabla, campo);
@@ -45,7 +67,12 @@ Valor TablaReporte::Dato(int fila, const QString& campo) const {
     return filas[size_t(fila)][size_t(i)];
 }
 
-QString DatosReporte::General(const QString& campo) const { return ComoTexto(generales.Dato(0, campo)); }
+QString DatosReporte::General(const QString& campo) const {
+    // A project's own general data (the data reports) keep one title, `Titulo`.
+    if (campo == QLatin1String("Titulo1") && generales.Indice(campo) < 0)
+        return ComoTexto(generales.Dato(0, QStringLiteral("Titulo")));
+    return ComoTexto(generales.Dato(0, campo));
+}
 
 bool DatosReporte::FormatoColor() const { return ComoLogico(generales.Dato(0, QStringLiteral("FormatoColor"))); }
 
@@ -55,18 +82,32 @@ const TablaReporte& DatosReporte::Tabla(const QString& nombre) const {
     return it == tablas.cend() ? vacia : *it;
 }
 
-bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error) {
+bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error,
+                        const QString& rutaGenerales) {
     datos = DatosReporte{};
     Conexion c;
     if (!c.Abrir(rutaBase)) {
         error = c.UltimoError();
         return false;
     }
-    if (!LeerTabla(c, QStringLiteral("DatosGenerales"), QString(), datos.generales, error)) return false;
+    if (rutaGenerales.isEmpty()) {
+        if (!LeerTabla(c, QStringLiteral("DatosGenerales"), QString(), datos.generales, error)) return false;
+    } else {
+        Conexion g;
+        if (!g.Abrir(rutaGenerales)) {
+            error = g.UltimoError();
+            return false;
+        }
+        if (!LeerTabla(g, QStringLiteral("DatosGenerales"), QString(), datos.generales, error)) return false;
+    }
     for (const SeccionPlantilla& s : p.secciones) {
         if (datos.tablas.contains(s.tabla)) continue;
         TablaReporte t;
         if (!LeerTabla(c, s.tabla, s.orden, t, error)) return false;
+        if (!s.unir.isEmpty()) {
+            TablaReporte u;
+            if (!LeerTabla(c, s.unir, QString(), u, error) || !Unir(t, u, s, error)) return false;
+        }
         for (const ColumnaPlantilla& col : s.columnas)
             if (!TieneCampo(t, s.tabla, col.campo, error)) return false;
         for (const CampoPlantilla& campo : s.campos)

@@ -26,6 +26,8 @@ struct DatosReporte {
 };
 
 // Reads every table of the template, in each section's order, and the
-// general data.  False with a Spanish message when the database cannot be
-// opened or lacks a table or a field the template names.
-bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error);
+// general data, from `rutaGenerales` when the rows' database has none of
+// its own (the catalogue).  False with a Spanish message when a database
+// cannot be opened or lacks a table or a field the template names.
+bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error,
+                        const QString& rutaGenerales = QString());

@@ -42,7 +42,7 @@ QString Detalle(const SeccionPlantilla& s, const TablaReporte& t) {
         for (size_t i = 0; i < s.columnas.size(); ++i) {
             const ColumnaPlantilla& c = s.columnas[i];
             const Valor v = t.Dato(f, c.campo);
-            h += QStringLiteral("<td%1>%2</td>").arg(Clase(c.alineacion), c.imagen ? ImagenEmbebida(v) : E(TextoDato(v, c.formato)));
+            h += QStringLiteral("<td%1>%2</td>").arg(Clase(c.alineacion), c.imagen ? ImagenEmbebida(v) : E(TextoDato(v, c.formato, c.textos)));
             if (s.totales.contains(c.campo)) sumas[i] += ComoDoble(v);
         }
         h += QStringLiteral("</tr>\n");
@@ -69,7 +69,7 @@ QString Detalle(const SeccionPlantilla& s, const TablaReporte& t) {
 QString Campos(const SeccionPlantilla& s, const TablaReporte& t, bool portada) {
     QString h = portada ? QStringLiteral("<table class=\"portada\">") : QStringLiteral("<table class=\"campos\">");
     for (const CampoPlantilla& c : s.campos) {
-        QString valor = TextoDato(t.Dato(0, c.campo), c.formato);
+        QString valor = TextoDato(t.Dato(0, c.campo), c.formato, c.textos);
         if (!c.unidad.isEmpty()) valor += QLatin1Char(' ') + c.unidad;
         h += QStringLiteral("<tr><th>%1</th><td>%2</td></tr>\n").arg(E(c.etiqueta), E(valor));
     }

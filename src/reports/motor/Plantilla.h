@@ -17,11 +17,15 @@ struct ColumnaPlantilla {
     Alineacion alineacion = Alineacion::Izquierda;
     QString formato;    // "0.00", "0"...; empty for a text
     bool imagen = false;  // the field holds a picture's bytes
+    // An option stored as a whole number printed as its text: 0 is the
+    // first text of the list.
+    QStringList textos;
 };
 
 // A label and a field of a one-row table (the general data).
 struct CampoPlantilla {
     QString etiqueta, campo, formato, unidad;
+    QStringList textos;  // as in a column
 };
 
 struct SeccionPlantilla {
@@ -29,7 +33,11 @@ struct SeccionPlantilla {
     Tipo tipo = Tipo::Detalle;
     QString titulo;  // printed above the band
     QString tabla;
-    QString orden;   // a field of the table, ascending
+    QString orden;   // fields of the table, ascending, separated by commas
+    // A second table whose row of equal `unirPor` completes each row with
+    // its fields (the picture of a fixture kept apart from the fixture).
+    QString unir;
+    QString unirPor;
     std::vector<ColumnaPlantilla> columnas;
     // A thin rule above each row whose field is not blank: the rows of one
     // branch stay together between two rules.
