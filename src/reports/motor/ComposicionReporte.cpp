@@ -313,6 +313,7 @@ private:
         SeccionTitulo(s);
         int k = 0;
         for (const CampoPlantilla& c : s.campos) {
+            if (t.Dato(0, c.campo).isNull()) continue;  // a value that does not apply
             if (y_ + alto > Fondo()) NuevaPagina();
             if (k++ % 2 == 0) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
             Texto(QRectF(Margen + 4, y_, etiqueta - 8, alto), c.etiqueta, 9, true, Qt::AlignLeft | Qt::AlignVCenter);
@@ -374,11 +375,10 @@ QString TextoDato(const Valor& v, const QString& formato) {
     return Formato(ComoDoble(v), formato, SeparadoresActuales());
 }
 
-QString TextoDato(const Valor& v, const QString& formato, const QStringList& textos) {
-    const QString t = Trim(ComoTexto(v));
+QString TextoDato(const Valor& v, const QString& formato, const QMap<int, QString>& textos) {
     bool entero = false;
-    const int i = t.toInt(&entero);
-    if (entero && i >= 0 && i < textos.size()) return textos[i];
+    const int i = Trim(ComoTexto(v)).toInt(&entero);
+    if (entero && textos.contains(i)) return textos.value(i);
     return TextoDato(v, formato);
 }
 

@@ -69,6 +69,7 @@ QString Detalle(const SeccionPlantilla& s, const TablaReporte& t) {
 QString Campos(const SeccionPlantilla& s, const TablaReporte& t, bool portada) {
     QString h = portada ? QStringLiteral("<table class=\"portada\">") : QStringLiteral("<table class=\"campos\">");
     for (const CampoPlantilla& c : s.campos) {
+        if (t.Dato(0, c.campo).isNull()) continue;  // a value that does not apply
         QString valor = TextoDato(t.Dato(0, c.campo), c.formato, c.textos);
         if (!c.unidad.isEmpty()) valor += QLatin1Char(' ') + c.unidad;
         h += QStringLiteral("<tr><th>%1</th><td>%2</td></tr>\n").arg(E(c.etiqueta), E(valor));

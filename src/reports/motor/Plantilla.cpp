@@ -22,9 +22,10 @@ Alineacion LeerAlineacion(const QString& t) {
     return Alineacion::Izquierda;
 }
 
-QStringList Textos(const QJsonObject& o) {
-    QStringList t;
-    for (const QJsonValue& v : o.value(QLatin1String("textos")).toArray()) t << v.toString();
+QMap<int, QString> Textos(const QJsonObject& o) {
+    QMap<int, QString> t;
+    const QJsonObject textos = o.value(QLatin1String("textos")).toObject();
+    for (auto i = textos.begin(); i != textos.end(); ++i) t.insert(i.key().toInt(), i.value().toString());
     return t;
 }
 

@@ -3,6 +3,7 @@
 // Reportes/ (building) or ReportesACU/ (aqueduct), named after the report.
 // The format is described in data/reportes/FORMATO.md.
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -17,15 +18,14 @@ struct ColumnaPlantilla {
     Alineacion alineacion = Alineacion::Izquierda;
     QString formato;    // "0.00", "0"...; empty for a text
     bool imagen = false;  // the field holds a picture's bytes
-    // An option stored as a whole number printed as its text: 0 is the
-    // first text of the list.
-    QStringList textos;
+    // An option stored as a whole number printed as the text given for it.
+    QMap<int, QString> textos;
 };
 
 // A label and a field of a one-row table (the general data).
 struct CampoPlantilla {
     QString etiqueta, campo, formato, unidad;
-    QStringList textos;  // as in a column
+    QMap<int, QString> textos;  // as in a column
 };
 
 struct SeccionPlantilla {

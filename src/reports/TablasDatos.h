@@ -1,0 +1,51 @@
+#pragma once
+// The data reports' work tables (ImpreGeneral): the take-off and the tank
+// copied from their screens into Trabajo/Trabajo.mdb, the general data of
+// the catalogue reports, and the project as last saved copied into
+// Trabajo/Proyecto.mdb.  Each filler runs in one transaction: on a failure
+// the tables stay as they were and `error` holds a Spanish message.
+
+#include <QString>
+#include <QStringList>
+
+struct DatosTanque;
+struct PaginasComputos;
+struct ProyectoEdificio;
+struct Sesion;
+
+// The choices of the printing screen that reach the tables.
+struct OpcionesDatos {
+    bool FormatoColor = true;  // Check1
+    QString Titulo;            // Text1, stored trimmed
+};
+
+// Take-off: DatosGenerales and the four ImpreComputos* tables from the four
+// grids, column 1 the description and column 2 the quantity as shown.
+bool LleneTablasComputos(const QString& rutaTrabajo, const PaginasComputos& c, const ProyectoEdificio& p,
+                         const Sesion& s, const OpcionesDatos& o, QString& error);
+
+// Tank: DatosGenerales and one row of TanqueHidroneumatico from the inputs
+// and the seven results as the results screen shows them ("#,##0.00", in
+// the order of ResultadosHidro::Valores).
+bool LleneTablaTanque(const QString& rutaTrabajo, const DatosTanque& t, const QStringList& valores,
+                      const ProyectoEdificio& p, const Sesion& s, const OpcionesDatos& o, QString& error);
+
+// Catalogue reports: the one row of DatosGenerales (colour, title, version);
+// the rows are the catalogue's own.
+bool LleneGeneralesCatalogo(const QString& rutaTrabajo, const OpcionesDatos& o, QString& error);
+
+// Project reports: the seven tables of the report copy (Proyecto.mdb)
+// emptied and filled from the project's file as last saved, then the
+// colour, Empresa and the title set.  A project with no file, or a file
+// whose tables differ from the copy's, is refused.
+bool CopieProyectoReporte(const QString& rutaProyectoReporte, const QString& archivoProyecto, const Sesion& s,
+                          const OpcionesDatos& o, QString& error);
+
+// The work databases of the session.
+QString RutaTrabajoReportes(const Sesion& s);   // Trabajo/Trabajo.mdb
+QString RutaProyectoReportes(const Sesion& s);  // Trabajo/Proyecto.mdb
+QString RutaCatalogoReportes(const Sesion& s);  // BDatos/BD_Piezas_Conexiones.mdb
+
+// A number shown with the thousands marks of "#,##0.00" read back with the
+// session's marks; false when the text is not one.
+bool NumeroConMiles(const QString& texto, double& valor);
