@@ -6,6 +6,7 @@
 #include "catalogue/screens/VentanaBDConexiones.h"
 #include "catalogue/screens/VentanaBDPiezas.h"
 #include "entry/screens/VentanaDatosRamales.h"
+#include "reports/screens/VentanaImpreGeneral.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/VentanaSobre.h"
@@ -24,6 +25,7 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::Sobre:
     case Pantalla::BDPiezas:
     case Pantalla::BDConexiones:
+    case Pantalla::ImpreGeneral:
         return true;
     default:
         return false;
@@ -78,6 +80,12 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::BDConexiones: {
         VentanaBDConexiones pantalla(s_, d_, nullptr, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::ImpreGeneral: {
+        // The project's data report, the one the menu asks for.
+        VentanaImpreGeneral pantalla(5, s_, d_, ventana_);
         pantalla.exec();
         break;
     }
