@@ -127,8 +127,10 @@ private:
         const double x = Margen, w = Ancho();
         Texto(QRectF(x, y_, w * 0.7, 14), datos_.General(QStringLiteral("Empresa")), 10, true, Qt::AlignLeft | Qt::AlignVCenter,
               estilo_.titulo);
-        Texto(QRectF(x + w * 0.7, y_, w * 0.3, 14), QStringLiteral("Fecha: ") + datos_.General(QStringLiteral("Fecha")), 8,
-              false, Qt::AlignRight | Qt::AlignVCenter);
+        const QString fecha = datos_.General(QStringLiteral("Fecha"));
+        if (!fecha.isEmpty())
+            Texto(QRectF(x + w * 0.7, y_, w * 0.3, 14), QStringLiteral("Fecha: ") + fecha, 8, false,
+                  Qt::AlignRight | Qt::AlignVCenter);
         y_ += 17;
         for (const auto& [campo, puntos] : {std::pair{"Titulo1", 11.0}, std::pair{"Titulo2", 9.0}}) {
             const QString t = datos_.General(QString::fromLatin1(campo));
@@ -141,12 +143,17 @@ private:
             Texto(QRectF(xx, y_, 58, 11), etiqueta, 8, true, Qt::AlignLeft | Qt::AlignVCenter);
             Texto(QRectF(xx + 58, y_, ancho - 58, 11), datos_.General(campo), 8, false, Qt::AlignLeft | Qt::AlignVCenter);
         };
-        y_ += 2;
-        dato(x, w, QStringLiteral("Proyecto:"), QStringLiteral("Proyecto"));
-        y_ += 11;
-        dato(x, w / 2, QStringLiteral("Ubicación:"), QStringLiteral("Ubicacion"));
-        dato(x + w / 2, w / 2, QStringLiteral("Calculista:"), QStringLiteral("Calculista"));
-        y_ += 13;
+        // A report of no project (the catalogue's) has no project lines.
+        if (!(datos_.General(QStringLiteral("Proyecto")) + datos_.General(QStringLiteral("Ubicacion")) +
+              datos_.General(QStringLiteral("Calculista")))
+                 .isEmpty()) {
+            y_ += 2;
+            dato(x, w, QStringLiteral("Proyecto:"), QStringLiteral("Proyecto"));
+            y_ += 11;
+            dato(x, w / 2, QStringLiteral("Ubicación:"), QStringLiteral("Ubicacion"));
+            dato(x + w / 2, w / 2, QStringLiteral("Calculista:"), QStringLiteral("Calculista"));
+            y_ += 13;
+        }
         if (!p_.titulo.isEmpty()) {
             const double alto = Alto(p_.titulo, w, 10, true) + 4;
             Texto(QRectF(x, y_, w, alto), p_.titulo, 10, true, Qt::AlignCenter, estilo_.titulo);
@@ -314,13 +321,17 @@ private:
         int k = 0;
         for (const CampoPlantilla& c : s.campos) {
             if (t.Dato(0, c.campo).isNull()) continue;  // a value that does not apply
-            if (y_ + alto > Fondo()) NuevaPagina();
-            if (k++ % 2 == 0) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
-            Texto(QRectF(Margen + 4, y_, etiqueta - 8, alto), c.etiqueta, 9, true, Qt::AlignLeft | Qt::AlignVCenter);
             QString valor = TextoDato(t.Dato(0, c.campo), c.formato, c.textos);
             if (!c.unidad.isEmpty()) valor += QLatin1Char(' ') + c.unidad;
-            Texto(QRectF(Margen + etiqueta, y_, Ancho() - etiqueta - 4, alto), valor, 9, false, Qt::AlignLeft | Qt::AlignVCenter);
-            y_ += alto;
+            // A long label or value wraps and the line grows with it.
+            const double linea = std::max({alto, Alto(c.etiqueta, etiqueta - 8, 9, true) + 4,
+                                           Alto(valor, Ancho() - etiqueta - 4, 9, false) + 4});
+            if (y_ + linea > Fondo()) NuevaPagina();
+            if (k++ % 2 == 0) Rellenar(QRectF(Margen, y_, Ancho(), linea), estilo_.fondoAlterno);
+            Texto(QRectF(Margen + 4, y_, etiqueta - 8, linea), c.etiqueta, 9, true, Qt::AlignLeft | Qt::AlignVCenter);
+            Texto(QRectF(Margen + etiqueta, y_, Ancho() - etiqueta - 4, linea), valor, 9, false,
+                  Qt::AlignLeft | Qt::AlignVCenter);
+            y_ += linea;
         }
         Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
     }
