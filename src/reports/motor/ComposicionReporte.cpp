@@ -263,18 +263,20 @@ private:
         for (int f = 0; f < n; ++f) {
             const double alto = AltoFila(s, cols, textos[size_t(f)]);
             const double despues = f == n - 1 ? altoTotales : 0.0;
+            bool arribaDePagina = false;
             if (y_ + alto + despues > Fondo()) {
                 NuevaPagina();
                 EncabezadoColumnas(s, cols, altoEncabezado);
+                arribaDePagina = true;
             }
             if (f % 2 == 1) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
-            if (!s.separarCuando.isEmpty() && f > 0 && !ComoTexto(t.Dato(f, s.separarCuando)).trimmed().isEmpty())
-                Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
+            if (AbreGrupo(s, t, f)) Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
             for (size_t i = 0; i < cols.size(); ++i) {
                 const ColumnaPlantilla& c = s.columnas[i];
                 const QRectF r(cols[i].first + Relleno, y_ + Relleno, cols[i].second - 2 * Relleno, alto - 2 * Relleno);
                 if (c.imagen) Imagen(r, t.Dato(f, c.campo));
-                else Texto(r, textos[size_t(f)][int(i)], 7, false, Banderas(c.alineacion));
+                else if (arribaDePagina || !RepiteGrupo(s, t, f, c))
+                    Texto(r, textos[size_t(f)][int(i)], 7, false, Banderas(c.alineacion));
                 if (s.totales.contains(c.campo)) sumas[i] += ComoDoble(t.Dato(f, c.campo));
             }
             y_ += alto;

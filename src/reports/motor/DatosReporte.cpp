@@ -82,6 +82,17 @@ const TablaReporte& DatosReporte::Tabla(const QString& nombre) const {
     return it == tablas.cend() ? vacia : *it;
 }
 
+bool AbreGrupo(const SeccionPlantilla& s, const TablaReporte& t, int fila) {
+    if (fila == 0) return false;
+    if (!s.separarCuando.isEmpty() && !ComoTexto(t.Dato(fila, s.separarCuando)).trimmed().isEmpty()) return true;
+    return !s.agruparPor.isEmpty() && ComoTexto(t.Dato(fila, s.agruparPor)) != ComoTexto(t.Dato(fila - 1, s.agruparPor));
+}
+
+bool RepiteGrupo(const SeccionPlantilla& s, const TablaReporte& t, int fila, const ColumnaPlantilla& c) {
+    return fila > 0 && !s.agruparPor.isEmpty() && c.campo.compare(s.agruparPor, Qt::CaseInsensitive) == 0 &&
+           ComoTexto(t.Dato(fila, s.agruparPor)) == ComoTexto(t.Dato(fila - 1, s.agruparPor));
+}
+
 bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error,
                         const QString& rutaGenerales) {
     datos = DatosReporte{};

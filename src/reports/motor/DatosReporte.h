@@ -31,3 +31,9 @@ struct DatosReporte {
 // cannot be opened or lacks a table or a field the template names.
 bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error,
                         const QString& rutaGenerales = QString());
+
+// Row `fila` (from 0) of a detail band opens a group: a rule goes above it
+// (separarCuando, agruparPor).
+bool AbreGrupo(const SeccionPlantilla& s, const TablaReporte& t, int fila);
+// The cell repeats its group's value (agruparPor) and is printed blank.
+bool RepiteGrupo(const SeccionPlantilla& s, const TablaReporte& t, int fila, const ColumnaPlantilla& c);

@@ -36,13 +36,14 @@ QString Detalle(const SeccionPlantilla& s, const TablaReporte& t) {
     h += QStringLiteral("</tr></thead><tbody>\n");
     std::vector<double> sumas(s.columnas.size(), 0.0);
     for (int f = 0; f < int(t.filas.size()); ++f) {
-        const bool separa =
-            !s.separarCuando.isEmpty() && f > 0 && !ComoTexto(t.Dato(f, s.separarCuando)).trimmed().isEmpty();
-        h += separa ? QStringLiteral("<tr class=\"g\">") : QStringLiteral("<tr>");
+        h += AbreGrupo(s, t, f) ? QStringLiteral("<tr class=\"g\">") : QStringLiteral("<tr>");
         for (size_t i = 0; i < s.columnas.size(); ++i) {
             const ColumnaPlantilla& c = s.columnas[i];
             const Valor v = t.Dato(f, c.campo);
-            h += QStringLiteral("<td%1>%2</td>").arg(Clase(c.alineacion), c.imagen ? ImagenEmbebida(v) : E(TextoDato(v, c.formato, c.textos)));
+            const QString texto = RepiteGrupo(s, t, f, c) ? QString()
+                                  : c.imagen             ? ImagenEmbebida(v)
+                                                         : E(TextoDato(v, c.formato, c.textos));
+            h += QStringLiteral("<td%1>%2</td>").arg(Clase(c.alineacion), texto);
             if (s.totales.contains(c.campo)) sumas[i] += ComoDoble(v);
         }
         h += QStringLiteral("</tr>\n");

@@ -41,6 +41,7 @@ SeccionPlantilla LeerSeccion(const QJsonObject& o) {
     s.unir = o.value(QLatin1String("unir")).toString();
     s.unirPor = o.value(QLatin1String("unirPor")).toString();
     s.separarCuando = o.value(QLatin1String("separarCuando")).toString();
+    s.agruparPor = o.value(QLatin1String("agruparPor")).toString();
     s.altoImagen = o.value(QLatin1String("altoImagen")).toDouble(0.0);
     s.etiquetaTotales = o.value(QLatin1String("etiquetaTotales")).toString(s.etiquetaTotales);
     for (const QJsonValue& v : o.value(QLatin1String("totales")).toArray()) s.totales << v.toString();
@@ -72,6 +73,7 @@ bool NombresValidos(const SeccionPlantilla& s) {
     QStringList nombres{s.tabla};
     for (const QString& o : s.orden.split(QLatin1Char(','), Qt::SkipEmptyParts)) nombres << o.trimmed();
     if (!s.unir.isEmpty() || !s.unirPor.isEmpty()) nombres << s.unir << s.unirPor;
+    if (!s.agruparPor.isEmpty()) nombres << s.agruparPor;
     for (const ColumnaPlantilla& c : s.columnas) nombres << c.campo;
     for (const CampoPlantilla& c : s.campos) nombres << c.campo;
     for (const QString& n : nombres)

@@ -42,6 +42,10 @@ struct SeccionPlantilla {
     // A thin rule above each row whose field is not blank: the rows of one
     // branch stay together between two rules.
     QString separarCuando;
+    // The same rule above each row whose field differs from the row
+    // before; the field itself is printed once per group (and again at the
+    // top of a page), so the rows of one branch read as a block.
+    QString agruparPor;
     QStringList totales;  // fields summed in the band's closing row
     QString etiquetaTotales = QStringLiteral("TOTALES");
     double altoImagen = 0.0;  // points; rows with a picture column
