@@ -87,7 +87,69 @@ bool CopieTablas(Conexion& c, QString& error) {
     return true;
 }
 
+struct DatosOrigen {
+    const char* titulo;
+    const char* plantilla;
+    const char* plantillaFotos;  // nullptr: none
+};
+
+const DatosOrigen Origenes[7] = {
+    {"COMPUTOS DE MATERIALES", "Computos", nullptr},
+    {"TANQUE HIDRONEUMÁTICO", "Hidroneumatico", nullptr},
+    {"BASE DE DATOS DE PIEZAS SANITARIAS", "BDPiezas", "BDPiezasFoto"},
+    {"BASE DE DATOS DE CONEXIONES", "BDConexiones", "BDConexionesFoto"},
+    {"DATOS GENERALES DEL PROYECTO", "DatosProyecto", nullptr},
+    {"PIEZAS SANITARIAS EN LOS RAMALES", "PiezasRamales", "PiezasRamalesFoto"},
+    {"CONEXIONES EN LOS RAMALES", "ConexionesRamales", "ConexionesRamalesFoto"},
+};
+
+const DatosOrigen* De(int origen) { return origen >= 1 && origen <= 7 ? &Origenes[origen - 1] : nullptr; }
+
 }  // namespace
+
+QString TituloOrigen(int origen) {
+    const DatosOrigen* o = De(origen);
+    return o ? QString::fromUtf8(o->titulo) : QString();
+}
+
+bool OrigenConFotos(int origen) {
+    const DatosOrigen* o = De(origen);
+    return o && o->plantillaFotos;
+}
+
+QString PlantillaOrigen(int origen, bool fotos) {
+    const DatosOrigen* o = De(origen);
+    if (!o) return QString();
+    return QString::fromLatin1(fotos && o->plantillaFotos ? o->plantillaFotos : o->plantilla);
+}
+
+bool LleneTablasOrigen(int origen, const Sesion& s, const FuenteDatos& f, const OpcionesDatos& o, QString& error) {
+    switch (origen) {
+    case 1:
+        if (!f.Computos || !f.Proyecto) break;
+        return LleneTablasComputos(RutaTrabajoReportes(s), *f.Computos, *f.Proyecto, s, o, error);
+    case 2:
+        if (!f.Tanque || !f.Proyecto) break;
+        return LleneTablaTanque(RutaTrabajoReportes(s), *f.Tanque, f.ValoresTanque, *f.Proyecto, s, o, error);
+    case 3:
+    case 4: return LleneGeneralesCatalogo(RutaTrabajoReportes(s), o, error);
+    case 5:
+    case 6:
+    case 7: return CopieProyectoReporte(RutaProyectoReportes(s), s.ArchivoProyecto, s, o, error);
+    default: break;
+    }
+    error = QStringLiteral("No hay datos que imprimir para este reporte.");
+    return false;
+}
+
+QString BaseOrigen(int origen, const Sesion& s) {
+    if (origen <= 2) return RutaTrabajoReportes(s);
+    return origen <= 4 ? RutaCatalogoReportes(s) : RutaProyectoReportes(s);
+}
+
+QString BaseGeneralesOrigen(int origen, const Sesion& s) {
+    return origen == 3 || origen == 4 ? RutaTrabajoReportes(s) : QString();
+}
 
 QString RutaTrabajoReportes(const Sesion& s) { return s.RutaDatos(QStringLiteral("Trabajo/Trabajo.mdb")); }
 QString RutaProyectoReportes(const Sesion& s) { return s.RutaDatos(QStringLiteral("Trabajo/Proyecto.mdb")); }

@@ -41,6 +41,32 @@ bool LleneGeneralesCatalogo(const QString& rutaTrabajo, const OpcionesDatos& o, 
 bool CopieProyectoReporte(const QString& rutaProyectoReporte, const QString& archivoProyecto, const Sesion& s,
                           const OpcionesDatos& o, QString& error);
 
+// The data reports by origin: 1 the take-off, 2 the tank, 3 the fixture
+// catalogue, 4 the fitting catalogue, 5 the project's data, 6 the fixtures
+// and 7 the fittings on the branches.
+// The title the printing screen starts with ("" for no such origin).
+QString TituloOrigen(int origen);
+// Origins 3, 4, 6 and 7 have a photograph template.
+bool OrigenConFotos(int origen);
+// The template's base name; `fotos` counts only where there is one.
+QString PlantillaOrigen(int origen, bool fotos);
+
+// What the first two origins print: the project's general data and the
+// screen they are called from.
+struct FuenteDatos {
+    const ProyectoEdificio* Proyecto = nullptr;
+    const PaginasComputos* Computos = nullptr;  // origin 1
+    const DatosTanque* Tanque = nullptr;        // origin 2, with the results as shown
+    QStringList ValoresTanque;
+};
+// Fills the origin's tables in the session's work databases, with the
+// filler of that origin.
+bool LleneTablasOrigen(int origen, const Sesion& s, const FuenteDatos& f, const OpcionesDatos& o, QString& error);
+// Where the origin's template reads its rows, and its general data when
+// those come from elsewhere (the catalogue's, from Trabajo.mdb); "" otherwise.
+QString BaseOrigen(int origen, const Sesion& s);
+QString BaseGeneralesOrigen(int origen, const Sesion& s);
+
 // The work databases of the session.
 QString RutaTrabajoReportes(const Sesion& s);   // Trabajo/Trabajo.mdb
 QString RutaProyectoReportes(const Sesion& s);  // Trabajo/Proyecto.mdb

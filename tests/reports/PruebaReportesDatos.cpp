@@ -220,7 +220,7 @@ TEST(ReportesDatos, CadaOrigenImprimeSuPlantillaEnPdf) {
     PaginasComputos c;
     CalcularComputos(c, a.sp.s.ConexionProyecto);
     const DatosTanque t = TanqueMetodo1();
-    FuenteImpreGeneral fuente;
+    FuenteDatos fuente;
     fuente.Proyecto = &a.p;
     fuente.Computos = &c;
     fuente.Tanque = &t;
@@ -247,7 +247,7 @@ TEST(ReportesDatos, CadaOrigenImprimeSuPlantillaEnPdf) {
     };
     for (const auto& k : casos) {
         const QString plantilla = QString::fromLatin1(k.plantilla);
-        EXPECT_EQ(ImpreGeneral::NombrePlantilla(k.origen, k.fotos), plantilla);
+        EXPECT_EQ(PlantillaOrigen(k.origen, k.fotos), plantilla);
         ImpreGeneral impre(k.origen, a.sp.s, a.d, a.salida, fuente);
         impre.Check3 = k.fotos;
         const QString pdf = a.sp.Datos(plantilla + QStringLiteral(".pdf"));
@@ -256,7 +256,7 @@ TEST(ReportesDatos, CadaOrigenImprimeSuPlantillaEnPdf) {
         ASSERT_TRUE(impre.Aceptar()) << k.plantilla << ": " << (a.d.mensajes.empty() ? "" : a.d.Ultimo().texto.toStdString());
         EXPECT_EQ(a.d.Ultimo().encabezado, QStringLiteral("Abrir el Archivo Exportado...")) << k.plantilla;
         const QString texto = TextoPdf(pdf);
-        EXPECT_TRUE(texto.contains(ImpreGeneral::Titulo(k.origen))) << k.plantilla;
+        EXPECT_TRUE(texto.contains(TituloOrigen(k.origen))) << k.plantilla;
         EXPECT_TRUE(texto.contains(QString::fromUtf8(k.texto))) << k.plantilla << ": " << k.texto;
     }
     EXPECT_FALSE(ImpreGeneral(5, a.sp.s, a.d, a.salida).Check3Visible());

@@ -8,38 +8,27 @@
 // fitting catalogue, 5 the project's data, 6 the fixtures and 7 the
 // fittings on the branches.
 
+#include "reports/TablasDatos.h"
+
 #include <QString>
-#include <QStringList>
 
 class Dialogos;
 class PantallasSalida;
-struct DatosTanque;
-struct PaginasComputos;
-struct ProyectoEdificio;
 struct Sesion;
-
-// What the first two origins print: the project's general data and the
-// screen they were called from.
-struct FuenteImpreGeneral {
-    const ProyectoEdificio* Proyecto = nullptr;
-    const PaginasComputos* Computos = nullptr;  // origin 1
-    const DatosTanque* Tanque = nullptr;        // origin 2, with the results as shown
-    QStringList ValoresTanque;
-};
 
 // The number shown with an error of the template or the report engine.
 constexpr int ErrorMotorReporte = 20525;
 
 class ImpreGeneral {
 public:
-    ImpreGeneral(int origen, Sesion& s, Dialogos& d, PantallasSalida& salida, FuenteImpreGeneral fuente = {});
+    ImpreGeneral(int origen, Sesion& s, Dialogos& d, PantallasSalida& salida, FuenteDatos fuente = {});
 
     QString Caption = QStringLiteral("Imprimir");
     QString Text1;        // the title, set from the origin at the load
     bool Check1 = true;   // colour
     bool Check3 = false;  // the photograph template
     int Origen() const { return origen_; }
-    bool Check3Visible() const { return TieneFotos(origen_); }
+    bool Check3Visible() const { return OrigenConFotos(origen_); }
 
     // Command2 "Aceptar": true when the report went out (the screen then
     // closes); false when it was cancelled or refused, with the screen usable.
@@ -47,19 +36,12 @@ public:
     // LSButton4 "Directorio de los reportes exportados. ".
     void LSButton4();
 
-    static QString Titulo(int origen);
-    static bool TieneFotos(int origen);
-    // The template's base name, Check3 honoured only where there is a
-    // photograph template.
-    static QString NombrePlantilla(int origen, bool fotos);
-
 private:
-    bool LleneTablas(QString& error);
     void MostrarError(const QString& descripcion);
 
     int origen_;
     Sesion& s_;
     Dialogos& d_;
     PantallasSalida& salida_;
-    FuenteImpreGeneral fuente_;
+    FuenteDatos fuente_;
 };

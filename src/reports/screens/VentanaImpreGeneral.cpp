@@ -13,7 +13,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-VentanaImpreGeneral::VentanaImpreGeneral(int origen, Sesion& s, Dialogos& d, QWidget* padre, FuenteImpreGeneral fuente)
+VentanaImpreGeneral::VentanaImpreGeneral(int origen, Sesion& s, Dialogos& d, QWidget* padre, FuenteDatos fuente)
     : QDialog(padre), salida_(s, d, this), logica_(origen, s, d, salida_, std::move(fuente)) {
     setObjectName(QStringLiteral("ImpreGeneral"));
     setWindowTitle(logica_.Caption);

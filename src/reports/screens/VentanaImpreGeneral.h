@@ -16,7 +16,7 @@ class NivoToolTip;
 class VentanaImpreGeneral : public QDialog {
     Q_OBJECT
 public:
-    VentanaImpreGeneral(int origen, Sesion& s, Dialogos& d, QWidget* padre = nullptr, FuenteImpreGeneral fuente = {});
+    VentanaImpreGeneral(int origen, Sesion& s, Dialogos& d, QWidget* padre = nullptr, FuenteDatos fuente = {});
 
     ImpreGeneral& Logica() { return logica_; }
     QLineEdit* Text1() const { return text1_; }

@@ -105,7 +105,7 @@ void VentanaComputos::Abrir() {
 }
 
 void VentanaComputos::Imprimir() {
-    FuenteImpreGeneral fuente;
+    FuenteDatos fuente;
     fuente.Proyecto = &p_;
     fuente.Computos = &logica_.Paginas;
     VentanaImpreGeneral impre(1, s_, d_, this, fuente);

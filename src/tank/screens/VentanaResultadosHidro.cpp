@@ -125,7 +125,7 @@ void VentanaResultadosHidro::Cargar() {
 }
 
 void VentanaResultadosHidro::Imprimir() {
-    FuenteImpreGeneral fuente;
+    FuenteDatos fuente;
     fuente.Proyecto = &p_;
     fuente.Tanque = &datos_;
     // The results as this screen shows them, with their two decimals.
