@@ -205,6 +205,10 @@ TEST(ReportesDatos, LasPlantillasConFotosLlevanLaImagenDeCadaFila) {
     EXPECT_EQ(conFoto, 2);  // the two washbasin rows, branches 5 and 6
     // Sorted by branch, then position: the first row is branch 3's sink.
     EXPECT_EQ(t.Dato(0, QStringLiteral("Pieza")).toString(), QStringLiteral("FREGADERO"));
+    // The page carries the two pictures and blank cells for the rest.
+    const QString html = a.sp.Datos(QStringLiteral("fotos.htm"));
+    ASSERT_TRUE(r.ExportarHtml(html));
+    EXPECT_EQ(QString::fromUtf8(LeerArchivo(html)).count(QStringLiteral("<img")), 2);
 
     // The catalogue's photograph, with the general data of the work database.
     ASSERT_TRUE(LleneGeneralesCatalogo(a.Trabajo(), {true, QStringLiteral("CATÁLOGO")}, error));
