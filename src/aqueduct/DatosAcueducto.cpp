@@ -21,10 +21,6 @@ const QString TituloFontaria = QStringLiteral("Proyecto de Fontaria");
 const QString EncabezadoRamales = QStringLiteral("Datos de los Ramales...");
 QString MensajeErrorNumero() { return QStringLiteral("Error en el Número..."); }
 
-// The data reports come with the reports of the program; till then the
-// button stays off.
-constexpr bool ReportesDeDatos = false;
-
 // A coefficient typed as a number becomes the 16-bit whole number the
 // column holds, halves to even as the older runtime assigned them.
 bool EnteroDe(double v, int& e) {
@@ -160,7 +156,7 @@ void DatosAcueducto::ColoquePantalla() {
 
 DatosAcueducto::Habilitados DatosAcueducto::Botones() const {
     Habilitados h = botones_;
-    h.Reportes = ReportesDeDatos && Spread1.Filas() > 0;
+    h.Reportes = Spread1.Filas() > 0;
     return h;
 }
 

@@ -66,7 +66,7 @@ public:
     void ColoquePantalla();
 
     int Pagina() const { return pagina_; }
-    // "Reportes" follows the rows of Spread1, once the data reports exist.
+    // "Reportes" follows the rows of Spread1.
     Habilitados Botones() const;
     Foco foco = Foco::Ninguno;
 

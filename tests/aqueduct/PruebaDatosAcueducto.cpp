@@ -94,7 +94,11 @@ TEST(DatosAcueducto, ElEstadoDiceQueMostrarEnCadaPagina) {
     Pantalla t;
     t.p.Fecha = QDate();
     EXPECT_EQ(t.datos.EstadoActual().fecha, Hoy());  // a project without a date shows today's
-    EXPECT_FALSE(t.datos.EstadoActual().botones.Reportes);  // no data reports yet, rows or not
+    // "Reportes" follows the rows of the sections' grid.
+    EXPECT_TRUE(t.datos.EstadoActual().botones.Reportes);
+    t.datos.Spread1.PonerFilas(0);
+    EXPECT_FALSE(t.datos.EstadoActual().botones.Reportes);
+    t.datos.Spread1.PonerFilas(3);
     // The right-click menu belongs to page 2; the length dialog wants rows.
     for (int pagina : {1, 2, 3}) {
         EXPECT_EQ(t.datos.EstadoActual().botones.MenuRamales, pagina == 2) << pagina;

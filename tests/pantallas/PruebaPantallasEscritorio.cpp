@@ -7,6 +7,7 @@
 #include "analysis/ApoyoAnalisis.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
 #include "aqueduct/ProyectoAcueducto.h"
+#include "reports/screens/VentanaImpreHojas.h"
 #include "shell/screens/PantallasEscritorio.h"
 #include "shell/screens/VentanaPrincipal.h"
 #include "takeoff/screens/VentanaComputos.h"
@@ -28,8 +29,19 @@ TEST_F(Escritorio, LasHerramientasDeResultadosEstanActivas) {
     EXPECT_TRUE(Activa("ID_M1_Modificar"));
     EXPECT_TRUE(Activa("ID_M3_Piezas"));
     EXPECT_TRUE(Activa("ID_M3_Conexiones"));
-    // Tools of screens still to come stay disabled.
-    EXPECT_FALSE(Activa("ID_M4_ImprimirHojas"));
+    EXPECT_TRUE(Activa("ID_M4_ImprimirHojas"));
+    EXPECT_TRUE(Activa("ID_M5_Reparar"));
+    EXPECT_TRUE(Activa("ID_M5_Respaldar"));
+}
+
+TEST_F(Escritorio, LasHojasDeTrabajoDesdeElMenu) {
+    QString titulo;
+    CuandoAbra<VentanaImpreHojas>([&](VentanaImpreHojas* h) {
+        titulo = h->windowTitle();
+        Tecla(h, Qt::Key_Escape);
+    });
+    v->EjecutarHerramienta(QStringLiteral("ID_M4_ImprimirHojas"));
+    EXPECT_EQ(titulo, QStringLiteral("Imprimir Hojas de Trabajo"));
 }
 
 TEST_F(Escritorio, ElAnalisisDeUnEjemploDesdeLaVentana) {

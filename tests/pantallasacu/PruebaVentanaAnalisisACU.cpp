@@ -71,7 +71,8 @@ TEST_F(AnalisisPantalla, ElEjemploAResuelveAlAbrirYMuestraSusColumnas) {
     EXPECT_FALSE(v->LNodo()->isEnabled());
     for (const char* b : {"LSButton4", "LSButton8"}) {
         EXPECT_TRUE(Boton(b)->isVisibleTo(v.get())) << b;
-        EXPECT_FALSE(Boton(b)->isEnabled()) << b;
+        // The workbook is still to come; the reports are here.
+        EXPECT_EQ(Boton(b)->isEnabled(), QLatin1String(b) == QLatin1String("LSButton8")) << b;
     }
 
     VistaGrid* r = v->Vista1();

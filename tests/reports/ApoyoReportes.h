@@ -11,6 +11,7 @@
 #include "store/Conexion.h"
 
 #include <QDir>
+#include <QProcess>
 #include <memory>
 
 struct EjemploAnalizado {
@@ -39,3 +40,15 @@ struct EjemploAnalizado {
     }
     QString Trabajo() const { return sp.Datos(QStringLiteral("Trabajo/Trabajo.mdb")); }
 };
+
+// The text of a PDF in pdftotext's reading order, blanks and line ends as
+// one space (a header wrapped in its cell reads whole); pages from `desde`
+// to `hasta`.
+inline QString TextoPdf(const QString& pdf, int desde = 0, int hasta = 0) {
+    QStringList args;
+    if (desde > 0) args << QStringLiteral("-f") << QString::number(desde) << QStringLiteral("-l") << QString::number(hasta);
+    QProcess p;
+    p.start(QStringLiteral("pdftotext"), args << pdf << QStringLiteral("-"));
+    EXPECT_TRUE(p.waitForFinished(30000));
+    return QString::fromUtf8(p.readAllStandardOutput()).simplified();
+}

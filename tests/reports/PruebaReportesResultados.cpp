@@ -7,18 +7,6 @@
 
 namespace {
 
-// The text of a PDF in pdftotext's reading order, blanks and line ends as
-// one space (a header wrapped in its cell reads whole); pages from `desde`
-// to `hasta`.
-QString TextoPdf(const QString& pdf, int desde = 0, int hasta = 0) {
-    QStringList args;
-    if (desde > 0) args << QStringLiteral("-f") << QString::number(desde) << QStringLiteral("-l") << QString::number(hasta);
-    QProcess p;
-    p.start(QStringLiteral("pdftotext"), args << pdf << QStringLiteral("-"));
-    EXPECT_TRUE(p.waitForFinished(30000));
-    return QString::fromUtf8(p.readAllStandardOutput()).simplified();
-}
-
 QString Renderizar(const EjemploAnalizado& e, const QString& nombre, const QString& formato = QStringLiteral("pdf")) {
     Reporte r;
     EXPECT_TRUE(r.Abrir(RutaProgramaPruebas(), nombre)) << r.Error().toStdString();

@@ -3,6 +3,7 @@
 #include "aqueduct/screens/ComunACU.h"
 #include "aqueduct/screens/VentanaDatosAcueducto.h"
 #include "entry/screens/VentanaBuscarPartida.h"
+#include "reports/screens/VentanaImpreAcueducto.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/VistaGrid.h"
@@ -82,9 +83,13 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
         Accion([this] { logica_.AbrirProyecto(); });
         CerrarSiHaceFalta();
     });
-    // The aqueduct workbook and reports are not built yet: their buttons show, disabled.
+    // The aqueduct workbook is not built yet: its button shows, disabled.
     boton("LSButton4", "Exportar a Excel", [] {})->setEnabled(false);
-    boton("LSButton8", "Imprimir el Análisis", [] {})->setEnabled(false);
+    boton("LSButton8", "Imprimir el Análisis", [this] {
+        VentanaImpreAcueducto impre(p_, s_, d_, this);
+        impre.exec();
+        EnfocarGrid();
+    });
     pie->addStretch();
     boton("LSButton3", "Retorno", [this] { reject(); });
     capa->addLayout(pie);

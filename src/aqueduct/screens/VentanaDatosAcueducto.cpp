@@ -6,6 +6,8 @@
 #include "aqueduct/screens/VentanaLongitudTramosAcu.h"
 #include "base/Dialogos.h"
 #include "base/Nivo.h"
+#include "reports/salida/ImpreAcueducto.h"
+#include "reports/screens/PantallasSalidaEscritorio.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoToolTip.h"
@@ -269,7 +271,14 @@ QWidget* VentanaDatosAcueducto::Botonera() {
     };
     boton("Abrir", [this] { Accion([this] { logica_.Abrir(); }); });
     boton("Salvar", [this] { Accion([this] { logica_.Salvar(); }); });
-    boton("Reportes", [] {});
+    boton("Reportes", [this] {
+        // The report prints the file as saved: nothing is saved first.
+        TerminarEdicion();
+        PantallasSalidaEscritorio salida(s_, d_, this);
+        ImprimirDatosProyecto(s_, d_, salida);
+        logica_.foco = DatosAcueducto::Foco::PrimerControl;
+        Refrescar();
+    });
     boton("Insertar", [this] { Accion([this] { logica_.Insertar(); }); });
     boton("Eliminar", [this] { Accion([this] { logica_.Eliminar(); }); });
     boton("Compatibilidad", [this] { Accion([this] { logica_.Compatibilidad(); }); });

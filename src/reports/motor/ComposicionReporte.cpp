@@ -230,7 +230,7 @@ private:
         for (size_t i = 0; i < cols.size(); ++i)
             alto = std::max(alto, s.columnas[i].imagen ? s.altoImagen
                                                        : Alto(textos[int(i)], cols[i].second - 2 * Relleno, 7, false));
-        return alto + 2 * Relleno;
+        return std::max(alto + 2 * Relleno, s.altoFila);
     }
 
     void SeccionTitulo(const SeccionPlantilla& s) {
@@ -250,7 +250,7 @@ private:
         textos.resize(size_t(n));
         for (int f = 0; f < n; ++f)
             for (const ColumnaPlantilla& c : s.columnas)
-                textos[size_t(f)] << (c.imagen ? QString() : TextoDato(t.Dato(f, c.campo), c.formato, c.textos));
+                textos[size_t(f)] << (c.imagen ? QString() : TextoDato(t.Celda(f, c), c.formato, c.textos));
         const double altoTotales = s.totales.isEmpty() ? 0.0 : 14.0;
         const double altoTitulo = s.titulo.isEmpty() ? 0.0 : 15.0;
 
@@ -269,7 +269,7 @@ private:
                 EncabezadoColumnas(s, cols, altoEncabezado);
                 arribaDePagina = true;
             }
-            if (f % 2 == 1) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
+            if (f % 2 == 1 && !s.rejilla) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
             if (AbreGrupo(s, t, f)) Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
             for (size_t i = 0; i < cols.size(); ++i) {
                 const ColumnaPlantilla& c = s.columnas[i];
@@ -277,12 +277,21 @@ private:
                 if (c.imagen) Imagen(r, t.Dato(f, c.campo));
                 else if (arribaDePagina || !RepiteGrupo(s, t, f, c))
                     Texto(r, textos[size_t(f)][int(i)], 7, false, Banderas(c.alineacion));
-                if (s.totales.contains(c.campo)) sumas[i] += ComoDoble(t.Dato(f, c.campo));
+                if (s.totales.contains(c.campo)) sumas[i] += ComoDoble(t.Celda(f, c));
             }
+            if (s.rejilla) Rejilla(cols, alto);
             y_ += alto;
         }
         Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
         if (!s.totales.isEmpty()) Totales(s, cols, sumas);
+    }
+
+    // The rules of a form around the row at y_.
+    void Rejilla(const std::vector<std::pair<double, double>>& cols, double alto) {
+        Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
+        Linea(Margen, y_ + alto, Margen + Ancho(), y_ + alto, estilo_.linea);
+        Linea(Margen, y_, Margen, y_ + alto, estilo_.linea);
+        for (const auto& [x, w] : cols) Linea(x + w, y_, x + w, y_ + alto, estilo_.linea);
     }
 
     void Totales(const SeccionPlantilla& s, const std::vector<std::pair<double, double>>& cols,
@@ -358,8 +367,8 @@ private:
             Texto(QRectF(x, y_, w, alto), texto, puntos, negrita, Qt::AlignCenter, color);
             y_ += alto + despues;
         };
-        centrado(ComoTexto(t.Dato(0, QStringLiteral("Titulo1"))), 22, true, estilo_.titulo, 10);
-        centrado(ComoTexto(t.Dato(0, QStringLiteral("Titulo2"))), 15, true, estilo_.titulo, 24);
+        centrado(TituloPortada(datos_, s, QStringLiteral("Titulo1")), 22, true, estilo_.titulo, 10);
+        centrado(TituloPortada(datos_, s, QStringLiteral("Titulo2")), 15, true, estilo_.titulo, 24);
         Linea(x + w * 0.2, y_, x + w * 0.8, y_, estilo_.linea);
         y_ += 24;
         for (const CampoPlantilla& c : s.campos) {
@@ -393,6 +402,11 @@ QString TextoDato(const Valor& v, const QString& formato, const QMap<int, QStrin
     const int i = Trim(ComoTexto(v)).toInt(&entero);
     if (entero && textos.contains(i)) return textos.value(i);
     return TextoDato(v, formato);
+}
+
+QString TituloPortada(const DatosReporte& datos, const SeccionPlantilla& s, const QString& campo) {
+    if (s.tabla.compare(datos.tablaGenerales, Qt::CaseInsensitive) == 0) return datos.General(campo);
+    return ComoTexto(datos.Tabla(s.tabla).Dato(0, campo));
 }
 
 QSizeF TamanoCarta(bool horizontal) { return horizontal ? QSizeF(792, 612) : QSizeF(612, 792); }

@@ -2,6 +2,8 @@
 
 #include "store/Conexion.h"
 
+#include <cmath>
+
 namespace {
 
 bool LeerTabla(Conexion& c, const QString& tabla, const QString& orden, TablaReporte& t, QString& error) {
@@ -67,14 +69,21 @@ Valor TablaReporte::Dato(int fila, const QString& campo) const {
     return filas[size_t(fila)][size_t(i)];
 }
 
-QString DatosReporte::General(const QString& campo) const {
-    // A project's own general data (the data reports) keep one title, `Titulo`.
-    if (campo == QLatin1String("Titulo1") && generales.Indice(campo) < 0)
-        return ComoTexto(generales.Dato(0, QStringLiteral("Titulo")));
-    return ComoTexto(generales.Dato(0, campo));
+Valor TablaReporte::Celda(int fila, const ColumnaPlantilla& c) const {
+    const bool contra = !c.sentido.isEmpty() && ComoDoble(Dato(fila, c.sentido)) < 0.0;
+    Valor v = Dato(fila, contra ? c.contrario : c.campo);
+    if (c.absoluto && !v.isNull()) v = std::abs(ComoDoble(v));
+    return v;
 }
 
-bool DatosReporte::FormatoColor() const { return ComoLogico(generales.Dato(0, QStringLiteral("FormatoColor"))); }
+QString DatosReporte::General(const QString& campo) const {
+    if (const auto t = textosGenerales.constFind(campo); t != textosGenerales.cend()) return *t;
+    return ComoTexto(generales.Dato(0, camposGenerales.value(campo, campo)));
+}
+
+bool DatosReporte::FormatoColor() const {
+    return ComoLogico(generales.Dato(0, camposGenerales.value(QStringLiteral("FormatoColor"), QStringLiteral("FormatoColor"))));
+}
 
 const TablaReporte& DatosReporte::Tabla(const QString& nombre) const {
     static const TablaReporte vacia;
@@ -102,15 +111,20 @@ bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReport
         return false;
     }
     if (rutaGenerales.isEmpty()) {
-        if (!LeerTabla(c, QStringLiteral("DatosGenerales"), QString(), datos.generales, error)) return false;
+        if (!LeerTabla(c, p.tablaGenerales, QString(), datos.generales, error)) return false;
     } else {
         Conexion g;
         if (!g.Abrir(rutaGenerales)) {
             error = g.UltimoError();
             return false;
         }
-        if (!LeerTabla(g, QStringLiteral("DatosGenerales"), QString(), datos.generales, error)) return false;
+        if (!LeerTabla(g, p.tablaGenerales, QString(), datos.generales, error)) return false;
     }
+    datos.tablaGenerales = p.tablaGenerales;
+    datos.camposGenerales = p.camposGenerales;
+    datos.textosGenerales = p.textosGenerales;
+    for (const QString& campo : std::as_const(p.camposGenerales))
+        if (!TieneCampo(datos.generales, p.tablaGenerales, campo, error)) return false;
     for (const SeccionPlantilla& s : p.secciones) {
         if (datos.tablas.contains(s.tabla)) continue;
         TablaReporte t;
@@ -120,7 +134,8 @@ bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReport
             if (!LeerTabla(c, s.unir, QString(), u, error) || !Unir(t, u, s, error)) return false;
         }
         for (const ColumnaPlantilla& col : s.columnas)
-            if (!TieneCampo(t, s.tabla, col.campo, error)) return false;
+            for (const QString& campo : {col.campo, col.sentido, col.contrario})
+                if (!campo.isEmpty() && !TieneCampo(t, s.tabla, campo, error)) return false;
         for (const CampoPlantilla& campo : s.campos)
             if (!TieneCampo(t, s.tabla, campo.campo, error)) return false;
         datos.tablas.insert(s.tabla, std::move(t));

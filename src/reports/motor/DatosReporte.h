@@ -14,12 +14,19 @@ struct TablaReporte {
     std::vector<std::vector<Valor>> filas;
     int Indice(const QString& campo) const;  // -1 when absent
     Valor Dato(int fila, const QString& campo) const;
+    // What a column of a detail band shows in a row: its field, or the
+    // contrary one against the flow, without sign when asked.
+    Valor Celda(int fila, const ColumnaPlantilla& c) const;
 };
 
 struct DatosReporte {
     QHash<QString, TablaReporte> tablas;
-    // The general data (the first row of DatosGenerales), for every page.
+    // The general data (the first row of the template's general table,
+    // DatosGenerales unless it names another), for every page, and the
+    // template's renaming and fixed texts of its fields.
     TablaReporte generales;
+    QString tablaGenerales = QStringLiteral("DatosGenerales");
+    QHash<QString, QString> camposGenerales, textosGenerales;
     QString General(const QString& campo) const;
     bool FormatoColor() const;
     const TablaReporte& Tabla(const QString& nombre) const;

@@ -31,7 +31,7 @@ QString ImagenEmbebida(const Valor& v) {
 }
 
 QString Detalle(const SeccionPlantilla& s, const TablaReporte& t) {
-    QString h = QStringLiteral("<table><thead><tr>");
+    QString h = s.rejilla ? QStringLiteral("<table class=\"rejilla\"><thead><tr>") : QStringLiteral("<table><thead><tr>");
     for (const ColumnaPlantilla& c : s.columnas) h += QStringLiteral("<th>%1</th>").arg(E(c.titulo));
     h += QStringLiteral("</tr></thead><tbody>\n");
     std::vector<double> sumas(s.columnas.size(), 0.0);
@@ -39,7 +39,7 @@ QString Detalle(const SeccionPlantilla& s, const TablaReporte& t) {
         h += AbreGrupo(s, t, f) ? QStringLiteral("<tr class=\"g\">") : QStringLiteral("<tr>");
         for (size_t i = 0; i < s.columnas.size(); ++i) {
             const ColumnaPlantilla& c = s.columnas[i];
-            const Valor v = t.Dato(f, c.campo);
+            const Valor v = t.Celda(f, c);
             const QString texto = RepiteGrupo(s, t, f, c) ? QString()
                                   : c.imagen             ? ImagenEmbebida(v)
                                                          : E(TextoDato(v, c.formato, c.textos));
@@ -96,6 +96,7 @@ QString HtmlReporte(const Plantilla& p, const DatosReporte& datos) {
                     "td { font-size: 8pt; padding: 1px 4px; border-bottom: 1px solid #DDD; }\n"
                     "td.d { text-align: right; } td.c { text-align: center; } tr.g td { border-top: 1px solid %3; }\n"
                     "tfoot td { font-weight: bold; border-top: 1px solid %3; }\n"
+                    "table.rejilla td { border: 1px solid %3; height: 18pt; }\n"
                     "table.campos th, table.portada th { text-align: left; background: none; color: #000; width: 55%; }\n"
                     "td img { max-height: 72px; }\n</style></head><body>\n")
                     .arg(E(p.titulo.isEmpty() ? p.nombre : p.titulo), p.horizontal ? QStringLiteral("landscape") : QString(),
@@ -115,7 +116,7 @@ QString HtmlReporte(const Plantilla& p, const DatosReporte& datos) {
         const TablaReporte& t = datos.Tabla(s.tabla);
         if (s.tipo == SeccionPlantilla::Tipo::Portada) {
             h += QStringLiteral("<h1 style=\"text-align:center\">%1</h1>\n<h2 style=\"text-align:center\">%2</h2>\n")
-                     .arg(E(ComoTexto(t.Dato(0, QStringLiteral("Titulo1")))), E(ComoTexto(t.Dato(0, QStringLiteral("Titulo2")))));
+                     .arg(E(TituloPortada(datos, s, QStringLiteral("Titulo1"))), E(TituloPortada(datos, s, QStringLiteral("Titulo2"))));
             h += Campos(s, t, true);
             continue;
         }

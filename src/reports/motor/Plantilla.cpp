@@ -43,6 +43,8 @@ SeccionPlantilla LeerSeccion(const QJsonObject& o) {
     s.separarCuando = o.value(QLatin1String("separarCuando")).toString();
     s.agruparPor = o.value(QLatin1String("agruparPor")).toString();
     s.altoImagen = o.value(QLatin1String("altoImagen")).toDouble(0.0);
+    s.altoFila = o.value(QLatin1String("altoFila")).toDouble(0.0);
+    s.rejilla = o.value(QLatin1String("rejilla")).toBool(false);
     s.etiquetaTotales = o.value(QLatin1String("etiquetaTotales")).toString(s.etiquetaTotales);
     for (const QJsonValue& v : o.value(QLatin1String("totales")).toArray()) s.totales << v.toString();
     for (const QJsonValue& v : o.value(QLatin1String("columnas")).toArray()) {
@@ -54,6 +56,9 @@ SeccionPlantilla LeerSeccion(const QJsonObject& o) {
         col.formato = c.value(QLatin1String("formato")).toString();
         col.imagen = c.value(QLatin1String("imagen")).toBool(false);
         col.textos = Textos(c);
+        col.sentido = c.value(QLatin1String("sentido")).toString();
+        col.contrario = c.value(QLatin1String("contrario")).toString(col.campo);
+        col.absoluto = c.value(QLatin1String("absoluto")).toBool(false);
         col.alineacion = LeerAlineacion(c.value(QLatin1String("alineacion"))
                                             .toString(col.formato.isEmpty() ? QStringLiteral("izquierda")
                                                                             : QStringLiteral("derecha")));
@@ -74,7 +79,10 @@ bool NombresValidos(const SeccionPlantilla& s) {
     for (const QString& o : s.orden.split(QLatin1Char(','), Qt::SkipEmptyParts)) nombres << o.trimmed();
     if (!s.unir.isEmpty() || !s.unirPor.isEmpty()) nombres << s.unir << s.unirPor;
     if (!s.agruparPor.isEmpty()) nombres << s.agruparPor;
-    for (const ColumnaPlantilla& c : s.columnas) nombres << c.campo;
+    for (const ColumnaPlantilla& c : s.columnas) {
+        nombres << c.campo;
+        if (!c.sentido.isEmpty()) nombres << c.sentido << c.contrario;
+    }
     for (const CampoPlantilla& c : s.campos) nombres << c.campo;
     for (const QString& n : nombres)
         if (!NombreValido(n)) return false;
@@ -112,7 +120,15 @@ bool LeerPlantilla(const QString& ruta, Plantilla& p, QString& error) {
     p.encabezado = o.value(QLatin1String("encabezado")).toBool(true);
     p.pie = o.value(QLatin1String("pie")).toBool(true);
     for (const QJsonValue& v : o.value(QLatin1String("secciones")).toArray()) p.secciones.push_back(LeerSeccion(v.toObject()));
-    bool valida = e.error == QJsonParseError::NoError && doc.isObject() && !p.secciones.empty();
+    const QJsonObject g = o.value(QLatin1String("generales")).toObject();
+    p.tablaGenerales = g.value(QLatin1String("tabla")).toString(p.tablaGenerales);
+    const QJsonObject campos = g.value(QLatin1String("campos")).toObject();
+    for (auto it = campos.begin(); it != campos.end(); ++it) p.camposGenerales.insert(it.key(), it.value().toString());
+    const QJsonObject textos = g.value(QLatin1String("textos")).toObject();
+    for (auto it = textos.begin(); it != textos.end(); ++it) p.textosGenerales.insert(it.key(), it.value().toString());
+    bool valida = e.error == QJsonParseError::NoError && doc.isObject() && !p.secciones.empty() &&
+                  NombreValido(p.tablaGenerales);
+    for (const QString& campo : std::as_const(p.camposGenerales)) valida = valida && NombreValido(campo);
     for (const SeccionPlantilla& s : p.secciones) valida = valida && NombresValidos(s);
     if (!valida) {
         error = QStringLiteral("El archivo «%1» no es una plantilla de reporte válida.").arg(ruta);

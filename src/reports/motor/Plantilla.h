@@ -4,6 +4,7 @@
 // The format is described in data/reportes/FORMATO.md.
 
 #include <QMap>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -20,6 +21,11 @@ struct ColumnaPlantilla {
     bool imagen = false;  // the field holds a picture's bytes
     // An option stored as a whole number printed as the text given for it.
     QMap<int, QString> textos;
+    // The direction of a flow: when the record's field `sentido` is below 0
+    // the column shows `contrario` instead of `campo` (the two ends of a
+    // section written in the direction of the flow).
+    QString sentido, contrario;
+    bool absoluto = false;  // a number shown without its sign
 };
 
 // A label and a field of a one-row table (the general data).
@@ -49,6 +55,10 @@ struct SeccionPlantilla {
     QStringList totales;  // fields summed in the band's closing row
     QString etiquetaTotales = QStringLiteral("TOTALES");
     double altoImagen = 0.0;  // points; rows with a picture column
+    // A form to fill by hand: rows at least this tall (points), and ruled
+    // between every row and column.
+    double altoFila = 0.0;
+    bool rejilla = false;
     std::vector<CampoPlantilla> campos;
 };
 
@@ -59,6 +69,12 @@ struct Plantilla {
     bool encabezado = true;  // the page header with the general data
     bool pie = true;         // "Página N de M"
     std::vector<SeccionPlantilla> secciones;
+    // The one-row table of the page header and its field names: a header
+    // field (Empresa, FormatoColor, Titulo1...) read from another field of
+    // it, or given as a fixed text.
+    QString tablaGenerales = QStringLiteral("DatosGenerales");
+    QHash<QString, QString> camposGenerales;
+    QHash<QString, QString> textosGenerales;
     // The tables the template reads, each once, in order.
     QStringList Tablas() const;
 };

@@ -7,7 +7,10 @@
 #include "catalogue/screens/VentanaBDPiezas.h"
 #include "entry/screens/VentanaDatosRamales.h"
 #include "reports/screens/VentanaImpreGeneral.h"
+#include "reports/screens/VentanaImpreHojas.h"
+#include "shell/screens/VentanaCompactar1.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
+#include "shell/screens/VentanaRespaldoArchivos.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/VentanaSobre.h"
 #include "takeoff/screens/VentanaComputos.h"
@@ -26,6 +29,9 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::BDPiezas:
     case Pantalla::BDConexiones:
     case Pantalla::ImpreGeneral:
+    case Pantalla::Compactar:
+    case Pantalla::RespaldoArchivos:
+    case Pantalla::ImpreHojas:
         return true;
     default:
         return false;
@@ -55,6 +61,16 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::ConfigurarPrograma: {
         VentanaConfigurarPrograma pantalla(s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::Compactar: {
+        VentanaCompactar1 pantalla(s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::RespaldoArchivos: {
+        VentanaRespaldoArchivos pantalla(s_, d_, ventana_);
         pantalla.exec();
         break;
     }
@@ -91,6 +107,11 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::AnalisisACU: {
         VentanaAnalisisACU pantalla(acu_, s_, d_, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::ImpreHojas: {
+        VentanaImpreHojas pantalla(p_, acu_, s_, d_, ventana_);
         pantalla.exec();
         break;
     }
