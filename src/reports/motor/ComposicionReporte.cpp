@@ -166,10 +166,10 @@ private:
     void Pie() {
         const double x = Margen, w = Ancho(), y = pagina_.height() - Margen - AltoPie + 4;
         Linea(x, y, x + w, y, estilo_.linea);
-        Texto(QRectF(x, y + 2, w * 0.6, 12),
-              QStringLiteral("Nivo-Fontaria ") + datos_.General(QStringLiteral("Version")) + QStringLiteral("  ·  ") +
-                  datos_.General(QStringLiteral("Proyecto")),
-              7, false, Qt::AlignLeft | Qt::AlignVCenter);
+        QString pie = QStringLiteral("Nivo-Fontaria ") + datos_.General(QStringLiteral("Version"));
+        const QString proyecto = datos_.General(QStringLiteral("Proyecto"));
+        if (!proyecto.isEmpty()) pie += QStringLiteral("  ·  ") + proyecto;
+        Texto(QRectF(x, y + 2, w * 0.6, 12), pie, 7, false, Qt::AlignLeft | Qt::AlignVCenter);
         Trazo z;
         z.tipo = Trazo::Tipo::NumeroPagina;
         z.r = QRectF(x + w * 0.6, y + 2, w * 0.4, 12);
