@@ -63,27 +63,34 @@ bool LleneComputo(Conexion& c, const char* tabla, const Grid& g, int pagina, boo
 QStringList Columnas(Conexion& c, const QString& esquema, const QString& tabla) {
     QStringList r;
     Consulta q(c, QStringLiteral("PRAGMA %1.table_info(%2)").arg(esquema, tabla));
-    while (q.Siguiente()) r << q.Texto(1).toLower();
+    while (q.Siguiente()) r << q.Texto(1);
     return r;
 }
 
+// The columns copied are those of the report copy's own tables that the
+// project's file also has: a file of an older form leaves the others blank,
+// and no name read from the file reaches the SQL text.
 bool CopieTablas(Conexion& c, QString& error) {
+    std::vector<QStringList> comunes;
     for (const char* n : TablasProyecto) {
         const QString t = QString::fromLatin1(n);
-        const QStringList propias = Columnas(c, QStringLiteral("main"), t);
         const QStringList delArchivo = Columnas(c, QStringLiteral("p"), t);
-        if (propias.isEmpty() || propias != delArchivo) {
-            error = QStringLiteral("El archivo del proyecto no es un proyecto de Fontaria completo: la tabla «%1» "
-                                   "falta o no tiene los campos esperados.")
-                        .arg(t);
+        QStringList lista;
+        for (const QString& col : Columnas(c, QStringLiteral("main"), t))
+            if (delArchivo.contains(col, Qt::CaseInsensitive)) lista << QLatin1Char('"') + col + QLatin1Char('"');
+        if (lista.isEmpty()) {
+            error = QStringLiteral("El archivo del proyecto no es un proyecto de Fontaria: le falta la tabla «%1».").arg(t);
             return false;
         }
+        comunes.push_back(lista);
     }
     for (const char* n : TablasProyecto)
         if (!c.Ejecutar(QStringLiteral("DELETE FROM %1").arg(QString::fromLatin1(n)))) return Fallo(c, error);
-    for (const char* n : TablasProyecto)
-        if (!c.Ejecutar(QStringLiteral("INSERT INTO %1 SELECT * FROM p.%1").arg(QString::fromLatin1(n))))
+    for (size_t i = 0; i < comunes.size(); ++i) {
+        const QString lista = comunes[i].join(QStringLiteral(", "));
+        if (!c.Ejecutar(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM p.%1").arg(QString::fromLatin1(TablasProyecto[i]), lista)))
             return Fallo(c, error);
+    }
     return true;
 }
 

@@ -35,9 +35,9 @@ bool LleneTablaTanque(const QString& rutaTrabajo, const DatosTanque& t, const QS
 bool LleneGeneralesCatalogo(const QString& rutaTrabajo, const OpcionesDatos& o, QString& error);
 
 // Project reports: the seven tables of the report copy (Proyecto.mdb)
-// emptied and filled from the project's file as last saved, then the
-// colour, Empresa and the title set.  A project with no file, or a file
-// whose tables differ from the copy's, is refused.
+// emptied and filled from the project's file as last saved, column by
+// column name, then the colour, Empresa and the title set.  A project with
+// no file, or a file that lacks one of the tables, is refused.
 bool CopieProyectoReporte(const QString& rutaProyectoReporte, const QString& archivoProyecto, const Sesion& s,
                           const OpcionesDatos& o, QString& error);
 

@@ -170,10 +170,17 @@ TEST(ReportesDatos, ElReporteDelProyectoLeeElArchivoSalvadoNoLaMemoria) {
     EXPECT_EQ(Filas(a.Copia(), QStringLiteral("SELECT COUNT(*) FROM DatosPiezas")), QStringList{QStringLiteral("2")});
     EXPECT_EQ(Filas(a.Copia(), QStringLiteral("SELECT COUNT(*) FROM DatosGenerales")), QStringList{QStringLiteral("1")});
 
-    // No file, or a file of another shape: refused, the copy as it was.
+    // A file of an older form (a column less, one more) is copied by name.
+    ASSERT_TRUE(EjecutarSql(a.sp.s.ArchivoProyecto, QStringLiteral("ALTER TABLE DatosRamales DROP COLUMN Comentario")));
+    ASSERT_TRUE(EjecutarSql(a.sp.s.ArchivoProyecto, QStringLiteral("ALTER TABLE DatosNodos ADD COLUMN Extra TEXT")));
+    ASSERT_TRUE(CopieProyectoReporte(a.Copia(), a.sp.s.ArchivoProyecto, a.sp.s, {}, error)) << error.toStdString();
+    EXPECT_EQ(Filas(a.Copia(), QStringLiteral("SELECT Nodoj, Comentario FROM DatosRamales WHERE Numero = 6")),
+              QStringList{QStringLiteral("BAÑO 2|NULL")});
+
+    // No file, or a file that is no project: refused, the copy as it was.
     EXPECT_FALSE(CopieProyectoReporte(a.Copia(), a.sp.Datos(QStringLiteral("nunca.plm")), a.sp.s, {}, error));
     EXPECT_TRUE(error.contains(QStringLiteral("Salve el proyecto")));
-    ASSERT_TRUE(EjecutarSql(a.sp.s.ArchivoProyecto, QStringLiteral("ALTER TABLE DatosNodos ADD COLUMN Extra TEXT")));
+    ASSERT_TRUE(EjecutarSql(a.sp.s.ArchivoProyecto, QStringLiteral("DROP TABLE DatosNodos")));
     EXPECT_FALSE(CopieProyectoReporte(a.Copia(), a.sp.s.ArchivoProyecto, a.sp.s, {}, error));
     EXPECT_TRUE(error.contains(QStringLiteral("DatosNodos")));
     EXPECT_EQ(Filas(a.Copia(), QStringLiteral("SELECT COUNT(*) FROM DatosPiezas")), QStringList{QStringLiteral("2")});
