@@ -2,6 +2,7 @@
 
 #include "base/Nivo.h"
 #include "model/ProyectoEdificio.h"
+#include "reports/BaseTrabajo.h"
 #include "reports/TablasResultados.h"
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
@@ -19,17 +20,6 @@ namespace {
 const char* const TablasProyecto[] = {"DatosGenerales", "DatosRamales", "DatosPiezas", "DatosConexiones",
                                       "DatosNodos",     "ImgPiezas",    "ImgConexiones"};
 
-bool Fallo(Conexion& c, QString& error) {
-    error = QStringLiteral("No se pudo escribir la base de datos de trabajo de los reportes: ") + c.UltimoError();
-    return false;
-}
-
-bool Abrir(Conexion& c, const QString& ruta, QString& error) {
-    if (c.Abrir(ruta)) return true;
-    error = c.UltimoError();
-    return false;
-}
-
 // The row of DatosGenerales of the take-off and the tank reports.
 bool LleneGeneralesProyecto(Conexion& c, const ProyectoEdificio& p, const Sesion& s, const OpcionesDatos& o) {
     return c.Ejecutar(QStringLiteral("DELETE FROM DatosGenerales")) &&
@@ -43,9 +33,9 @@ bool LleneGeneralesProyecto(Conexion& c, const ProyectoEdificio& p, const Sesion
 // quantity is not a number.
 bool LleneComputo(Conexion& c, const char* tabla, const Grid& g, int pagina, bool entero, QString& error) {
     const QString t = QString::fromLatin1(tabla);
-    if (!c.Ejecutar(QStringLiteral("DELETE FROM %1").arg(t))) return Fallo(c, error);
+    if (!c.Ejecutar(QStringLiteral("DELETE FROM %1").arg(t))) return FalloTrabajo(c, error);
     Consulta q(c, QStringLiteral("INSERT INTO %1 (Descripcion, Cantidad) VALUES (?, ?)").arg(t));
-    if (!q.Valida()) return Fallo(c, error);
+    if (!q.Valida()) return FalloTrabajo(c, error);
     for (int f = 1; f <= g.Filas(); ++f) {
         double v = 0.0;
         if (!NumeroMostrado(g, f, 2, true, v)) {
@@ -54,7 +44,7 @@ bool LleneComputo(Conexion& c, const char* tabla, const Grid& g, int pagina, boo
                         .arg(PaginasComputos::TituloPagina(pagina), g.Texto(f, 2));
             return false;
         }
-        if (!q.Ejecutar({Trim(g.Texto(f, 1)), entero ? Valor(int(std::lround(v))) : Valor(v)})) return Fallo(c, error);
+        if (!q.Ejecutar({Trim(g.Texto(f, 1)), entero ? Valor(int(std::lround(v))) : Valor(v)})) return FalloTrabajo(c, error);
     }
     return true;
 }
@@ -85,11 +75,11 @@ bool CopieTablas(Conexion& c, QString& error) {
         comunes.push_back(lista);
     }
     for (const char* n : TablasProyecto)
-        if (!c.Ejecutar(QStringLiteral("DELETE FROM %1").arg(QString::fromLatin1(n)))) return Fallo(c, error);
+        if (!c.Ejecutar(QStringLiteral("DELETE FROM %1").arg(QString::fromLatin1(n)))) return FalloTrabajo(c, error);
     for (size_t i = 0; i < comunes.size(); ++i) {
         const QString lista = comunes[i].join(QStringLiteral(", "));
         if (!c.Ejecutar(QStringLiteral("INSERT INTO %1 (%2) SELECT %2 FROM p.%1").arg(QString::fromLatin1(TablasProyecto[i]), lista)))
-            return Fallo(c, error);
+            return FalloTrabajo(c, error);
     }
     return true;
 }
@@ -179,15 +169,15 @@ bool NumeroConMiles(const QString& texto, double& valor) {
 bool LleneTablasComputos(const QString& rutaTrabajo, const PaginasComputos& c, const ProyectoEdificio& p,
                          const Sesion& s, const OpcionesDatos& o, QString& error) {
     Conexion b;
-    if (!Abrir(b, rutaTrabajo, error)) return false;
+    if (!AbrirTrabajo(b, rutaTrabajo, error)) return false;
     Transaccion t(b);
-    if (!LleneGeneralesProyecto(b, p, s, o)) return Fallo(b, error);
+    if (!LleneGeneralesProyecto(b, p, s, o)) return FalloTrabajo(b, error);
     if (!LleneComputo(b, "ImpreComputosPiezas", c.Piezas, 1, true, error) ||
         !LleneComputo(b, "ImpreComputosConexiones", c.Conexiones, 2, true, error) ||
         !LleneComputo(b, "ImpreComputosReducciones", c.Reducciones, 3, true, error) ||
         !LleneComputo(b, "ImpreComputosTuberias", c.Tuberias, 4, false, error))
         return false;
-    return t.Confirmar() || Fallo(b, error);
+    return t.Confirmar() || FalloTrabajo(b, error);
 }
 
 bool LleneTablaTanque(const QString& rutaTrabajo, const DatosTanque& t, const QStringList& valores,
@@ -202,7 +192,7 @@ bool LleneTablaTanque(const QString& rutaTrabajo, const DatosTanque& t, const QS
         resultados.push_back(v);
     }
     Conexion b;
-    if (!Abrir(b, rutaTrabajo, error)) return false;
+    if (!AbrirTrabajo(b, rutaTrabajo, error)) return false;
     Transaccion tr(b);
     const int m = t.NumeroMetodo;
     std::vector<Valor> fila{TextoMetodoReporte(m),
@@ -226,19 +216,19 @@ bool LleneTablaTanque(const QString& rutaTrabajo, const DatosTanque& t, const QS
                                    "VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"),
                     fila) ||
         !tr.Confirmar())
-        return Fallo(b, error);
+        return FalloTrabajo(b, error);
     return true;
 }
 
 bool LleneGeneralesCatalogo(const QString& rutaTrabajo, const OpcionesDatos& o, QString& error) {
     Conexion b;
-    if (!Abrir(b, rutaTrabajo, error)) return false;
+    if (!AbrirTrabajo(b, rutaTrabajo, error)) return false;
     Transaccion t(b);
     if (!b.Ejecutar(QStringLiteral("DELETE FROM DatosGenerales")) ||
         !b.Ejecutar(QStringLiteral("INSERT INTO DatosGenerales (FormatoColor, Titulo1, Version) VALUES (?, ?, ?)"),
                     {Logico(o.FormatoColor), Trim(o.Titulo), EtiquetaVersion()}) ||
         !t.Confirmar())
-        return Fallo(b, error);
+        return FalloTrabajo(b, error);
     return true;
 }
 
@@ -250,7 +240,7 @@ bool CopieProyectoReporte(const QString& rutaProyectoReporte, const QString& arc
         return false;
     }
     Conexion b;
-    if (!Abrir(b, rutaProyectoReporte, error)) return false;
+    if (!AbrirTrabajo(b, rutaProyectoReporte, error)) return false;
     // An attached file cannot join a transaction already begun.
     if (!b.Ejecutar(QStringLiteral("ATTACH ?1 AS p"), {archivoProyecto})) {
         error = QStringLiteral("No se pudo leer el archivo del proyecto «%1»: %2").arg(archivoProyecto, b.UltimoError());
@@ -263,7 +253,7 @@ bool CopieProyectoReporte(const QString& rutaProyectoReporte, const QString& arc
                ((b.Ejecutar(QStringLiteral("UPDATE DatosGenerales SET FormatoColor = ?, Empresa = ?, Titulo = ?"),
                             {Logico(o.FormatoColor), s.NombreUsuario, Trim(o.Titulo)}) &&
                  t.Confirmar()) ||
-                Fallo(b, error));
+                FalloTrabajo(b, error));
     }
     b.Ejecutar(QStringLiteral("DETACH p"));
     return bien;
