@@ -124,6 +124,9 @@ public:
     bool CotasPiso();
     bool Diseno();
     bool Longitudes();
+    // "Reportes": true when the data report may open.  It prints the file as
+    // last saved; the edits in memory stay as they are, unsaved.
+    bool Reportes() const { return HayRamales(); }
     void BuscarRamal(const BuscarPartida& b);
     // Columns 6 and 7 from NPiezas and NConexiones, after a branch screen.
     void ColoqueNPiezas();

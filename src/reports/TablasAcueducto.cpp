@@ -3,22 +3,12 @@
 #include "aqueduct/CasosDemanda.h"
 #include "aqueduct/ProyectoAcueducto.h"
 #include "base/Nivo.h"
+#include "reports/BaseTrabajo.h"
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
 #include "store/Conexion.h"
 
 namespace {
-
-bool Fallo(Conexion& c, QString& error) {
-    error = QStringLiteral("No se pudo escribir la base de datos de trabajo de los reportes: ") + c.UltimoError();
-    return false;
-}
-
-bool Abrir(Conexion& c, const QString& ruta, QString& error) {
-    if (c.Abrir(ruta)) return true;
-    error = c.UltimoError();
-    return false;
-}
 
 bool Vaciar(Conexion& c, std::initializer_list<const char*> tablas) {
     for (const char* t : tablas)
@@ -81,11 +71,11 @@ bool LleneFilas(Conexion& c, const char* tabla, const QString& columnas, const s
 bool LleneTablasAcueducto(const QString& ruta, const ProyectoAcueducto& p, const Sesion& s, bool formatoColor,
                           QString& error) {
     Conexion c;
-    if (!Abrir(c, ruta, error)) return false;
+    if (!AbrirTrabajo(c, ruta, error)) return false;
     Transaccion t(c);
     if (!Vaciar(c, {"Generales", "Tramos", "Nodos"}) || !LleneGenerales(c, p, s, formatoColor) || !LleneTramos(c, p) ||
         !LleneNodos(c, p) || !t.Confirmar())
-        return Fallo(c, error);
+        return FalloTrabajo(c, error);
     return true;
 }
 
@@ -96,7 +86,7 @@ bool LleneTablasAcueducto(const ProyectoAcueducto& p, const Sesion& s, bool form
 bool CopieDatosProyectoACU(const QString& ruta, const QString& archivoProyecto, const QString& usuario,
                            QString& error) {
     Conexion c;
-    if (!Abrir(c, ruta, error)) return false;
+    if (!AbrirTrabajo(c, ruta, error)) return false;
     // The columns copied are those of the report's own tables that the
     // project also has: a file of an older form leaves the others blank, and
     // no name read from the file reaches the SQL text.
@@ -104,7 +94,7 @@ bool CopieDatosProyectoACU(const QString& ruta, const QString& archivoProyecto, 
     const char* const tablas[3] = {"Generales", "Nodos", "Tramos"};
     {
         Conexion proyecto;
-        if (!Abrir(proyecto, archivoProyecto, error)) return false;
+        if (!AbrirTrabajo(proyecto, archivoProyecto, error)) return false;
         for (int i = 0; i < 3; ++i) {
             const QString tabla = QString::fromLatin1(tablas[i]);
             const QStringList delProyecto = proyecto.ColumnasDe(tabla);
@@ -117,7 +107,7 @@ bool CopieDatosProyectoACU(const QString& ruta, const QString& archivoProyecto, 
         }
     }
     // A database is attached outside any transaction.
-    if (!c.Ejecutar(QStringLiteral("ATTACH ?1 AS p"), {archivoProyecto})) return Fallo(c, error);
+    if (!c.Ejecutar(QStringLiteral("ATTACH ?1 AS p"), {archivoProyecto})) return FalloTrabajo(c, error);
     bool ok = false;
     {
         Transaccion t(c);
@@ -128,7 +118,7 @@ bool CopieDatosProyectoACU(const QString& ruta, const QString& archivoProyecto, 
                                       .arg(QString::fromLatin1(tablas[i]), lista));
         }
         ok = ok && c.Ejecutar(QStringLiteral("UPDATE Generales SET Usuario = ?"), {usuario}) && t.Confirmar();
-        if (!ok) Fallo(c, error);
+        if (!ok) FalloTrabajo(c, error);
     }
     c.Ejecutar(QStringLiteral("DETACH p"));
     return ok;
@@ -141,19 +131,19 @@ bool CopieDatosProyectoACU(const Sesion& s, QString& error) {
 
 bool LleneHojasEdificio(const QString& ruta, const std::vector<FilaHoja>& filas, bool opcion1, QString& error) {
     Conexion c;
-    if (!Abrir(c, ruta, error)) return false;
+    if (!AbrirTrabajo(c, ruta, error)) return false;
     Transaccion t(c);
     if (!Vaciar(c, {"DatosGenerales"}) ||
         !c.Ejecutar(QStringLiteral("INSERT INTO DatosGenerales (Opcion1, FormatoColor, Version) VALUES (?,?,?)"),
                     {Logico(opcion1), Logico(opcion1), EtiquetaVersion()}) ||
         !LleneFilas(c, "ImpreUnidadesGasto", QStringLiteral("Numero, NodoI, Nodoj"), filas, true) || !t.Confirmar())
-        return Fallo(c, error);
+        return FalloTrabajo(c, error);
     return true;
 }
 
 bool LleneHojasAcueducto(const QString& ruta, const std::vector<FilaHoja>& filas, QString& error) {
     Conexion c;
-    if (!Abrir(c, ruta, error)) return false;
+    if (!AbrirTrabajo(c, ruta, error)) return false;
     Transaccion t(c);
     // The header of a blank sheet stays blank: no project of an earlier
     // report is printed on it, only the program's version at the foot.
@@ -161,6 +151,6 @@ bool LleneHojasAcueducto(const QString& ruta, const std::vector<FilaHoja>& filas
         !c.Ejecutar(QStringLiteral("INSERT INTO Generales (Version) VALUES (?)"), {EtiquetaVersion()}) ||
         !LleneFilas(c, "Tramos", QStringLiteral("Numero, NodoInicial, NodoFinal"), filas, true) ||
         !LleneFilas(c, "Nodos", QStringLiteral("Numero"), filas, false) || !t.Confirmar())
-        return Fallo(c, error);
+        return FalloTrabajo(c, error);
     return true;
 }

@@ -3,6 +3,7 @@
 #include "analysis/AnalisisRed.h"
 #include "base/Nivo.h"
 #include "model/ProyectoEdificio.h"
+#include "reports/BaseTrabajo.h"
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
 #include "store/Conexion.h"
@@ -44,11 +45,6 @@ private:
     const Grid& g_;
     QString nombre_;
 };
-
-bool Fallo(Conexion& c, QString& error) {
-    error = QStringLiteral("No se pudo escribir la base de datos de trabajo de los reportes: ") + c.UltimoError();
-    return false;
-}
 
 bool LleneDatosGenerales(Conexion& c, const AnalisisRed& a, const ProyectoEdificio& p, const Sesion& s,
                          const OpcionesResultados& o) {
@@ -135,15 +131,12 @@ bool NumeroMostrado(const Grid& g, int fila, int columna, bool blancoEsCero, dou
 bool LleneTablasResultados(const QString& ruta, const AnalisisRed& a, const ProyectoEdificio& p, const Sesion& s,
                            const OpcionesResultados& o, QString& error) {
     Conexion c;
-    if (!c.Abrir(ruta)) {
-        error = c.UltimoError();
-        return false;
-    }
+    if (!AbrirTrabajo(c, ruta, error)) return false;
     Transaccion t(c);
     try {
         if (!LleneDatosGenerales(c, a, p, s, o) || !LleneUnidadesGasto(c, a.Spread1) ||
             !LleneLongitudesEquivalentes(c, a.Spread2) || !LlenePresiones(c, a.Spread3) || !t.Confirmar())
-            return Fallo(c, error);
+            return FalloTrabajo(c, error);
     } catch (const CeldaInvalida& e) {
         error = e.mensaje;
         return false;

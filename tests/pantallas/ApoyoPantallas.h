@@ -7,6 +7,7 @@
 #include "aqueduct/ProyectoAcueducto.h"
 #include "model/ArchivoEdificio.h"
 #include "model/ProyectoEdificio.h"
+#include "reports/screens/VentanaImpreGeneral.h"
 #include "shell/screens/DialogosQt.h"
 #include "shell/screens/PantallasEscritorio.h"
 #include "shell/screens/VentanaPrincipal.h"
@@ -14,7 +15,11 @@
 #include "support/Apoyo.h"
 #include "support/Modales.h"
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QDir>
 #include <memory>
 #include <deque>
@@ -36,6 +41,25 @@ public:
     std::optional<QString> guardar;
     std::optional<QString> GuardarArchivo(const QString&, const QString&, const QString&) override { return guardar; }
 };
+
+// The data-report screen ("Imprimir") a click opens, closed with "Cancelar":
+// its origin, its title box and whether it offers the photographs.
+struct ImpreVista {
+    int origen = 0;
+    QString titulo;
+    bool fotos = false;
+};
+inline ImpreVista ImpreAbierta(QAbstractButton* b) {
+    ImpreVista r;
+    CuandoAbra<VentanaImpreGeneral>([&r](VentanaImpreGeneral* w) {
+        r.origen = w->Logica().Origen();
+        r.titulo = w->Text1()->text();
+        r.fotos = !w->Check3()->isHidden();
+        w->Boton(QStringLiteral("Cancelar"))->click();
+    });
+    b->click();
+    return r;
+}
 
 // The main window as the desktop program wires it, on a fresh data folder
 // holding the samples.

@@ -28,7 +28,10 @@ TEST_F(PantallaBD, DesdeElMenuSinCapturarYConsusTips) {
         PanelBDCatalogo* panel = w->Panel();
         EXPECT_EQ(w->windowTitle(), QStringLiteral("Base de Datos de Piezas Sanitarias"));
         EXPECT_TRUE(panel->Boton(QStringLiteral("Capturar"))->isHidden());
-        EXPECT_FALSE(panel->Boton(QStringLiteral("Reporte"))->isEnabled());
+        const ImpreVista impre = ImpreAbierta(panel->Boton(QStringLiteral("Reporte")));
+        EXPECT_EQ(impre.origen, 3);
+        EXPECT_EQ(impre.titulo, QStringLiteral("BASE DE DATOS DE PIEZAS SANITARIAS"));
+        EXPECT_TRUE(impre.fotos);
         const auto* tip = panel->findChild<NivoToolTip*>();
         ASSERT_NE(tip, nullptr);
         EXPECT_EQ(tip->Texto(panel->Boton(QStringLiteral("Editar"))), QStringLiteral("Editar o crear piezas sanitarias. "));

@@ -56,7 +56,10 @@ TEST_F(PantallaComputos, AbreConLasPiezasDelProyectoSinAnalizar) {
     EXPECT_TRUE(Filas(4).isEmpty());
     EXPECT_TRUE(v->Boton(QStringLiteral("Abrir"))->isVisible());
     EXPECT_EQ(v->Tip()->Texto(v->Boton(QStringLiteral("Abrir"))), QStringLiteral("Abrir un proyecto existente. "));
-    EXPECT_FALSE(v->Boton(QStringLiteral("Imprimir"))->isEnabled());
+    const ImpreVista impre = ImpreAbierta(v->Boton(QStringLiteral("Imprimir")));
+    EXPECT_EQ(impre.origen, 1);
+    EXPECT_EQ(impre.titulo, QStringLiteral("COMPUTOS DE MATERIALES"));
+    EXPECT_FALSE(impre.fotos);
 }
 
 TEST_F(PantallaComputos, AbrirAnalizaYLlenaLasCuatroPaginas) {

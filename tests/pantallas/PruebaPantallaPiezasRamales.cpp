@@ -44,6 +44,10 @@ TEST_F(PantallaPiezasRamales, BotonYClaveTecleada) {
     TeclearEnVista(panel->Spread2(), QStringLiteral("x\n"));  // a letter never reaches the key
     EXPECT_EQ(p.PiezaClave(1, 2), 10);
     EXPECT_GT(refrescos, 0);
+    const ImpreVista impre = ImpreAbierta(panel->findChild<QPushButton*>(QStringLiteral("Reporte")));
+    EXPECT_EQ(impre.origen, 6);
+    EXPECT_EQ(impre.titulo, QStringLiteral("PIEZAS SANITARIAS EN LOS RAMALES"));
+    EXPECT_TRUE(impre.fotos);
     v.reject();
     EXPECT_FALSE(s.CatalogoDesdeProyecto);
 }

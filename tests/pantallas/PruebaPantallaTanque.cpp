@@ -97,7 +97,10 @@ TEST_F(PantallaTanque, LosResultadosDelMetodoUnoCalculadosAMano) {
         util = r->PorcentajeUtil()->text();
         maximo = r->PorcentajeMaximo()->text();
         EXPECT_EQ(r->windowTitle(), QStringLiteral("RESULTADOS DE CÁLCULO DEL TANQUE HIDRONEUMÁTICO"));
-        EXPECT_FALSE(r->findChild<QPushButton*>(QStringLiteral("Imprimir"))->isEnabled());
+        const ImpreVista impre = ImpreAbierta(r->findChild<QPushButton*>(QStringLiteral("Imprimir")));
+        EXPECT_EQ(impre.origen, 2);
+        EXPECT_EQ(impre.titulo, QStringLiteral("TANQUE HIDRONEUMÁTICO"));
+        EXPECT_FALSE(impre.fotos);
         Tecla(r, Qt::Key_Escape);
     });
     v->Boton(QStringLiteral("Calcular"))->click();

@@ -1,5 +1,6 @@
 #include "catalogue/screens/PanelBDCatalogo.h"
 
+#include "reports/screens/VentanaImpreGeneral.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
@@ -76,8 +77,10 @@ PanelBDCatalogo::PanelBDCatalogo(BDCatalogo& logica, Sesion& s, Dialogos& d, std
     connect(boton("Editar", QStringLiteral("Editar"), t.tipEditar), &QPushButton::clicked, this, [this] { Editar(); });
     connect(boton("Eliminar", QStringLiteral("Eliminar"), QStringLiteral("Elimina la pieza sanitaria seleccionada. ")),
             &QPushButton::clicked, this, [this] { Accion([this] { logica_.Eliminar(); }); });
-    // The catalogue reports come with the report engine's screens.
-    boton("Reporte", QStringLiteral("Reporte"), t.tipReporte)->setEnabled(false);
+    connect(boton("Reporte", QStringLiteral("Reporte"), t.tipReporte), &QPushButton::clicked, this, [this, &s] {
+        VentanaImpreGeneral impre(&logica_.Tipo() == &TipoCatalogo::Piezas() ? 3 : 4, s, d_, this);
+        impre.exec();
+    });
     auto* retorno = BotonRetorno(this);
     retorno->setToolTip(QStringLiteral(" Retorno "));
     pie->addWidget(retorno);

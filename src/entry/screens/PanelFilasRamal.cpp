@@ -2,6 +2,7 @@
 
 #include "entry/BuscarPartida.h"
 #include "entry/screens/VentanaBuscarPartida.h"
+#include "reports/screens/VentanaImpreGeneral.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
@@ -228,8 +229,12 @@ QWidget* PanelFilasRamal::CrearBotones(const AspectoFilas& a) {
     base->setEnabled(FilasRamal::BaseDeDatosDisponible && logica_.baseDatos);
     connect(base, &QPushButton::clicked, this, [this] { Pulsar(logica_.baseDatos); });
     connect(boton("Imagen", a.imagen), &QPushButton::clicked, this, [this] { Pulsar(logica_.actualizarImagenes); });
-    // The reports of the branch data come with the report engine's screens.
-    boton("Reporte", a.reporte)->setEnabled(false);
+    // The report prints the project's file as last saved.
+    connect(boton("Reporte", a.reporte), &QPushButton::clicked, this, [this] {
+        TerminarEdicion();
+        VentanaImpreGeneral impre(logica_.origenReporte, s_, d_, this);
+        impre.exec();
+    });
     connect(boton("BuscarRamal", a.buscar), &QPushButton::clicked, this, &PanelFilasRamal::BuscarRamal);
     capa->addStretch();
     // "Baja" and "Sube" repeat while held: the first move at once, the next

@@ -33,6 +33,8 @@ struct LogicaFilas {
     std::function<void()> eliminar, eliminarTodas, actualizarImagenes;
     // "Piezas"/"Conexiones": the catalogue screen, which may capture a row.
     std::function<void()> baseDatos;
+    // "Reporte": the data report of the screen's rows on the branches.
+    int origenReporte = 0;
 };
 
 class PanelFilasRamal;
@@ -124,6 +126,7 @@ public:
         SinFallaDeCalculo(d, [this] { logica_.Cargar(); });
         LogicaFilas l = LogicaDe(logica_);
         l.baseDatos = [this, abrir = std::move(abrirCatalogo)] { abrir(logica_, this); };
+        l.origenReporte = nombre == QLatin1String("PiezasRamales") ? 6 : 7;
         panel_ = new PanelFilasRamal(T::Aspecto(), std::move(l), s, d, std::move(refrescarEditor), this);
         MontarVentanaFilas(this, panel_, logica_.Filas().Caption());
     }

@@ -1,5 +1,7 @@
 #include "entry/screens/VentanaDatosRamales.h"
 
+#include "reports/screens/VentanaImpreGeneral.h"
+
 #include "entry/screens/VentanaCambiarOpcionDiseno.h"
 #include "entry/screens/VentanaConexionesRamales.h"
 #include "entry/screens/VentanaCotasNodos.h"
@@ -368,7 +370,7 @@ QWidget* VentanaDatosRamales::Pagina2() {
         connect(Boton(QString::fromLatin1(nombre)), &QPushButton::clicked, this, f);
     };
     clic("Salvar", [this] { Accion([this] { logica_.Salvar(); }); });
-    Boton(QStringLiteral("Reportes"))->setEnabled(false);  // the data reports come with the reports
+    clic("Reportes", [this] { ImprimirDatos(); });
     clic("Abrir", [this] { Accion([this] { logica_.Abrir(); }); });
     clic("Crear", [this] { Accion([this] { logica_.Crear(); }); });
     clic("Eliminar", [this] { Accion([this] { logica_.Eliminar(); }); });
@@ -644,4 +646,10 @@ void VentanaDatosRamales::reject() {
     bool cerrar = false;
     SinFallaDeCalculo(d_, [this, &cerrar] { cerrar = logica_.PuedeCerrar(); });
     if (cerrar) QDialog::reject();
+}
+
+void VentanaDatosRamales::ImprimirDatos() {
+    if (!logica_.Reportes()) return;
+    VentanaImpreGeneral impre(5, s_, d_, this);
+    impre.exec();
 }

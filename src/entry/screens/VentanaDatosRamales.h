@@ -71,6 +71,8 @@ private:
     void AbrirCotasNodos();
     void AbrirCambiarOpcionDiseno();
     void AbrirLongitudTramosR();
+    // "Reportes": the report of the project's data (origin 5).
+    void ImprimirDatos();
     void BuscarRamal();
 
     DatosRamales logica_;

@@ -127,8 +127,10 @@ private:
         const double x = Margen, w = Ancho();
         Texto(QRectF(x, y_, w * 0.7, 14), datos_.General(QStringLiteral("Empresa")), 10, true, Qt::AlignLeft | Qt::AlignVCenter,
               estilo_.titulo);
-        Texto(QRectF(x + w * 0.7, y_, w * 0.3, 14), QStringLiteral("Fecha: ") + datos_.General(QStringLiteral("Fecha")), 8,
-              false, Qt::AlignRight | Qt::AlignVCenter);
+        const QString fecha = datos_.General(QStringLiteral("Fecha"));
+        if (!fecha.isEmpty())
+            Texto(QRectF(x + w * 0.7, y_, w * 0.3, 14), QStringLiteral("Fecha: ") + fecha, 8, false,
+                  Qt::AlignRight | Qt::AlignVCenter);
         y_ += 17;
         for (const auto& [campo, puntos] : {std::pair{"Titulo1", 11.0}, std::pair{"Titulo2", 9.0}}) {
             const QString t = datos_.General(QString::fromLatin1(campo));
@@ -141,12 +143,17 @@ private:
             Texto(QRectF(xx, y_, 58, 11), etiqueta, 8, true, Qt::AlignLeft | Qt::AlignVCenter);
             Texto(QRectF(xx + 58, y_, ancho - 58, 11), datos_.General(campo), 8, false, Qt::AlignLeft | Qt::AlignVCenter);
         };
-        y_ += 2;
-        dato(x, w, QStringLiteral("Proyecto:"), QStringLiteral("Proyecto"));
-        y_ += 11;
-        dato(x, w / 2, QStringLiteral("Ubicación:"), QStringLiteral("Ubicacion"));
-        dato(x + w / 2, w / 2, QStringLiteral("Calculista:"), QStringLiteral("Calculista"));
-        y_ += 13;
+        // A report of no project (the catalogue's) has no project lines.
+        if (!(datos_.General(QStringLiteral("Proyecto")) + datos_.General(QStringLiteral("Ubicacion")) +
+              datos_.General(QStringLiteral("Calculista")))
+                 .isEmpty()) {
+            y_ += 2;
+            dato(x, w, QStringLiteral("Proyecto:"), QStringLiteral("Proyecto"));
+            y_ += 11;
+            dato(x, w / 2, QStringLiteral("Ubicación:"), QStringLiteral("Ubicacion"));
+            dato(x + w / 2, w / 2, QStringLiteral("Calculista:"), QStringLiteral("Calculista"));
+            y_ += 13;
+        }
         if (!p_.titulo.isEmpty()) {
             const double alto = Alto(p_.titulo, w, 10, true) + 4;
             Texto(QRectF(x, y_, w, alto), p_.titulo, 10, true, Qt::AlignCenter, estilo_.titulo);
@@ -159,10 +166,10 @@ private:
     void Pie() {
         const double x = Margen, w = Ancho(), y = pagina_.height() - Margen - AltoPie + 4;
         Linea(x, y, x + w, y, estilo_.linea);
-        Texto(QRectF(x, y + 2, w * 0.6, 12),
-              QStringLiteral("Nivo-Fontaria ") + datos_.General(QStringLiteral("Version")) + QStringLiteral("  ·  ") +
-                  datos_.General(QStringLiteral("Proyecto")),
-              7, false, Qt::AlignLeft | Qt::AlignVCenter);
+        QString pie = QStringLiteral("Nivo-Fontaria ") + datos_.General(QStringLiteral("Version"));
+        const QString proyecto = datos_.General(QStringLiteral("Proyecto"));
+        if (!proyecto.isEmpty()) pie += QStringLiteral("  ·  ") + proyecto;
+        Texto(QRectF(x, y + 2, w * 0.6, 12), pie, 7, false, Qt::AlignLeft | Qt::AlignVCenter);
         Trazo z;
         z.tipo = Trazo::Tipo::NumeroPagina;
         z.r = QRectF(x + w * 0.6, y + 2, w * 0.4, 12);
@@ -243,7 +250,7 @@ private:
         textos.resize(size_t(n));
         for (int f = 0; f < n; ++f)
             for (const ColumnaPlantilla& c : s.columnas)
-                textos[size_t(f)] << (c.imagen ? QString() : TextoDato(t.Celda(f, c), c.formato));
+                textos[size_t(f)] << (c.imagen ? QString() : TextoDato(t.Celda(f, c), c.formato, c.textos));
         const double altoTotales = s.totales.isEmpty() ? 0.0 : 14.0;
         const double altoTitulo = s.titulo.isEmpty() ? 0.0 : 15.0;
 
@@ -256,18 +263,20 @@ private:
         for (int f = 0; f < n; ++f) {
             const double alto = AltoFila(s, cols, textos[size_t(f)]);
             const double despues = f == n - 1 ? altoTotales : 0.0;
+            bool arribaDePagina = false;
             if (y_ + alto + despues > Fondo()) {
                 NuevaPagina();
                 EncabezadoColumnas(s, cols, altoEncabezado);
+                arribaDePagina = true;
             }
             if (f % 2 == 1 && !s.rejilla) Rellenar(QRectF(Margen, y_, Ancho(), alto), estilo_.fondoAlterno);
-            if (!s.separarCuando.isEmpty() && f > 0 && !ComoTexto(t.Dato(f, s.separarCuando)).trimmed().isEmpty())
-                Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
+            if (AbreGrupo(s, t, f)) Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
             for (size_t i = 0; i < cols.size(); ++i) {
                 const ColumnaPlantilla& c = s.columnas[i];
                 const QRectF r(cols[i].first + Relleno, y_ + Relleno, cols[i].second - 2 * Relleno, alto - 2 * Relleno);
                 if (c.imagen) Imagen(r, t.Dato(f, c.campo));
-                else Texto(r, textos[size_t(f)][int(i)], 7, false, Banderas(c.alineacion));
+                else if (arribaDePagina || !RepiteGrupo(s, t, f, c))
+                    Texto(r, textos[size_t(f)][int(i)], 7, false, Banderas(c.alineacion));
                 if (s.totales.contains(c.campo)) sumas[i] += ComoDoble(t.Celda(f, c));
             }
             if (s.rejilla) Rejilla(cols, alto);
@@ -322,15 +331,18 @@ private:
         SeccionTitulo(s);
         int k = 0;
         for (const CampoPlantilla& c : s.campos) {
-            QString valor = TextoDato(t.Dato(0, c.campo), c.formato);
+            if (t.Dato(0, c.campo).isNull()) continue;  // a value that does not apply
+            QString valor = TextoDato(t.Dato(0, c.campo), c.formato, c.textos);
             if (!c.unidad.isEmpty()) valor += QLatin1Char(' ') + c.unidad;
-            // A long value (a comment) takes the lines it needs.
-            const double fila = std::max(alto, Alto(valor, Ancho() - etiqueta - 4, 9, false) + 4);
-            if (y_ + fila > Fondo()) NuevaPagina();
-            if (k++ % 2 == 0) Rellenar(QRectF(Margen, y_, Ancho(), fila), estilo_.fondoAlterno);
-            Texto(QRectF(Margen + 4, y_, etiqueta - 8, fila), c.etiqueta, 9, true, Qt::AlignLeft | Qt::AlignVCenter);
-            Texto(QRectF(Margen + etiqueta, y_, Ancho() - etiqueta - 4, fila), valor, 9, false, Qt::AlignLeft | Qt::AlignVCenter);
-            y_ += fila;
+            // A long label or value wraps and the line grows with it.
+            const double linea = std::max({alto, Alto(c.etiqueta, etiqueta - 8, 9, true) + 4,
+                                           Alto(valor, Ancho() - etiqueta - 4, 9, false) + 4});
+            if (y_ + linea > Fondo()) NuevaPagina();
+            if (k++ % 2 == 0) Rellenar(QRectF(Margen, y_, Ancho(), linea), estilo_.fondoAlterno);
+            Texto(QRectF(Margen + 4, y_, etiqueta - 8, linea), c.etiqueta, 9, true, Qt::AlignLeft | Qt::AlignVCenter);
+            Texto(QRectF(Margen + etiqueta, y_, Ancho() - etiqueta - 4, linea), valor, 9, false,
+                  Qt::AlignLeft | Qt::AlignVCenter);
+            y_ += linea;
         }
         Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
     }
@@ -383,6 +395,13 @@ private:
 QString TextoDato(const Valor& v, const QString& formato) {
     if (formato.isEmpty()) return Trim(ComoTexto(v));
     return Formato(ComoDoble(v), formato, SeparadoresActuales());
+}
+
+QString TextoDato(const Valor& v, const QString& formato, const QMap<int, QString>& textos) {
+    bool entero = false;
+    const int i = Trim(ComoTexto(v)).toInt(&entero);
+    if (entero && textos.contains(i)) return textos.value(i);
+    return TextoDato(v, formato);
 }
 
 QString TituloPortada(const DatosReporte& datos, const SeccionPlantilla& s, const QString& campo) {

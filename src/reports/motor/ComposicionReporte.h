@@ -42,6 +42,9 @@ void DibujarReporte(const std::vector<PaginaReporte>& paginas, QPagedPaintDevice
 // A field as a report prints it: with the template's number format and the
 // session's marks, or as text.
 QString TextoDato(const Valor& v, const QString& formato);
+// The same for an option printed as the text `textos` gives its number; a
+// number not in the list prints as a number.
+QString TextoDato(const Valor& v, const QString& formato, const QMap<int, QString>& textos);
 // A title of a cover: read through the header's renaming when the cover's
 // table is the general one.
 QString TituloPortada(const DatosReporte& datos, const SeccionPlantilla& s, const QString& campo);

@@ -27,6 +27,28 @@ bool LeerTabla(Conexion& c, const QString& tabla, const QString& orden, TablaRep
     return true;
 }
 
+// Completes each row of `t` with the fields of the first row of `u` whose
+// `por` is equal; a row with no partner gets blanks (a blank picture).
+bool Unir(TablaReporte& t, const TablaReporte& u, const SeccionPlantilla& s, QString& error) {
+    const QString& por = s.unirPor;
+    const int it = t.Indice(por), iu = u.Indice(por);
+    if (it < 0 || iu < 0) {
+        error = QStringLiteral("Las tablas «%1» y «%2» no comparten el campo «%3».").arg(s.tabla, s.unir, por);
+        return false;
+    }
+    QHash<QString, size_t> filaDe;
+    for (size_t f = u.filas.size(); f-- > 0;) filaDe.insert(ComoTexto(u.filas[f][size_t(iu)]), f);
+    std::vector<int> nuevas;
+    for (int k = 0; k < u.columnas.size(); ++k)
+        if (t.Indice(u.columnas[k]) < 0) nuevas.push_back(k);
+    for (int k : nuevas) t.columnas << u.columnas[k];
+    for (std::vector<Valor>& fila : t.filas) {
+        const auto f = filaDe.constFind(ComoTexto(fila[size_t(it)]));
+        for (int k : nuevas) fila.push_back(f == filaDe.cend() ? Valor() : u.filas[*f][size_t(k)]);
+    }
+    return true;
+}
+
 bool TieneCampo(const TablaReporte& t, const QString& tabla, const QString& campo, QString& error) {
     if (t.Indice(campo) >= 0) return true;
     error = QStringLiteral("La tabla «%1» no tiene el campo «%2».").arg(tabla, campo);
@@ -69,14 +91,35 @@ const TablaReporte& DatosReporte::Tabla(const QString& nombre) const {
     return it == tablas.cend() ? vacia : *it;
 }
 
-bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error) {
+bool AbreGrupo(const SeccionPlantilla& s, const TablaReporte& t, int fila) {
+    if (fila == 0) return false;
+    if (!s.separarCuando.isEmpty() && !ComoTexto(t.Dato(fila, s.separarCuando)).trimmed().isEmpty()) return true;
+    return !s.agruparPor.isEmpty() && ComoTexto(t.Dato(fila, s.agruparPor)) != ComoTexto(t.Dato(fila - 1, s.agruparPor));
+}
+
+bool RepiteGrupo(const SeccionPlantilla& s, const TablaReporte& t, int fila, const ColumnaPlantilla& c) {
+    return fila > 0 && !s.agruparPor.isEmpty() && c.campo.compare(s.agruparPor, Qt::CaseInsensitive) == 0 &&
+           ComoTexto(t.Dato(fila, s.agruparPor)) == ComoTexto(t.Dato(fila - 1, s.agruparPor));
+}
+
+bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error,
+                        const QString& rutaGenerales) {
     datos = DatosReporte{};
     Conexion c;
     if (!c.Abrir(rutaBase)) {
         error = c.UltimoError();
         return false;
     }
-    if (!LeerTabla(c, p.tablaGenerales, QString(), datos.generales, error)) return false;
+    if (rutaGenerales.isEmpty()) {
+        if (!LeerTabla(c, p.tablaGenerales, QString(), datos.generales, error)) return false;
+    } else {
+        Conexion g;
+        if (!g.Abrir(rutaGenerales)) {
+            error = g.UltimoError();
+            return false;
+        }
+        if (!LeerTabla(g, p.tablaGenerales, QString(), datos.generales, error)) return false;
+    }
     datos.tablaGenerales = p.tablaGenerales;
     datos.camposGenerales = p.camposGenerales;
     datos.textosGenerales = p.textosGenerales;
@@ -86,6 +129,10 @@ bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReport
         if (datos.tablas.contains(s.tabla)) continue;
         TablaReporte t;
         if (!LeerTabla(c, s.tabla, s.orden, t, error)) return false;
+        if (!s.unir.isEmpty()) {
+            TablaReporte u;
+            if (!LeerTabla(c, s.unir, QString(), u, error) || !Unir(t, u, s, error)) return false;
+        }
         for (const ColumnaPlantilla& col : s.columnas)
             for (const QString& campo : {col.campo, col.sentido, col.contrario})
                 if (!campo.isEmpty() && !TieneCampo(t, s.tabla, campo, error)) return false;

@@ -33,6 +33,14 @@ struct DatosReporte {
 };
 
 // Reads every table of the template, in each section's order, and the
-// general data.  False with a Spanish message when the database cannot be
-// opened or lacks a table or a field the template names.
-bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error);
+// general data, from `rutaGenerales` when the rows' database has none of
+// its own (the catalogue).  False with a Spanish message when a database
+// cannot be opened or lacks a table or a field the template names.
+bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReporte& datos, QString& error,
+                        const QString& rutaGenerales = QString());
+
+// Row `fila` (from 0) of a detail band opens a group: a rule goes above it
+// (separarCuando, agruparPor).
+bool AbreGrupo(const SeccionPlantilla& s, const TablaReporte& t, int fila);
+// The cell repeats its group's value (agruparPor) and is printed blank.
+bool RepiteGrupo(const SeccionPlantilla& s, const TablaReporte& t, int fila, const ColumnaPlantilla& c);

@@ -36,13 +36,14 @@ QString Detalle(const SeccionPlantilla& s, const TablaReporte& t) {
     h += QStringLiteral("</tr></thead><tbody>\n");
     std::vector<double> sumas(s.columnas.size(), 0.0);
     for (int f = 0; f < int(t.filas.size()); ++f) {
-        const bool separa =
-            !s.separarCuando.isEmpty() && f > 0 && !ComoTexto(t.Dato(f, s.separarCuando)).trimmed().isEmpty();
-        h += separa ? QStringLiteral("<tr class=\"g\">") : QStringLiteral("<tr>");
+        h += AbreGrupo(s, t, f) ? QStringLiteral("<tr class=\"g\">") : QStringLiteral("<tr>");
         for (size_t i = 0; i < s.columnas.size(); ++i) {
             const ColumnaPlantilla& c = s.columnas[i];
             const Valor v = t.Celda(f, c);
-            h += QStringLiteral("<td%1>%2</td>").arg(Clase(c.alineacion), c.imagen ? ImagenEmbebida(v) : E(TextoDato(v, c.formato)));
+            const QString texto = RepiteGrupo(s, t, f, c) ? QString()
+                                  : c.imagen             ? ImagenEmbebida(v)
+                                                         : E(TextoDato(v, c.formato, c.textos));
+            h += QStringLiteral("<td%1>%2</td>").arg(Clase(c.alineacion), texto);
             if (s.totales.contains(c.campo)) sumas[i] += ComoDoble(v);
         }
         h += QStringLiteral("</tr>\n");
@@ -69,7 +70,8 @@ QString Detalle(const SeccionPlantilla& s, const TablaReporte& t) {
 QString Campos(const SeccionPlantilla& s, const TablaReporte& t, bool portada) {
     QString h = portada ? QStringLiteral("<table class=\"portada\">") : QStringLiteral("<table class=\"campos\">");
     for (const CampoPlantilla& c : s.campos) {
-        QString valor = TextoDato(t.Dato(0, c.campo), c.formato);
+        if (t.Dato(0, c.campo).isNull()) continue;  // a value that does not apply
+        QString valor = TextoDato(t.Dato(0, c.campo), c.formato, c.textos);
         if (!c.unidad.isEmpty()) valor += QLatin1Char(' ') + c.unidad;
         h += QStringLiteral("<tr><th>%1</th><td>%2</td></tr>\n").arg(E(c.etiqueta), E(valor));
     }

@@ -9,9 +9,10 @@
 
 namespace {
 
-// Table and field names go into SQL text: letters, digits and '_' only.
+// Table and field names go into SQL text: letters, digits and '_' only
+// (accented letters too: "OpcionDiseño").
 bool NombreValido(const QString& n) {
-    static const QRegularExpression re(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
+    static const QRegularExpression re(QStringLiteral("^[\\p{L}_][\\p{L}\\p{N}_]*$"));
     return re.match(n).hasMatch();
 }
 
@@ -19,6 +20,13 @@ Alineacion LeerAlineacion(const QString& t) {
     if (t == QLatin1String("derecha")) return Alineacion::Derecha;
     if (t == QLatin1String("centro")) return Alineacion::Centro;
     return Alineacion::Izquierda;
+}
+
+QMap<int, QString> Textos(const QJsonObject& o) {
+    QMap<int, QString> t;
+    const QJsonObject textos = o.value(QLatin1String("textos")).toObject();
+    for (auto i = textos.begin(); i != textos.end(); ++i) t.insert(i.key().toInt(), i.value().toString());
+    return t;
 }
 
 SeccionPlantilla LeerSeccion(const QJsonObject& o) {
@@ -30,7 +38,10 @@ SeccionPlantilla LeerSeccion(const QJsonObject& o) {
     s.titulo = o.value(QLatin1String("titulo")).toString();
     s.tabla = o.value(QLatin1String("tabla")).toString();
     s.orden = o.value(QLatin1String("orden")).toString();
+    s.unir = o.value(QLatin1String("unir")).toString();
+    s.unirPor = o.value(QLatin1String("unirPor")).toString();
     s.separarCuando = o.value(QLatin1String("separarCuando")).toString();
+    s.agruparPor = o.value(QLatin1String("agruparPor")).toString();
     s.altoImagen = o.value(QLatin1String("altoImagen")).toDouble(0.0);
     s.altoFila = o.value(QLatin1String("altoFila")).toDouble(0.0);
     s.rejilla = o.value(QLatin1String("rejilla")).toBool(false);
@@ -44,6 +55,7 @@ SeccionPlantilla LeerSeccion(const QJsonObject& o) {
         col.ancho = c.value(QLatin1String("ancho")).toDouble(1.0);
         col.formato = c.value(QLatin1String("formato")).toString();
         col.imagen = c.value(QLatin1String("imagen")).toBool(false);
+        col.textos = Textos(c);
         col.sentido = c.value(QLatin1String("sentido")).toString();
         col.contrario = c.value(QLatin1String("contrario")).toString(col.campo);
         col.absoluto = c.value(QLatin1String("absoluto")).toBool(false);
@@ -55,7 +67,8 @@ SeccionPlantilla LeerSeccion(const QJsonObject& o) {
     for (const QJsonValue& v : o.value(QLatin1String("campos")).toArray()) {
         const QJsonObject c = v.toObject();
         s.campos.push_back({c.value(QLatin1String("etiqueta")).toString(), c.value(QLatin1String("campo")).toString(),
-                            c.value(QLatin1String("formato")).toString(), c.value(QLatin1String("unidad")).toString()});
+                            c.value(QLatin1String("formato")).toString(), c.value(QLatin1String("unidad")).toString(),
+                            Textos(c)});
     }
     return s;
 }
@@ -63,7 +76,9 @@ SeccionPlantilla LeerSeccion(const QJsonObject& o) {
 // The names a section puts into SQL.
 bool NombresValidos(const SeccionPlantilla& s) {
     QStringList nombres{s.tabla};
-    if (!s.orden.isEmpty()) nombres << s.orden;
+    for (const QString& o : s.orden.split(QLatin1Char(','), Qt::SkipEmptyParts)) nombres << o.trimmed();
+    if (!s.unir.isEmpty() || !s.unirPor.isEmpty()) nombres << s.unir << s.unirPor;
+    if (!s.agruparPor.isEmpty()) nombres << s.agruparPor;
     for (const ColumnaPlantilla& c : s.columnas) {
         nombres << c.campo;
         if (!c.sentido.isEmpty()) nombres << c.sentido << c.contrario;

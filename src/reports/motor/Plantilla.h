@@ -3,6 +3,7 @@
 // Reportes/ (building) or ReportesACU/ (aqueduct), named after the report.
 // The format is described in data/reportes/FORMATO.md.
 
+#include <QMap>
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -18,6 +19,8 @@ struct ColumnaPlantilla {
     Alineacion alineacion = Alineacion::Izquierda;
     QString formato;    // "0.00", "0"...; empty for a text
     bool imagen = false;  // the field holds a picture's bytes
+    // An option stored as a whole number printed as the text given for it.
+    QMap<int, QString> textos;
     // The direction of a flow: when the record's field `sentido` is below 0
     // the column shows `contrario` instead of `campo` (the two ends of a
     // section written in the direction of the flow).
@@ -28,6 +31,7 @@ struct ColumnaPlantilla {
 // A label and a field of a one-row table (the general data).
 struct CampoPlantilla {
     QString etiqueta, campo, formato, unidad;
+    QMap<int, QString> textos;  // as in a column
 };
 
 struct SeccionPlantilla {
@@ -35,11 +39,19 @@ struct SeccionPlantilla {
     Tipo tipo = Tipo::Detalle;
     QString titulo;  // printed above the band
     QString tabla;
-    QString orden;   // a field of the table, ascending
+    QString orden;   // fields of the table, ascending, separated by commas
+    // A second table whose row of equal `unirPor` completes each row with
+    // its fields (the picture of a fixture kept apart from the fixture).
+    QString unir;
+    QString unirPor;
     std::vector<ColumnaPlantilla> columnas;
     // A thin rule above each row whose field is not blank: the rows of one
     // branch stay together between two rules.
     QString separarCuando;
+    // The same rule above each row whose field differs from the row
+    // before; the field itself is printed once per group (and again at the
+    // top of a page), so the rows of one branch read as a block.
+    QString agruparPor;
     QStringList totales;  // fields summed in the band's closing row
     QString etiquetaTotales = QStringLiteral("TOTALES");
     double altoImagen = 0.0;  // points; rows with a picture column

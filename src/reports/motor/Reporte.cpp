@@ -13,7 +13,9 @@ bool Reporte::Abrir(const QString& rutaPrograma, const QString& nombre, bool acu
     return LeerPlantilla(RutaPlantilla(rutaPrograma, nombre, acueducto), plantilla_, error_);
 }
 
-bool Reporte::Vincular(const QString& rutaBase) { return CargarDatosReporte(rutaBase, plantilla_, datos_, error_); }
+bool Reporte::Vincular(const QString& rutaBase, const QString& rutaGenerales) {
+    return CargarDatosReporte(rutaBase, plantilla_, datos_, error_, rutaGenerales);
+}
 
 int Reporte::Imprimir(QPagedPaintDevice& d) {
     PrepararDispositivo(d, plantilla_);

@@ -14,8 +14,9 @@ public:
     // Opens Reportes/NOMBRE.json (ReportesACU/ for the aqueduct) under the
     // program folder.
     bool Abrir(const QString& rutaPrograma, const QString& nombre, bool acueducto = false);
-    // Reads the template's tables from a work database.
-    bool Vincular(const QString& rutaBase);
+    // Reads the template's tables from a work database; the general data
+    // from `rutaGenerales` when given.
+    bool Vincular(const QString& rutaBase, const QString& rutaGenerales = QString());
 
     // Each writes the whole file or nothing: a target that cannot be
     // written leaves no file and a Spanish message in Error().

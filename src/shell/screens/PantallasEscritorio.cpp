@@ -6,6 +6,7 @@
 #include "catalogue/screens/VentanaBDConexiones.h"
 #include "catalogue/screens/VentanaBDPiezas.h"
 #include "entry/screens/VentanaDatosRamales.h"
+#include "reports/screens/VentanaImpreGeneral.h"
 #include "reports/screens/VentanaImpreHojas.h"
 #include "shell/screens/VentanaCompactar1.h"
 #include "shell/screens/VentanaConfigurarPrograma.h"
@@ -27,6 +28,7 @@ bool PantallasEscritorio::Disponible(Pantalla p) const {
     case Pantalla::Sobre:
     case Pantalla::BDPiezas:
     case Pantalla::BDConexiones:
+    case Pantalla::ImpreGeneral:
     case Pantalla::Compactar:
     case Pantalla::RespaldoArchivos:
     case Pantalla::ImpreHojas:
@@ -94,6 +96,12 @@ void PantallasEscritorio::Mostrar(Pantalla p) {
     }
     case Pantalla::BDConexiones: {
         VentanaBDConexiones pantalla(s_, d_, nullptr, ventana_);
+        pantalla.exec();
+        break;
+    }
+    case Pantalla::ImpreGeneral: {
+        // The project's data report, the one the menu asks for.
+        VentanaImpreGeneral pantalla(5, s_, d_, ventana_);
         pantalla.exec();
         break;
     }

@@ -1,5 +1,6 @@
 #include "takeoff/screens/VentanaComputos.h"
 
+#include "reports/screens/VentanaImpreGeneral.h"
 #include "shell/Sesion.h"
 #include "shell/Titulos.h"
 #include "widgets/NivoTab.h"
@@ -15,7 +16,7 @@
 #include <QVBoxLayout>
 
 VentanaComputos::VentanaComputos(ProyectoEdificio& p, Sesion& s, Dialogos& d, bool desdeAnalisis, QWidget* padre)
-    : QDialog(padre), s_(s), d_(d), logica_(p, s, d) {
+    : QDialog(padre), p_(p), s_(s), d_(d), logica_(p, s, d) {
     setObjectName(QStringLiteral("Computos"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     setSizeGripEnabled(true);
@@ -51,8 +52,6 @@ VentanaComputos::VentanaComputos(ProyectoEdificio& p, Sesion& s, Dialogos& d, bo
     auto* abrir = BotonNivo(QStringLiteral("Abrir"), QStringLiteral("Abrir"), this, QStyle::SP_DialogOpenButton,
                             QStringLiteral("Abrir un proyecto existente. "));
     auto* imprimir = BotonNivo(QStringLiteral("Imprimir"), QStringLiteral("Imprimir"), this, QStyle::SP_FileIcon);
-    // The printing screen is still to come.
-    imprimir->setEnabled(false);
     auto* retorno = BotonRetorno(this);
     pie->addWidget(abrir);
     pie->addStretch(1);
@@ -60,6 +59,7 @@ VentanaComputos::VentanaComputos(ProyectoEdificio& p, Sesion& s, Dialogos& d, bo
     pie->addWidget(retorno);
     capa->addLayout(pie);
     connect(abrir, &QPushButton::clicked, this, &VentanaComputos::Abrir);
+    connect(imprimir, &QPushButton::clicked, this, &VentanaComputos::Imprimir);
     connect(retorno, &QPushButton::clicked, this, &QDialog::accept);
 
     ConfigurarToolTips(this, tip_, s_.Tapiz);
@@ -102,4 +102,13 @@ void VentanaComputos::Abrir() {
     if (!abierto) return;
     if (parentWidget()) parentWidget()->window()->setWindowTitle(TituloEdificio(s_));
     Mostrar();
+}
+
+void VentanaComputos::Imprimir() {
+    FuenteDatos fuente;
+    fuente.Proyecto = &p_;
+    fuente.Computos = &logica_.Paginas;
+    VentanaImpreGeneral impre(1, s_, d_, this, fuente);
+    impre.exec();
+    vistas_[logica_.Pagina - 1]->setFocus();
 }

@@ -35,10 +35,13 @@ public:
 
     // "Abrir": another project, its analysis and the four lists again.
     void Abrir();
+    // "Imprimir": the take-off report (origin 1), focus back to the page's grid.
+    void Imprimir();
 
 private:
     void Mostrar();
 
+    const ProyectoEdificio& p_;
     Sesion& s_;
     Dialogos& d_;
     Computos logica_;

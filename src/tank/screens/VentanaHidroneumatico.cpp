@@ -32,7 +32,7 @@ QLabel* Nota(const char* texto, QWidget* padre) {
 }  // namespace
 
 VentanaHidroneumatico::VentanaHidroneumatico(ProyectoEdificio& p, Sesion& s, Dialogos& d, QWidget* padre)
-    : QDialog(padre), s_(s), d_(d), logica_(p, s, d) {
+    : QDialog(padre), p_(p), s_(s), d_(d), logica_(p, s, d) {
     setObjectName(QStringLiteral("Hidroneumatico"));
     tip_ = new NivoToolTip(this);
     auto* capa = new QVBoxLayout;
@@ -211,7 +211,7 @@ bool VentanaHidroneumatico::Cargar() {
 
 void VentanaHidroneumatico::Calcular() {
     if (!logica_.Calcular()) return;
-    VentanaResultadosHidro resultados(logica_.Datos, s_, this);
+    VentanaResultadosHidro resultados(logica_.Datos, p_, s_, d_, this);
     // A fault of the sizing ends the calculation; the inputs stay.
     if (SinFallaDeCalculo(d_, [&] { resultados.Cargar(); })) resultados.exec();
 }

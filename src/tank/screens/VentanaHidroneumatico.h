@@ -48,6 +48,7 @@ private:
     // Shows the inputs and the enabling of the chosen method.
     void Mostrar();
 
+    const ProyectoEdificio& p_;
     Sesion& s_;
     Dialogos& d_;
     Hidroneumatico logica_;

@@ -1,5 +1,6 @@
 #include "tank/screens/VentanaResultadosHidro.h"
 
+#include "reports/screens/VentanaImpreGeneral.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
@@ -61,8 +62,9 @@ QLabel* Panel(QWidget* padre) {
 
 }  // namespace
 
-VentanaResultadosHidro::VentanaResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* padre)
-    : QDialog(padre), datos_(datos) {
+VentanaResultadosHidro::VentanaResultadosHidro(const DatosTanque& datos, const ProyectoEdificio& p, Sesion& s,
+                                               Dialogos& d, QWidget* padre)
+    : QDialog(padre), datos_(datos), p_(p), s_(s), d_(d) {
     setObjectName(QStringLiteral("ResultadosHidro"));
     setWindowTitle(QStringLiteral("RESULTADOS DE CÁLCULO DEL TANQUE HIDRONEUMÁTICO"));
     tip_ = new NivoToolTip(this);
@@ -99,8 +101,7 @@ VentanaResultadosHidro::VentanaResultadosHidro(const DatosTanque& datos, Sesion&
     auto* pie = new QHBoxLayout;
     auto* imprimir = BotonNivo(QStringLiteral("Imprimir"), QStringLiteral("Imprimir"), this, QStyle::SP_FileIcon,
                                QStringLiteral("Imprimir los resultados del tanque hidroneumático. "));
-    // The report dialog is still to come.
-    imprimir->setEnabled(false);
+    connect(imprimir, &QPushButton::clicked, this, &VentanaResultadosHidro::Imprimir);
     auto* retorno = BotonRetorno(this);
     connect(retorno, &QPushButton::clicked, this, &QDialog::accept);
     pie->addStretch(1);
@@ -121,4 +122,14 @@ void VentanaResultadosHidro::Cargar() {
     porcentajes_[0]->setText(r.PorcentajeMinimo);
     porcentajes_[1]->setText(r.PorcentajeUtil);
     porcentajes_[2]->setText(r.PorcentajeMaximo);
+}
+
+void VentanaResultadosHidro::Imprimir() {
+    FuenteDatos fuente;
+    fuente.Proyecto = &p_;
+    fuente.Tanque = &datos_;
+    // The results as this screen shows them, with their two decimals.
+    for (QLabel* v : valores_) fuente.ValoresTanque << v->text();
+    VentanaImpreGeneral impre(2, s_, d_, this, fuente);
+    impre.exec();
 }

@@ -15,7 +15,8 @@ class NivoToolTip;
 class VentanaResultadosHidro : public QDialog {
     Q_OBJECT
 public:
-    VentanaResultadosHidro(const DatosTanque& datos, Sesion& s, QWidget* padre = nullptr);
+    VentanaResultadosHidro(const DatosTanque& datos, const ProyectoEdificio& p, Sesion& s, Dialogos& d,
+                           QWidget* padre = nullptr);
 
     // The sizing; a fault of it (ErrorEjecucion) leaves the screen unshown.
     void Cargar();
@@ -28,8 +29,14 @@ public:
     QGroupBox* Marco() const { return marco_; }
     NivoToolTip* Tip() const { return tip_; }
 
+    // "Imprimir": the tank report (origin 2) of the values shown.
+    void Imprimir();
+
 private:
     DatosTanque datos_;
+    const ProyectoEdificio& p_;
+    Sesion& s_;
+    Dialogos& d_;
     QGroupBox* marco_;
     QLabel* valores_[7];
     QLabel* porcentajes_[3];
