@@ -8,7 +8,11 @@
 #include "aqueduct/SolverMalla.h"
 #include "base/ErrorEjecucion.h"
 #include "reports/TablasAcueducto.h"
+#include "reports/TablasDatos.h"
 #include "reports/TablasResultados.h"
+#include "takeoff/Computos.h"
+#include "tank/Hidroneumatico.h"
+#include "tank/ResultadosHidro.h"
 
 #include <QFileInfo>
 #include <memory>
@@ -67,9 +71,68 @@ int LleneDatosAcueducto(TrabajoReporte& t) {
     return CopieDatosProyectoACU(t.base, t.archivo, t.c.s.NombreUsuario, error) ? Salida::Bien : Fallar(error);
 }
 
-// One line per template.  Fillers of other reports plug in here, e.g.
-//   {false, "DatosProyecto", LleneDatosProyectoLinea},
+// The data reports of the printing screen, by origin: the take-off and the
+// tank as their screens show them on opening, the catalogue, and the
+// project's file as last saved.
+int LleneDatosEdificio(TrabajoReporte& t, int origen) {
+    Sesion& s = t.c.s;
+    ProyectoEdificio& p = t.c.p;
+    OpcionesDatos o;
+    o.FormatoColor = t.color;
+    o.Titulo = TituloOrigen(origen);
+    FuenteDatos f;
+    f.Proyecto = &p;
+    Computos computos(p, s, t.c.d);
+    DatosTanque tanque;
+    try {
+        if (origen == 1 || origen == 2) {
+            if (const int e = t.CargarEdificio(); e != Salida::Bien) return e;
+        } else if (origen >= 5 && !t.c.Cargar(t.archivo)) {
+            return Salida::Falla;
+        }
+        if (origen == 1) {
+            computos.Cargar();
+            f.Computos = &computos.Paginas;
+        } else if (origen == 2) {
+            ValoresPorDefectoTanque(tanque);
+            PrellenarDesdeProyecto(tanque, p, s, t.c.d);
+            if (const QString rechazo = RechazoPresiones(tanque); !rechazo.isEmpty()) return Fallar(rechazo);
+            f.Tanque = &tanque;
+            f.ValoresTanque = ResultadosHidro(tanque).Valores;
+        }
+    } catch (const ErrorEjecucion& e) {
+        return FallaDeCalculo(e, false);
+    }
+    if ((origen == 3 || origen == 4) && !QFileInfo::exists(RutaCatalogoReportes(s))) {
+        // The scratch folder reaches the user's catalogue through a link: name the user's folder.
+        const QString carpeta = QFileInfo(s.RutaDatos(QStringLiteral("BDatos"))).symLinkTarget();
+        return Fallar(QStringLiteral("No se encuentra el catálogo: ") + carpeta + QStringLiteral("/BD_Piezas_Conexiones.mdb"));
+    }
+    QString error;
+    if (!LleneTablasOrigen(origen, s, f, o, error)) return Fallar(error);
+    t.base = BaseOrigen(origen, s);
+    t.generales = BaseGeneralesOrigen(origen, s);
+    return Salida::Bien;
+}
+
+template <int Origen>
+int LleneOrigen(TrabajoReporte& t) {
+    return LleneDatosEdificio(t, Origen);
+}
+
+// One line per template.
 const EntradaReporte Reportes[] = {
+    {false, "Computos", LleneOrigen<1>},
+    {false, "Hidroneumatico", LleneOrigen<2>},
+    {false, "BDPiezas", LleneOrigen<3>},
+    {false, "BDPiezasFoto", LleneOrigen<3>},
+    {false, "BDConexiones", LleneOrigen<4>},
+    {false, "BDConexionesFoto", LleneOrigen<4>},
+    {false, "DatosProyecto", LleneOrigen<5>},
+    {false, "PiezasRamales", LleneOrigen<6>},
+    {false, "PiezasRamalesFoto", LleneOrigen<6>},
+    {false, "ConexionesRamales", LleneOrigen<7>},
+    {false, "ConexionesRamalesFoto", LleneOrigen<7>},
     {false, "UnidadesGasto", LleneResultadosEdificio},
     {false, "LongitudesEquivalentes", LleneResultadosEdificio},
     {false, "PerdidasPresiones", LleneResultadosEdificio},

@@ -21,6 +21,9 @@ struct TrabajoReporte {
     // The database the template reads; a filler whose tables live in
     // another file than Trabajo/Trabajo.mdb sets it.
     QString base;
+    // The database of the general data when it is another (the catalogue's
+    // reports take theirs from Trabajo/Trabajo.mdb); empty otherwise.
+    QString generales;
     // The building project loaded and its numbering verified, as `analizar`
     // does before the analysis; messages on stderr.  A Salida status.
     int CargarEdificio();

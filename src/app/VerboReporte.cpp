@@ -112,6 +112,8 @@ int VerboReporte(const QStringList& args) {
     if (const int estado = e->llenar(t); estado != Salida::Bien) return estado;
     // Its connections closed, so that the other process reads what was written.
     t.c.s.ConexionProyecto.Cerrar();
-    return Componer({formato, t.base, QString::fromLatin1(e->plantilla), acueducto ? QStringLiteral("1") : QStringLiteral("0"),
-                     QFileInfo(salida).absoluteFilePath()});
+    QStringList argumentos{formato, t.base, QString::fromLatin1(e->plantilla),
+                           acueducto ? QStringLiteral("1") : QStringLiteral("0"), QFileInfo(salida).absoluteFilePath()};
+    if (!t.generales.isEmpty()) argumentos << t.generales;
+    return Componer(argumentos);
 }

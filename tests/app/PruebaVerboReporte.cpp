@@ -151,3 +151,34 @@ TEST(LineaComandos, ElProgramaDeLineaNoCargaLaBibliotecaGraficaDeQt) {
     EXPECT_TRUE(dinamicas.contains(QStringLiteral("libQt6Core")));
     EXPECT_FALSE(dinamicas.contains(QStringLiteral("libQt6Gui")));
 }
+
+TEST_F(VerboReporte, LosReportesDeDatosSalenComoDesdeLaPantalla) {
+    // The texts picked by hand from the apartment's file and the factory
+    // catalogue; the tank sample opens on method 1 (the screen's default).
+    const QString apto = Copia(QStringLiteral("Edificio_ApartamentoTipo"));
+    const QString tanque = Copia(QStringLiteral("Vivienda con Tanque Hidroneumatico"));
+    QDir().mkpath(sp.Datos(QStringLiteral("BDatos")));  // the user's catalogue, as the first start leaves it
+    sp.CopiaDeEjemplo(QStringLiteral("BDPiezasConexiones.nivo"), QStringLiteral("BDatos/BD_Piezas_Conexiones.mdb"));
+    const struct {
+        const QString& proyecto;
+        const char* plantilla;
+        const char* titulo;
+        const char* texto;
+    } casos[] = {
+        {apto, "Computos", "COMPUTOS DE MATERIALES", "LAVAPLATOS AUTOMÁTICO"},
+        {tanque, "Hidroneumatico", "TANQUE HIDRONEUMÁTICO",
+         "El Caudal de Bombeo se asume como un Porcentaje del Caudal Máximo probable."},
+        {apto, "BDPiezas", "BASE DE DATOS DE PIEZAS SANITARIAS", "URINARIO DE VÁLVULA"},
+        {apto, "BDConexionesFoto", "BASE DE DATOS DE CONEXIONES", "VÁLVULA DE RETENCIÓN"},
+        {apto, "DatosProyecto", "DATOS GENERALES DEL PROYECTO", "LAVANDERIA"},
+        {apto, "PiezasRamalesFoto", "PIEZAS SANITARIAS EN LOS RAMALES", "LAVADORA AUTOMÁTICA"},
+        {apto, "ConexionesRamales", "CONEXIONES EN LOS RAMALES", "MEDIDOR DE AGUA"},
+    };
+    const QString pdf = sp.Datos(QStringLiteral("datos.pdf"));
+    for (const auto& k : casos) {
+        ASSERT_EQ(Reporte(k.proyecto, k.plantilla, pdf), 0) << k.plantilla << errores.toStdString();
+        const QString texto = TextoPdf(pdf);
+        EXPECT_TRUE(texto.contains(QString::fromUtf8(k.titulo))) << k.plantilla;
+        EXPECT_TRUE(texto.contains(QString::fromUtf8(k.texto))) << k.plantilla;
+    }
+}

@@ -1,7 +1,8 @@
-// fontaria-reporte FORMATO BASE PLANTILLA ACUEDUCTO SALIDA: writes one report
+// fontaria-reporte FORMATO BASE PLANTILLA ACUEDUCTO SALIDA [GENERALES]: writes one report
 // without a window.  Started by `fontaria reporte` once it has filled the
 // work tables, so that the command line itself never loads the painting
-// libraries; FORMATO is pdf, html, xlsx or rtf and ACUEDUCTO 0 or 1.
+// libraries; FORMATO is pdf, html, xlsx or rtf and ACUEDUCTO 0 or 1; GENERALES
+// is the database of the general data when BASE lacks them.
 
 #include "base/Nivo.h"
 #include "reports/motor/Reporte.h"
@@ -25,7 +26,8 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     const QStringList a = app.arguments();
-    if (a.size() != 6) return Fallar(QStringLiteral("Uso: fontaria-reporte pdf|html|xlsx|rtf BASE PLANTILLA 0|1 SALIDA"));
+    if (a.size() != 6 && a.size() != 7)
+        return Fallar(QStringLiteral("Uso: fontaria-reporte pdf|html|xlsx|rtf BASE PLANTILLA 0|1 SALIDA [GENERALES]"));
     const QHash<QString, FormatoSalida> formatos{{QStringLiteral("pdf"), FormatoSalida::Pdf},
                                                  {QStringLiteral("html"), FormatoSalida::Html},
                                                  {QStringLiteral("xlsx"), FormatoSalida::Excel},
@@ -34,7 +36,7 @@ int main(int argc, char** argv) {
     // The numbers are printed with the user's marks, as on the desktop.
     SeparadoresActuales() = SeparadoresDelSistema();
     Reporte r;
-    if (!r.Abrir(CarpetaPrograma(), a[3], a[4] == QLatin1String("1")) || !r.Vincular(a[2]) ||
+    if (!r.Abrir(CarpetaPrograma(), a[3], a[4] == QLatin1String("1")) || !r.Vincular(a[2], a.value(6)) ||
         !ExportarReporte(r, formatos.value(a[1]), a[5]))
         return Fallar(r.Error());
     return 0;
