@@ -21,9 +21,17 @@ int Fallar(const QString& mensaje) {
 
 }  // namespace
 
+// A batch run has no desktop session: Qt's note about the missing runtime
+// folder says nothing to the engineer and is left out of the messages.
+static void Mensajes(QtMsgType tipo, const QMessageLogContext&, const QString& texto) {
+    if (tipo == QtWarningMsg && texto.startsWith(QLatin1String("QStandardPaths:"))) return;
+    fprintf(stderr, "%s\n", texto.toUtf8().constData());
+}
+
 int main(int argc, char** argv) {
     // No display is needed, nor wanted in a batch run.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(Mensajes);
     QGuiApplication app(argc, argv);
     const QStringList a = app.arguments();
     if (a.size() != 6 && a.size() != 7)
