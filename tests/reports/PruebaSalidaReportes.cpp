@@ -1,11 +1,14 @@
 #include "ApoyoReportes.h"
+#include "reports/motor/ComposicionReporte.h"
 #include "reports/motor/Reporte.h"
 #include "reports/salida/ImpreResultados.h"
 #include "reports/salida/OpcionExportar.h"
 #include "reports/screens/VentanaImpreResultados.h"
 #include "support/PantallasSalidaFalsas.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QPdfWriter>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <unistd.h>
@@ -183,4 +186,34 @@ TEST(ImpreResultados, UnaCarpetaQueNoSePuedeEscribirOUnaPlantillaQueFaltaDejanLa
     EXPECT_TRUE(e.d.Ultimo().texto.startsWith(QStringLiteral("No se encontró la plantilla del reporte «UnidadesGasto»")))
         << e.d.Ultimo().texto.toStdString();
     EXPECT_EQ(e.d.ocupado, 0);
+}
+
+TEST(ImpreResultados, LaVistaSeComponeUnaVezConSuAvanceYSePuedeDetener) {
+    // The apartment's six branches plus 194 more: 200 rows in the one table.
+    EjemploAnalizado e;
+    QString error;
+    ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error));
+    Conexion c;
+    ASSERT_TRUE(c.Abrir(e.Trabajo()));
+    Consulta q(c, QStringLiteral("INSERT INTO ImprePresiones (Numero, NodoI, Nodoj, Caudal) VALUES (?,?,?,?)"));
+    for (int i = 7; i <= 200; ++i) ASSERT_TRUE(q.Ejecutar({i, QStringLiteral("A"), QStringLiteral("B"), 0.1}));
+    c.Cerrar();
+    Reporte r;
+    ASSERT_TRUE(r.Abrir(RutaProgramaPruebas(), QStringLiteral("PerdidasPresiones")));
+    ASSERT_TRUE(r.Vincular(e.Trabajo()));
+    QBuffer b;
+    b.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&b);
+    PrepararDispositivo(pdf, r.PlantillaActual());
+    std::vector<std::pair<int, int>> avisos;
+    const auto paginas = ComponerReporte(r.PlantillaActual(), r.Datos(), pdf, [&avisos](int hechas, int total) {
+        avisos.emplace_back(hechas, total);
+        return true;
+    });
+    EXPECT_GE(paginas.size(), 2u);
+    ASSERT_FALSE(avisos.empty());
+    EXPECT_EQ(avisos.front(), std::make_pair(0, 200));
+    EXPECT_LT(avisos.back().first, 200);
+    // Stopped at the first word: no pages.
+    EXPECT_TRUE(ComponerReporte(r.PlantillaActual(), r.Datos(), pdf, [](int, int) { return false; }).empty());
 }

@@ -28,6 +28,7 @@ VentanaVerResultados::VentanaVerResultados(Reporte& r, Sesion& s, Dialogos& d, P
     vista_->setZoomMode(QPrintPreviewWidget::FitToWidth);
     // Each page is drawn from the composed marks; nothing is measured again.
     connect(vista_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* impresora) {
+        CursorEspera espera;
         DibujarReporte(paginas_, *impresora);
     });
     connect(vista_, &QPrintPreviewWidget::previewChanged, this, &VentanaVerResultados::MostrarPagina);
@@ -46,7 +47,8 @@ QWidget* VentanaVerResultados::Botonera() {
     auto* tira = new QWidget(this);
     auto* capa = new QHBoxLayout(tira);
     capa->setContentsMargins(0, 0, 0, 0);
-    const auto boton = [&](const char* nombre, const QString& texto, QStyle::StandardPixmap icono, const QString& tip) {
+    const auto boton = [&](const char* nombre, const QString& texto, std::optional<QStyle::StandardPixmap> icono,
+                           const QString& tip) {
         QPushButton* b = BotonNivo(QString::fromLatin1(nombre), texto, tira, icono, tip);
         capa->addWidget(b);
         return b;
@@ -68,11 +70,11 @@ QWidget* VentanaVerResultados::Botonera() {
     auto* siguiente = boton("Siguiente", QString(), QStyle::SP_MediaSeekForward, QStringLiteral("Página siguiente "));
     auto* ultima = boton("Ultima", QString(), QStyle::SP_MediaSkipForward, QStringLiteral("Última página "));
     capa->addSpacing(16);
-    auto* menos = boton("Alejar", QStringLiteral("−"), QStyle::SP_ArrowDown, QStringLiteral("Alejar "));
-    auto* mas = boton("Acercar", QStringLiteral("+"), QStyle::SP_ArrowUp, QStringLiteral("Acercar "));
-    auto* ancho = boton("AjustarAncho", QStringLiteral("Ancho"), QStyle::SP_TitleBarMaxButton,
+    auto* menos = boton("Alejar", QStringLiteral("Alejar"), std::nullopt, QStringLiteral("Alejar la página "));
+    auto* mas = boton("Acercar", QStringLiteral("Acercar"), std::nullopt, QStringLiteral("Acercar la página "));
+    auto* ancho = boton("AjustarAncho", QStringLiteral("Ancho"), std::nullopt,
                         QStringLiteral("La página al ancho de la ventana "));
-    auto* entera = boton("PaginaEntera", QStringLiteral("Página"), QStyle::SP_TitleBarNormalButton,
+    auto* entera = boton("PaginaEntera", QStringLiteral("Página"), std::nullopt,
                          QStringLiteral("La página entera en la ventana "));
     capa->addStretch(1);
     auto* b5 = boton("LSButton5", QStringLiteral("Cerrar Vista"), QStyle::SP_DialogCloseButton,
