@@ -38,4 +38,19 @@ struct EjemploAnalizado {
         a->Cargar();
     }
     QString Trabajo() const { return sp.Datos(QStringLiteral("Trabajo/Trabajo.mdb")); }
+    // The result tables filled, then ImprePresiones made long: rows 7 to
+    // `hasta` of nodes "N<i-1>" to "N<i>" at 0.1 l/s.
+    void AlargarPresiones(int hasta);
 };
+
+#include "reports/TablasResultados.h"
+
+inline void EjemploAnalizado::AlargarPresiones(int hasta) {
+    QString error;
+    ASSERT_TRUE(LleneTablasResultados(*a, p, sp.s, OpcionesResultados{}, error)) << error.toStdString();
+    Conexion c;
+    ASSERT_TRUE(c.Abrir(Trabajo()));
+    Consulta q(c, QStringLiteral("INSERT INTO ImprePresiones (Numero, NodoI, Nodoj, Caudal) VALUES (?,?,?,?)"));
+    for (int i = 7; i <= hasta; ++i)
+        ASSERT_TRUE(q.Ejecutar({i, QStringLiteral("N%1").arg(i - 1), QStringLiteral("N%1").arg(i), 0.1}));
+}

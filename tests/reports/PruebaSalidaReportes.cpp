@@ -191,13 +191,7 @@ TEST(ImpreResultados, UnaCarpetaQueNoSePuedeEscribirOUnaPlantillaQueFaltaDejanLa
 TEST(ImpreResultados, LaVistaSeComponeUnaVezConSuAvanceYSePuedeDetener) {
     // The apartment's six branches plus 194 more: 200 rows in the one table.
     EjemploAnalizado e;
-    QString error;
-    ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error));
-    Conexion c;
-    ASSERT_TRUE(c.Abrir(e.Trabajo()));
-    Consulta q(c, QStringLiteral("INSERT INTO ImprePresiones (Numero, NodoI, Nodoj, Caudal) VALUES (?,?,?,?)"));
-    for (int i = 7; i <= 200; ++i) ASSERT_TRUE(q.Ejecutar({i, QStringLiteral("A"), QStringLiteral("B"), 0.1}));
-    c.Cerrar();
+    e.AlargarPresiones(200);
     Reporte r;
     ASSERT_TRUE(r.Abrir(RutaProgramaPruebas(), QStringLiteral("PerdidasPresiones")));
     ASSERT_TRUE(r.Vincular(e.Trabajo()));
