@@ -10,6 +10,6 @@ std::optional<EleccionSalida> PantallasSalidaEscritorio::OpcionExportar() {
 }
 
 void PantallasSalidaEscritorio::VerResultados(Reporte& r) {
-    VentanaVerResultados v(r, s_, d_, *this, padre_);
+    VentanaVerResultados v(r, s_, d_, padre_);
     if (v.Componer()) v.exec();
 }

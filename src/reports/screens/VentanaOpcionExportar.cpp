@@ -19,6 +19,8 @@ VentanaOpcionExportar::VentanaOpcionExportar(const Sesion& s, Dialogos& d, QWidg
 
     auto* marco = new QGroupBox(QStringLiteral("Destino del Reporte"), this);
     marco->setObjectName(QStringLiteral("Frame1"));
+    // Wide enough for the window's title to be read whole.
+    marco->setMinimumWidth(fontMetrics().horizontalAdvance(OpcionExportar::Titulo()) + 120);
     auto* opciones = new QVBoxLayout(marco);
     auto* grupo = new QButtonGroup(this);
     for (const OpcionExportar::Opcion& o : OpcionExportar::Opciones()) {

@@ -14,8 +14,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-VentanaVerResultados::VentanaVerResultados(Reporte& r, Sesion& s, Dialogos& d, PantallasSalida& p, QWidget* padre)
-    : QDialog(padre), r_(r), s_(s), d_(d), p_(p), impresora_(QPrinter::HighResolution) {
+VentanaVerResultados::VentanaVerResultados(Reporte& r, Sesion& s, Dialogos& d, QWidget* padre)
+    : QDialog(padre), r_(r), s_(s), d_(d), pantallas_(s, d, this), impresora_(QPrinter::HighResolution) {
     setObjectName(QStringLiteral("VerResultados"));
     setWindowTitle(Titulo());
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -82,7 +82,7 @@ QWidget* VentanaVerResultados::Botonera() {
     auto* retorno = boton("btoRetorno", QStringLiteral("Retorno"), QStyle::SP_ArrowBack, QStringLiteral(" Retorno "));
 
     connect(b1, &QPushButton::clicked, this, &VentanaVerResultados::Imprimir);
-    connect(b2, &QPushButton::clicked, this, [this] { ExportarDesdeVista(r_, d_, p_); });
+    connect(b2, &QPushButton::clicked, this, [this] { ExportarDesdeVista(r_, d_, pantallas_); });
     connect(b3, &QPushButton::clicked, this, [this] { AbrirReportesExportados(s_, d_); });
     connect(primera, &QPushButton::clicked, this, [this] { vista_->setCurrentPage(1); });
     connect(anterior, &QPushButton::clicked, this, [this] { vista_->setCurrentPage(vista_->currentPage() - 1); });

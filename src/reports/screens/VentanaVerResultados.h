@@ -6,13 +6,13 @@
 // draws them, and a zoom draws them again from what it recorded.
 
 #include "reports/motor/ComposicionReporte.h"
+#include "reports/screens/PantallasSalidaEscritorio.h"
 
 #include <QDialog>
 #include <QPrinter>
 
 class Dialogos;
 class NivoToolTip;
-class PantallasSalida;
 class QLabel;
 class QPrintPreviewWidget;
 class QPushButton;
@@ -22,7 +22,7 @@ struct Sesion;
 class VentanaVerResultados : public QDialog {
     Q_OBJECT
 public:
-    VentanaVerResultados(Reporte& r, Sesion& s, Dialogos& d, PantallasSalida& p, QWidget* padre = nullptr);
+    VentanaVerResultados(Reporte& r, Sesion& s, Dialogos& d, QWidget* padre = nullptr);
 
     static QString Titulo();  // "VISTA PREVIA DE LOS REPORTES DEL PROGRAMA"
 
@@ -42,7 +42,7 @@ private:
     Reporte& r_;
     Sesion& s_;
     Dialogos& d_;
-    PantallasSalida& p_;
+    PantallasSalidaEscritorio pantallas_;  // the export's choice, over this window
     QPrinter impresora_;  // the preview's, on which the pages are measured
     std::vector<PaginaReporte> paginas_;
     QPrintPreviewWidget* vista_;
