@@ -11,6 +11,7 @@
 
 #include "ApoyoPantallas.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
+#include "reports/screens/VentanaImpreResultados.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
 #include "widgets/NivoToolTip.h"
@@ -248,11 +249,20 @@ TEST_F(PantallaAnalisis, BotonesSegunLaPestanaYLosQueFaltan) {
     EXPECT_TRUE(Activo("LSButton1"));
     EXPECT_TRUE(Activo("LSButton9"));
     EXPECT_TRUE(Activo("LSButton11"));
-    // Listing, print and export: visible, disabled.
-    for (const char* b : {"LSButton8", "LSButton3", "LSButton4"}) {
+    // Listing and export: visible, disabled.
+    for (const char* b : {"LSButton8", "LSButton4"}) {
         EXPECT_TRUE(v->Boton(QString::fromLatin1(b))->isVisible()) << b;
         EXPECT_FALSE(Activo(b)) << b;
     }
+    // Print: the result reports over this analysis.
+    EXPECT_TRUE(Activo("LSButton3"));
+    bool abierta = false;
+    CuandoAbra<VentanaImpreResultados>([&abierta](VentanaImpreResultados* w) {
+        abierta = true;
+        w->reject();
+    });
+    v->Boton(QStringLiteral("LSButton3"))->click();
+    EXPECT_TRUE(abierta);
     v->Tabs()->PonerTab(2);
     EXPECT_EQ(v->Logica().Tab, 2);
     EXPECT_FALSE(Activo("LSButton2"));

@@ -7,6 +7,7 @@
 #include "analysis/Numeracion.h"
 #include "model/ArchivoEdificio.h"
 #include "model/ProyectoEdificio.h"
+#include "reports/TablasResultados.h"
 #include "shell/Inicio.h"
 #include "store/Conexion.h"
 
@@ -39,6 +40,9 @@ struct EjemploAnalizado {
         a->Cargar();
     }
     QString Trabajo() const { return sp.Datos(QStringLiteral("Trabajo/Trabajo.mdb")); }
+    // The result tables filled, then ImprePresiones made long: rows 7 to
+    // `hasta` of nodes "N<i-1>" to "N<i>" at 0.1 l/s.
+    void AlargarPresiones(int hasta);
 };
 
 // The text of a PDF in pdftotext's reading order, blanks and line ends as
@@ -51,4 +55,14 @@ inline QString TextoPdf(const QString& pdf, int desde = 0, int hasta = 0) {
     p.start(QStringLiteral("pdftotext"), args << pdf << QStringLiteral("-"));
     EXPECT_TRUE(p.waitForFinished(30000));
     return QString::fromUtf8(p.readAllStandardOutput()).simplified();
+}
+
+inline void EjemploAnalizado::AlargarPresiones(int hasta) {
+    QString error;
+    ASSERT_TRUE(LleneTablasResultados(*a, p, sp.s, OpcionesResultados{}, error)) << error.toStdString();
+    Conexion c;
+    ASSERT_TRUE(c.Abrir(Trabajo()));
+    Consulta q(c, QStringLiteral("INSERT INTO ImprePresiones (Numero, NodoI, Nodoj, Caudal) VALUES (?,?,?,?)"));
+    for (int i = 7; i <= hasta; ++i)
+        ASSERT_TRUE(q.Ejecutar({i, QStringLiteral("N%1").arg(i - 1), QStringLiteral("N%1").arg(i), 0.1}));
 }

@@ -87,14 +87,7 @@ TEST(ReportesResultados, UnaTablaLargaRepiteLosEncabezadosEnCadaPagina) {
     // 120 branches at about fifty rows a page: three pages, each with the
     // column headers, and the last row on the last page.
     EjemploAnalizado e;
-    QString error;
-    ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error));
-    Conexion c;
-    ASSERT_TRUE(c.Abrir(e.Trabajo()));
-    Consulta q(c, QStringLiteral("INSERT INTO ImprePresiones (Numero, NodoI, Nodoj, Caudal) VALUES (?,?,?,?)"));
-    for (int i = 7; i <= 120; ++i)
-        ASSERT_TRUE(q.Ejecutar({i, QStringLiteral("N%1").arg(i - 1), QStringLiteral("N%1").arg(i), 0.1}));
-    c.Cerrar();
+    e.AlargarPresiones(120);
     const QString pdf = Renderizar(e, QStringLiteral("Predimensionado"));
     const int paginas = Paginas(pdf);
     ASSERT_GE(paginas, 2);

@@ -2,6 +2,7 @@
 
 #include "entry/screens/VentanaComentarioRamal.h"
 #include "entry/screens/VentanaDatosRamales.h"
+#include "reports/screens/VentanaImpreResultados.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
@@ -140,10 +141,10 @@ QWidget* VentanaAnalisisRed::Botonera() {
     for (const auto& b : botones)
         capa->addWidget(BotonNivo(QString::fromLatin1(b.nombre), QString::fromUtf8(b.texto), pie, b.icono));
 
-    // The screens of the listing, the reports and the workbook are still
-    // to come.
-    for (const char* n : {"LSButton3", "LSButton4", "LSButton8"})
+    // The screens of the listing and the workbook are still to come.
+    for (const char* n : {"LSButton4", "LSButton8"})
         Boton(QString::fromLatin1(n))->setEnabled(false);
+    connect(Boton(QStringLiteral("LSButton3")), &QPushButton::clicked, this, &VentanaAnalisisRed::ImprimirResultados);
 
     connect(double1_, &NivoNumero::ValorCambiado, this, [this](double v) { logica_.Double1 = v; });
     connect(double1_, &NivoNumero::Enter, b6, &QPushButton::click);
@@ -227,6 +228,12 @@ void VentanaAnalisisRed::AbrirComentario() {
         },
         this);
     comentario.exec();
+}
+
+void VentanaAnalisisRed::ImprimirResultados() {
+    vistas_[logica_.Tab - 1]->TerminarEdicion();
+    VentanaImpreResultados impre(logica_, p_, s_, d_, this);
+    impre.exec();
 }
 
 void VentanaAnalisisRed::CambiarTab(int tab) {

@@ -47,14 +47,17 @@ QFont Letra(double puntos, bool negrita) {
 
 class Compositor {
 public:
-    Compositor(const Plantilla& p, const DatosReporte& datos, QPagedPaintDevice& d)
-        : p_(p), datos_(datos), d_(d), estilo_(EstiloDe(datos.FormatoColor())), pagina_(TamanoCarta(p.horizontal)),
+    Compositor(const Plantilla& p, const DatosReporte& datos, QPagedPaintDevice& d, const AvanceComposicion& avance)
+        : p_(p), datos_(datos), d_(d), avance_(avance), estilo_(EstiloDe(datos.FormatoColor())), pagina_(TamanoCarta(p.horizontal)),
           k_(d.logicalDpiX() / 72.0) {}
 
     std::vector<PaginaReporte> Componer() {
+        for (const SeccionPlantilla& s : p_.secciones)
+            if (s.tipo == SeccionPlantilla::Tipo::Detalle) total_ += int(datos_.Tabla(s.tabla).filas.size());
         NuevaPagina();
         bool primera = true;
         for (const SeccionPlantilla& s : p_.secciones) {
+            if (detenido_) break;
             if (!primera) y_ += 8.0;
             primera = false;
             switch (s.tipo) {
@@ -63,6 +66,7 @@ public:
             case SeccionPlantilla::Tipo::Portada: Portada(s); break;
             }
         }
+        if (detenido_) return {};
         return std::move(paginas_);
     }
 
@@ -114,6 +118,13 @@ private:
     }
 
     PaginaReporte& Actual() { return paginas_.back(); }
+
+    // One more row laid out; the caller is told every so many rows.
+    bool Avanzar() {
+        if (avance_ && hechas_ % 64 == 0 && !avance_(hechas_, total_)) detenido_ = true;
+        ++hechas_;
+        return !detenido_;
+    }
 
     void NuevaPagina() {
         paginas_.emplace_back();
@@ -261,6 +272,7 @@ private:
         SeccionTitulo(s);
         EncabezadoColumnas(s, cols, altoEncabezado);
         for (int f = 0; f < n; ++f) {
+            if (!Avanzar()) return;
             const double alto = AltoFila(s, cols, textos[size_t(f)]);
             const double despues = f == n - 1 ? altoTotales : 0.0;
             bool arribaDePagina = false;
@@ -382,6 +394,9 @@ private:
     const Plantilla& p_;
     const DatosReporte& datos_;
     QPagedPaintDevice& d_;
+    const AvanceComposicion& avance_;
+    int hechas_ = 0, total_ = 0;
+    bool detenido_ = false;
     Estilo estilo_;
     QSizeF pagina_;
     double k_;  // device units per point
@@ -416,8 +431,9 @@ void PrepararDispositivo(QPagedPaintDevice& d, const Plantilla& p) {
                                 p.horizontal ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
 }
 
-std::vector<PaginaReporte> ComponerReporte(const Plantilla& p, const DatosReporte& datos, QPagedPaintDevice& d) {
-    return Compositor(p, datos, d).Componer();
+std::vector<PaginaReporte> ComponerReporte(const Plantilla& p, const DatosReporte& datos, QPagedPaintDevice& d,
+                                           const AvanceComposicion& avance) {
+    return Compositor(p, datos, d, avance).Componer();
 }
 
 void DibujarReporte(const std::vector<PaginaReporte>& paginas, QPagedPaintDevice& d) {

@@ -11,6 +11,7 @@
 #include <QImage>
 #include <QRectF>
 #include <QString>
+#include <functional>
 #include <vector>
 
 class QPagedPaintDevice;
@@ -35,7 +36,11 @@ struct PaginaReporte {
 QSizeF TamanoCarta(bool horizontal);
 // Prepares the device (letter, orientation, no margins of its own).
 void PrepararDispositivo(QPagedPaintDevice& d, const Plantilla& p);
-std::vector<PaginaReporte> ComponerReporte(const Plantilla& p, const DatosReporte& datos, QPagedPaintDevice& d);
+// Told now and then of the table rows laid out and of all of them; false
+// stops the layout, which then gives no pages.
+using AvanceComposicion = std::function<bool(int hechas, int total)>;
+std::vector<PaginaReporte> ComponerReporte(const Plantilla& p, const DatosReporte& datos, QPagedPaintDevice& d,
+                                           const AvanceComposicion& avance = {});
 // Draws the pages; "Página N de M" is written here, when M is known.
 void DibujarReporte(const std::vector<PaginaReporte>& paginas, QPagedPaintDevice& d);
 

@@ -46,6 +46,22 @@ bool ExportarReporte(Reporte& r, FormatoSalida f, const QString& archivo) {
     }
 }
 
+bool EntregarArchivo(Reporte& r, Dialogos& d, const EleccionSalida& e, const QString& encabezadoAbrir) {
+    d.CursorOcupado(true);
+    const bool escrito = ExportarReporte(r, e.formato, e.archivo);
+    d.CursorOcupado(false);
+    if (!escrito) {
+        d.MostrarMensaje(r.Error(), QStringLiteral("Exportar el Reporte..."), QStringLiteral("Proyecto de Fontaria"),
+                         Botones::Aceptar, 0, 3);
+        return false;
+    }
+    const QString nombre = QFileInfo(e.archivo).fileName();
+    if (d.MostrarMensaje(QStringLiteral("¿Desea Abrir el Archivo %1?").arg(nombre), encabezadoAbrir,
+                         QStringLiteral("Proyecto de Fontaria"), Botones::SiNo, Respuesta::Si, 2) == Respuesta::Si)
+        d.AbrirConSistema(e.archivo);
+    return true;
+}
+
 bool SalidaReporte(Reporte& r, Dialogos& d, PantallasSalida& p, const QString& encabezadoAbrir) {
     const std::optional<EleccionSalida> e = p.OpcionExportar();
     if (!e) return false;
@@ -53,19 +69,14 @@ bool SalidaReporte(Reporte& r, Dialogos& d, PantallasSalida& p, const QString& e
         p.VerResultados(r);
         return true;
     }
-    d.CursorOcupado(true);
-    const bool escrito = ExportarReporte(r, e->formato, e->archivo);
-    d.CursorOcupado(false);
-    if (!escrito) {
-        d.MostrarMensaje(r.Error(), QStringLiteral("Exportar el Reporte..."), QStringLiteral("Proyecto de Fontaria"),
-                         Botones::Aceptar, 0, 3);
-        return false;
-    }
-    const QString nombre = QFileInfo(e->archivo).fileName();
-    if (d.MostrarMensaje(QStringLiteral("¿Desea Abrir el Archivo %1?").arg(nombre), encabezadoAbrir,
-                         QStringLiteral("Proyecto de Fontaria"), Botones::SiNo, Respuesta::Si, 2) == Respuesta::Si)
-        d.AbrirConSistema(e->archivo);
-    return true;
+    return EntregarArchivo(r, d, *e, encabezadoAbrir);
+}
+
+// The preview chosen again from the preview is the view already shown.
+bool ExportarDesdeVista(Reporte& r, Dialogos& d, PantallasSalida& p) {
+    const std::optional<EleccionSalida> e = p.OpcionExportar();
+    if (!e || e->formato == FormatoSalida::Vista) return false;
+    return EntregarArchivo(r, d, *e, QStringLiteral("Abrir el Reporte Exportado..."));
 }
 
 void AbrirReportesExportados(const Sesion& s, Dialogos& d) {

@@ -42,6 +42,17 @@ public:
 // false with the reason in r.Error().
 bool ExportarReporte(Reporte& r, FormatoSalida f, const QString& archivo);
 
+// The file half of the output stage: the report written in the format
+// chosen under the busy pointer, a failure shown in Spanish, then "¿Desea
+// Abrir el Archivo NAME?" with `encabezadoAbrir` and the file opened on
+// "Sí".  False when not written.
+bool EntregarArchivo(Reporte& r, Dialogos& d, const EleccionSalida& e, const QString& encabezadoAbrir);
+
+// Button2 of the preview: OpcionExportar again and, on a file format, the
+// file written as above; the preview stays as it is.  False when cancelled
+// or not written.
+bool ExportarDesdeVista(Reporte& r, Dialogos& d, PantallasSalida& p);
+
 // The output stage.  Asks OpcionExportar; the preview shows VerResultados;
 // a file is written under the busy pointer, then "¿Desea Abrir el Archivo
 // NAME?" is asked with `encabezadoAbrir` and the file opened on "Sí".  A
