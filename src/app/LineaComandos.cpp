@@ -19,7 +19,9 @@ const char* Uso() {
            "  computos X.plm [--json]                   cómputos de materiales\n"
            "  acueducto X.acu [--caso 1|2|3] [--json]   análisis de una red de acueducto\n"
            "  acueducto X.acu --corregir-direccion      invierte los ramales de caudal negativo\n"
-           "  acueducto exportar X.acu | importar datos.json X.acu\n";
+           "  acueducto exportar X.acu | importar datos.json X.acu\n"
+           "  libro X.plm|X.acu [--caso N] --salida libro.xlsx [--sin-indice] [--sin-color]\n"
+           "                                            el libro de Excel de los resultados\n";
 }
 
 }  // namespace
@@ -72,6 +74,7 @@ int EjecutarLineaComandos(const QStringList& args) {
     if (verbo == QLatin1String("tanque")) return VerboTanque(args);
     if (verbo == QLatin1String("computos")) return VerboComputos(args);
     if (verbo == QLatin1String("acueducto")) return VerboAcueducto(args);
+    if (verbo == QLatin1String("libro")) return VerboLibro(args);
     if (verbo == QLatin1String("--help") || verbo == QLatin1String("ayuda")) {
         Imprimir(QString::fromUtf8(Uso()));
         return Salida::Bien;

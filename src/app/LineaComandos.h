@@ -55,3 +55,4 @@ int VerboAnalizar(const QStringList& args);
 int VerboTanque(const QStringList& args);
 int VerboComputos(const QStringList& args);
 int VerboAcueducto(const QStringList& args);
+int VerboLibro(const QStringList& args);
