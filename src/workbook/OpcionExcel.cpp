@@ -71,7 +71,11 @@ void OpcionExcel::LSButton2_Click() {
     d_.AbrirConSistema(carpeta);
 }
 
-void OpcionExcel::Fecha_Click() { opciones.conFecha = true; }
+void OpcionExcel::Fecha_Click(const QDate& dia) {
+    if (!dia.isValid()) return;
+    Date1 = dia;
+    opciones.conFecha = true;
+}
 
 bool GuardarLibroExcel(const Sesion& s, Dialogos& d, bool acueducto,
                        const std::function<bool(const QString& archivo, QString& error)>& escribir) {

@@ -48,8 +48,9 @@ public:
     void Command3_Click();
     // "Directorio": the folder of the exported reports, made when missing.
     void LSButton2_Click();
-    // " Insertar una Fecha ": the date goes on the sheets.
-    void Fecha_Click();
+    // " Insertar una Fecha ": the day chosen on the calendar goes on the
+    // sheets.
+    void Fecha_Click(const QDate& dia);
 
 private:
     QString TituloMensajes() const;

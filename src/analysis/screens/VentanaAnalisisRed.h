@@ -53,6 +53,8 @@ private:
     void EditarSpread3(int fila, int columna, const QString& texto);
     // LSButton9: the comment screen on the active row of tab 1.
     void AbrirComentario();
+    // LSButton4: the results workbook.
+    void ExportarExcel();
     // Runs an event of the logic and draws the grids of the tabs given; a
     // fault of the calculation is shown and the screen closes.
     void Evento(const std::function<void()>& f, std::initializer_list<int> tabs);

@@ -6,6 +6,8 @@
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/VistaGrid.h"
+#include "workbook/LibroAcueducto.h"
+#include "workbook/screens/VentanaOpcionExcel.h"
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -82,8 +84,17 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
         Accion([this] { logica_.AbrirProyecto(); });
         CerrarSiHaceFalta();
     });
-    // The aqueduct workbook and reports are not built yet: their buttons show, disabled.
-    boton("LSButton4", "Exportar a Excel", [] {})->setEnabled(false);
+    boton("LSButton4", "Exportar a Excel", [this] {
+        // Only a screen with results has anything to export.
+        if (!logica_.TieneFilas()) return;
+        ExportarLibroExcel(this, s_, d_, true,
+                           [this](const OpcionesLibro& o, const QString& archivo, QString& error,
+                                  const ProgresoLibro& progreso) {
+                               return ExportarPantallaExcel(logica_, p_, s_, o, archivo, error, progreso);
+                           });
+        EnfocarGrid();
+    });
+    // The aqueduct reports are not built yet: their button shows, disabled.
     boton("LSButton8", "Imprimir el Análisis", [] {})->setEnabled(false);
     pie->addStretch();
     boton("LSButton3", "Retorno", [this] { reject(); });
