@@ -47,6 +47,9 @@ lxw_error EscribirHoja(lxw_workbook* libro, const HojaLibro& h) {
     if (!w) return LXW_ERROR_SHEETNAME_ALREADY_USED;
     const std::vector<lxw_format*> formatos = Formatos(libro, h);
     worksheet_gridlines(w, LXW_HIDE_ALL_GRIDLINES);
+    // Printed across, one page wide, the sheet reads as on the screen.
+    worksheet_set_landscape(w);
+    worksheet_fit_to_pages(w, 1, 0);
     worksheet_set_default_row(w, h.altoPorDefecto, LXW_FALSE);
     for (int c = 1; c <= h.UltimaColumna() || h.AnchoColumna(c) > 0; ++c)
         if (h.AnchoColumna(c) > 0) worksheet_set_column(w, lxw_col_t(c - 1), lxw_col_t(c - 1), h.AnchoColumna(c), nullptr);

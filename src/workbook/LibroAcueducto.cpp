@@ -147,6 +147,7 @@ std::vector<HojaLibro> HojasLibroAcueducto(const AnalisisACU& a, const ProyectoA
             e.tamano = 12;
             if (o.color) e.fondo = ColoresLibro::Encabezado;
         });
+        indice.AltoFila(9, 20);
         indice.seleccionFila = 9;
         indice.seleccionColumna = 2;
         hojas.push_back(indice);

@@ -254,6 +254,8 @@ HojaLibro HojaIndice(const CabeceraLibro& cab, const OpcionesLibro& o) {
         e.tamano = 12;
         if (o.color) e.fondo = ColoresLibro::Encabezado;
     });
+    // The first line takes the place of the frame's narrow row.
+    h.AltoFila(9, 20);
     for (int k = 0; k < 4; ++k)
         PonerEntradaIndice(h, 9 + k, QString::fromUtf8(kHojas[k].tituloIndice), QString::fromUtf8(kHojas[k].destino));
     h.seleccionFila = 9;

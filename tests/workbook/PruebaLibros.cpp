@@ -17,6 +17,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
 #include <cmath>
 #include <map>
 
@@ -451,4 +453,28 @@ TEST(LibroExcel, ElVerboEscribeElLibroDeCadaModo) {
     QString errores;
     EXPECT_NE(EjecutarPrograma({QStringLiteral("libro"), sp.Datos(QStringLiteral("x.plm"))}, nullptr, &errores), 0);
     EXPECT_TRUE(errores.contains(QStringLiteral("--salida")));
+}
+
+// Another spreadsheet program opens the file: LibreOffice, when installed,
+// turns every sheet into text as it shows it.
+TEST(LibroExcel, LibreOfficeLoAbreYMuestraLasCifras) {
+    const QString soffice = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+    if (soffice.isEmpty()) GTEST_SKIP() << "LibreOffice no está instalado";
+    EjemploAnalizado e;
+    const QString carpeta = e.sp.Datos(QStringLiteral("csv"));
+    const QString archivo = e.sp.Datos(QStringLiteral("apto.xlsx"));
+    QString error;
+    ASSERT_TRUE(ExportarPantallaExcel(*e.a, e.p, e.sp.s, OpcionesLibro{}, archivo, error)) << error.toStdString();
+    QProcess p;
+    p.start(soffice, {QStringLiteral("-env:UserInstallation=file://") + e.sp.Datos(QStringLiteral("perfil")),
+                      QStringLiteral("--headless"), QStringLiteral("--convert-to"),
+                      QStringLiteral("csv:Text - txt - csv (StarCalc):44,34,76,1,,0,false,true,true,false,false,-1"),
+                      QStringLiteral("--outdir"), carpeta, archivo});
+    ASSERT_TRUE(p.waitForFinished(120000));
+    const QString texto =
+        QString::fromUtf8(LeerArchivo(carpeta + QStringLiteral("/apto-PERDIDAS Y PRESIONES.csv")));
+    // Branch 1 of the apartment as the sheet shows it: 3 m + 7.56 m, and the
+    // 18.98 m left of the 20 m at the origin.
+    EXPECT_TRUE(texto.contains(QStringLiteral(",1,MONTANTE,ENTRADA,1.07,\"1 1/4\"\"\",3.00,7.56,10.56,"))) << texto.toStdString();
+    EXPECT_TRUE(texto.contains(QStringLiteral(",18.98\n")));
 }
