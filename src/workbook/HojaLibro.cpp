@@ -158,6 +158,23 @@ void HojaLibro::AnchoColumnas(int desde, int hasta, double ancho) {
     for (int c = desde; c <= hasta; ++c) anchos_[size_t(c)] = ancho;
 }
 
+void HojaLibro::Anchos(std::initializer_list<double> anchos) {
+    int c = 1;
+    for (double a : anchos) AnchoColumnas(c, c, a), ++c;
+}
+
+void HojaLibro::Inmovilizar(const char* celda) {
+    const Rango r = Rg(celda);
+    inmovilizarFila = r.fila1;
+    inmovilizarColumna = r.columna1;
+}
+
+void HojaLibro::Seleccionar(const char* celda) {
+    const Rango r = Rg(celda);
+    seleccionFila = r.fila1;
+    seleccionColumna = r.columna1;
+}
+
 double HojaLibro::AnchoColumna(int columna) const {
     return columna < int(anchos_.size()) ? anchos_[size_t(columna)] : 0.0;
 }

@@ -7,6 +7,7 @@
 
 #include <QString>
 #include <functional>
+#include <initializer_list>
 #include <vector>
 
 // Colours are the spreadsheet's colour indices (1..56) resolved through the
@@ -89,6 +90,8 @@ public:
 
     // Widths in characters, heights in points.
     void AnchoColumnas(int desde, int hasta, double ancho);
+    // The widths of the columns from A on.
+    void Anchos(std::initializer_list<double> anchos);
     double AnchoColumna(int columna) const;
     void AltoFila(int fila, double alto);
     double AltoFilaFijado(int fila) const;  // 0 when the sheet's default
@@ -97,6 +100,8 @@ public:
     // Rows above and columns left of (fila, columna) stay in place; 0, 0 none.
     int inmovilizarFila = 0, inmovilizarColumna = 0;
     int seleccionFila = 1, seleccionColumna = 1;
+    void Inmovilizar(const char* celda);
+    void Seleccionar(const char* celda);
 
 private:
     CeldaLibro& Asegurar(int fila, int columna);

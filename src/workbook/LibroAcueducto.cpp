@@ -46,10 +46,7 @@ void UnionesDelGrid(HojaLibro& h, const Grid& g, int filaEncabezado, int columna
 }
 
 void HojaRamales(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) {
-    h.AnchoColumnas(1, 1, 6);
-    h.AnchoColumnas(2, 2, 7);
-    h.AnchoColumnas(3, 4, 11);
-    h.AnchoColumnas(5, 12, 13);
+    h.Anchos({6, 7, 11, 11, 13, 13, 13, 13, 13, 13, 13, 13});
     h.Formato("B10:L11", [](E& e) {
         e.horizontal = 'C';
         e.fondo = ColoresLibro::Encabezado;
@@ -57,13 +54,14 @@ void HojaRamales(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) {
     h.Unir(Rg("B10:B11"));
     h.Unir(Rg("C10:D10"));
     UnionesDelGrid(h, g, 10, 2);
-    h.Formato(Rg("B12:D", u), ConFormato("@", 'C'));
-    h.Formato(Rg("E12:F", u), ConFormato("#,##0.00"));
-    h.Formato(Rg("G12:G", u), ConFormato("#,##0.000"));
-    h.Formato(Rg("H12:H", u), ConFormato("#,##0"));
-    h.Formato(Rg("I12:I", u), ConFormato("#,##0.000"));
-    h.Formato(Rg("J12:J", u), ConFormato("#,##0.00"));
-    h.Formato(Rg("K12:L", u), ConFormato("#,##0.000"));
+    Formatos(h, u,
+             {{"B12:D", ConFormato("@", 'C')},
+              {"E12:F", ConFormato("#,##0.00")},
+              {"G12:G", ConFormato("#,##0.000")},
+              {"H12:H", ConFormato("#,##0")},
+              {"I12:I", ConFormato("#,##0.000")},
+              {"J12:J", ConFormato("#,##0.00")},
+              {"K12:L", ConFormato("#,##0.000")}});
     // A section whose flow runs against its direction.
     for (int f = 12; f <= u; ++f) {
         const CeldaLibro& caudal = h.Celda(f, 9);
@@ -78,18 +76,13 @@ void HojaRamales(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) {
     h.TodosLosBordes(Rg("C10:L10"));
     h.TodosLosBordes(Rg("B11:L11"));
     if (o.inmovilizar) {
-        h.inmovilizarFila = 12;
-        h.inmovilizarColumna = 3;
+        h.Inmovilizar("C12");
     }
-    h.seleccionFila = 12;
-    h.seleccionColumna = 3;
+    h.Seleccionar("C12");
 }
 
 void HojaNodos(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) {
-    h.AnchoColumnas(1, 1, 6);
-    h.AnchoColumnas(2, 2, 7);
-    h.AnchoColumnas(3, 9, 13);
-    h.AnchoColumnas(10, 10, 43);
+    h.Anchos({6, 7, 13, 13, 13, 13, 13, 13, 13, 43});
     // The headers of two lines need the room of two.
     h.AltoFila(10, 26);
     h.Formato("B10:J10", [](E& e) {
@@ -98,12 +91,13 @@ void HojaNodos(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) {
         e.fondo = ColoresLibro::Encabezado;
     });
     h.Formato(Rg("B11:B", u), [](E& e) { e.horizontal = 'C'; });
-    h.Formato(Rg("C11:C", u), ConFormato("#,##0", 'C'));
-    h.Formato(Rg("D11:D", u), ConFormato("#,##0.00"));
-    h.Formato(Rg("E11:F", u), ConFormato("#,##0.000"));
-    h.Formato(Rg("G11:H", u), ConFormato("#,##0.00"));
-    h.Formato(Rg("I11:I", u), ConFormato("#,##0"));
-    h.Formato(Rg("J11:J", u), ConFormato("@", 'I'));
+    Formatos(h, u,
+             {{"C11:C", ConFormato("#,##0", 'C')},
+              {"D11:D", ConFormato("#,##0.00")},
+              {"E11:F", ConFormato("#,##0.000")},
+              {"G11:H", ConFormato("#,##0.00")},
+              {"I11:I", ConFormato("#,##0")},
+              {"J11:J", ConFormato("@", 'I')}});
     // The lowest and the highest pressure, as the screen marks them.
     for (int f = 1; f <= g.Filas(); ++f) {
         const int marca = g.Cel(f, 6).colorFondo;
@@ -118,11 +112,9 @@ void HojaNodos(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) {
     h.TodosLosBordes(Rg("B11:J", u));
     h.TodosLosBordes(Rg("B10:J10"));
     if (o.inmovilizar) {
-        h.inmovilizarFila = 11;
-        h.inmovilizarColumna = 3;
+        h.Inmovilizar("C11");
     }
-    h.seleccionFila = 11;
-    h.seleccionColumna = 3;
+    h.Seleccionar("C11");
 }
 
 }  // namespace
@@ -135,23 +127,10 @@ std::vector<HojaLibro> HojasLibroAcueducto(const AnalisisACU& a, const ProyectoA
     const QString caso = QStringLiteral("Demanda: ( ") + a.Combo1.value(p.CasoDemanda - 1) + QStringLiteral(" )");
 
     std::vector<HojaLibro> hojas;
-    HojaLibro indice(QStringLiteral("INDICE GENERAL"));
-    if (o.indice) {
-        indice.AnchoColumnas(1, 1, 2);
-        indice.AnchoColumnas(2, 2, 48);
-        indice.AnchoColumnas(3, 5, 14);
-        PonerMarco(indice, {"C2:E2", "B2:B2", "B4:E4", "B6:B6", "B8:D8"}, cab,
-                   QStringLiteral("ÍNDICE GENERAL DEL ANÁLISIS DE LA RED DE ACUEDUCTOS"));
-        indice.Formato("B8:D8", [&](E& e) {
-            e.horizontal = 'C';
-            e.tamano = 12;
-            if (o.color) e.fondo = ColoresLibro::Encabezado;
-        });
-        indice.AltoFila(9, 20);
-        indice.seleccionFila = 9;
-        indice.seleccionColumna = 2;
-        hojas.push_back(indice);
-    }
+    if (o.indice)
+        hojas.push_back(HojaIndice({"C2:E2", "B2:B2", "B4:E4", "B6:B6", "B8:D8"}, cab,
+                                   QStringLiteral("ÍNDICE GENERAL DEL ANÁLISIS DE LA RED DE ACUEDUCTOS"), o.color,
+                                   {2, 48, 14, 14, 14}));
     const Grid* grids[2] = {&a.Spread1, &a.Spread2};
     int lineaIndice = 8;
     for (int k = 0; k < 2; ++k) {

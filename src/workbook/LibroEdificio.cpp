@@ -101,21 +101,18 @@ bool Distintas(const CeldaLibro& a, const CeldaLibro& b) {
 }
 
 void HojaPredimensionado(HojaLibro& h, const OpcionesLibro& o, int u) {
-    h.AnchoColumnas(1, 1, 6);
-    h.AnchoColumnas(2, 2, 7);
-    h.AnchoColumnas(3, 4, 11);
-    h.AnchoColumnas(5, 10, 13);
-    h.AnchoColumnas(11, 11, 40);
+    h.Anchos({6, 7, 11, 11, 13, 13, 13, 13, 13, 13, 40});
     Encabezados(h, "B10:K10", "C11:J11", true, true,
                 {"B10:B11", "C10:D10", "E10:E11", "F10:F11", "G10:H10", "I10:J10", "K10:K11"}, {});
     h.Formato("E10:E11", [](E& e) { e.ajustar = true; });
-    h.Formato(Rg("B12:D", u), Centrado);
-    h.Formato(Rg("E12:F", u), Derecha("#,##0.00"));
-    h.Formato(Rg("G12:G", u), Centrado);
-    h.Formato(Rg("H12:H", u), Derecha("#,##0.00"));
-    h.Formato(Rg("I12:I", u), Centrado);
-    h.Formato(Rg("J12:J", u), Derecha("#,##0.00"));
-    h.Formato(Rg("K12:K", u), Izquierda);
+    Formatos(h, u,
+             {{"B12:D", Centrado},
+              {"E12:F", Derecha("#,##0.00")},
+              {"G12:G", Centrado},
+              {"H12:H", Derecha("#,##0.00")},
+              {"I12:I", Centrado},
+              {"J12:J", Derecha("#,##0.00")},
+              {"K12:K", Izquierda}});
     // The assumed size (I) differs from the computed one (G).
     for (int f = 12; f <= u; ++f)
         if (Distintas(h.Celda(f, 7), h.Celda(f, 9))) h.Formato(Rango{f, 9, f, 9}, Fondo(43));
@@ -125,54 +122,41 @@ void HojaPredimensionado(HojaLibro& h, const OpcionesLibro& o, int u) {
     }
     h.TodosLosBordes(Rg("B12:K", u));
     for (const char* b : {"C10:D10", "G10:J10", "B11:K11"}) h.TodosLosBordes(Rg(b));
-    h.inmovilizarFila = 12;
-    h.inmovilizarColumna = 1;
-    h.seleccionFila = 12;
-    h.seleccionColumna = 3;
+    h.Inmovilizar("A12");
+    h.Seleccionar("C12");
 }
 
 void HojaUnidades(HojaLibro& h, const OpcionesLibro& o, int u) {
-    h.AnchoColumnas(1, 1, 6);
-    h.AnchoColumnas(2, 3, 11);
-    h.AnchoColumnas(4, 4, 42);
-    h.AnchoColumnas(5, 5, 10);
-    h.AnchoColumnas(6, 9, 13);
-    h.AnchoColumnas(10, 10, 10);
+    h.Anchos({6, 11, 11, 42, 10, 13, 13, 13, 13, 10});
     Encabezados(h, "B10:J10", "B11:H11", true, true, {"B10:C10", "D10:D11", "E10:H10", "I10:I11", "J10:J11"},
                 {"B10:C10", "E10:H10", "B11:J11"});
-    h.Formato(Rg("B12:C", u), Centrado);
-    h.Formato(Rg("D12:D", u), Izquierda);
-    h.Formato(Rg("E12:E", u), CentradoCon("#,##0"));
-    h.Formato(Rg("F12:I", u), Derecha("#,##0.00"));
-    h.Formato(Rg("J12:J", u), CentradoCon("#,##0"));
+    Formatos(h, u,
+             {{"B12:C", Centrado},
+              {"D12:D", Izquierda},
+              {"E12:E", CentradoCon("#,##0")},
+              {"F12:I", Derecha("#,##0.00")},
+              {"J12:J", CentradoCon("#,##0")}});
     BloquesRamales(h, u);
     if (o.color) {
         for (const char* c : {"B12:B", "C12:C", "J12:J"}) h.Formato(Rg(c, u), Fondo(41));
         h.Formato(Rg("I12:I", u), Fondo(42));
     }
-    h.inmovilizarFila = 12;
-    h.inmovilizarColumna = 1;
-    h.seleccionFila = 12;
-    h.seleccionColumna = 4;
+    h.Inmovilizar("A12");
+    h.Seleccionar("D12");
 }
 
 void HojaLongitudes(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) {
-    h.AnchoColumnas(1, 1, 6);
-    h.AnchoColumnas(2, 3, 11);
-    h.AnchoColumnas(4, 4, 42);
-    h.AnchoColumnas(5, 5, 13);
-    h.AnchoColumnas(6, 6, 8);
-    h.AnchoColumnas(7, 9, 13);
-    h.AnchoColumnas(10, 10, 10);
+    h.Anchos({6, 11, 11, 42, 13, 8, 13, 13, 13, 10});
     Encabezados(h, "B10:J10", "B11:I11", true, true,
                 {"B10:C10", "D10:D11", "E10:E11", "F10:F11", "G10:I10", "J10:J11"},
                 {"B10:C10", "G10:I10", "B11:J11"}, true);
-    h.Formato(Rg("B12:C", u), Centrado);
-    h.Formato(Rg("D12:D", u), Izquierda);
-    h.Formato(Rg("E12:E", u), Centrado);
-    h.Formato(Rg("F12:F", u), CentradoCon("#,##0"));
-    h.Formato(Rg("G12:I", u), CentradoCon("#,##0.00"));
-    h.Formato(Rg("J12:J", u), CentradoCon("#,##0"));
+    Formatos(h, u,
+             {{"B12:C", Centrado},
+              {"D12:D", Izquierda},
+              {"E12:E", Centrado},
+              {"F12:F", CentradoCon("#,##0")},
+              {"G12:I", CentradoCon("#,##0.00")},
+              {"J12:J", CentradoCon("#,##0")}});
     BloquesRamales(h, u);
     // A row the grid shows in red keeps its description and length in red.
     for (int f = 1; f <= g.Filas(); ++f)
@@ -187,29 +171,24 @@ void HojaLongitudes(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) 
         h.Formato(Rg("E12:E", u), Fondo(42));
         h.Formato(Rg("I12:I", u), Fondo(43));
     }
-    h.inmovilizarFila = 12;
-    h.inmovilizarColumna = 1;
-    h.seleccionFila = 12;
-    h.seleccionColumna = 4;
+    h.Inmovilizar("A12");
+    h.Seleccionar("D12");
 }
 
 void HojaPerdidas(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) {
-    h.AnchoColumnas(1, 1, 6);
-    h.AnchoColumnas(2, 2, 8);
-    h.AnchoColumnas(3, 4, 11);
-    h.AnchoColumnas(5, 16, 13);
-    h.AnchoColumnas(17, 17, 14);
+    h.Anchos({6, 8, 11, 11, 13, 13, 13, 13, 13, 13, 13, 13, 13, 13, 13, 13, 14});
     Encabezados(h, "B10:Q10", "C11:N11", o.color, o.color,
                 {"B10:B11", "C10:D10", "E10:E11", "F10:F11", "G10:I10", "J10:J11", "K10:L10", "M10:N10",
                  "O10:O11", "P10:P11", "Q10:Q11"},
                 {}, true);
-    h.Formato(Rg("B12:D", u), Centrado);
-    h.Formato(Rg("E12:E", u), Derecha("#,##0.00"));
-    h.Formato(Rg("F12:F", u), Centrado);
-    h.Formato(Rg("G12:J", u), Derecha("#,##0.00"));
-    h.Formato(Rg("K12:K", u), Derecha("#,##0.0000"));
-    h.Formato(Rg("L12:Q", u), Derecha("#,##0.00"));
-    h.Formato(Rg("Q12:Q", u), Letra(ColoresLibro::Rojo));
+    Formatos(h, u,
+             {{"B12:D", Centrado},
+              {"E12:E", Derecha("#,##0.00")},
+              {"F12:F", Centrado},
+              {"G12:J", Derecha("#,##0.00")},
+              {"K12:K", Derecha("#,##0.0000")},
+              {"L12:Q", Derecha("#,##0.00")},
+              {"Q12:Q", Letra(ColoresLibro::Rojo)}});
     if (o.color) {
         for (const char* c : {"C12:D", "Q12:Q"}) h.Formato(Rg(c, u), Fondo(41));
         h.Formato(Rg("F12:F", u), Fondo(42));
@@ -226,11 +205,9 @@ void HojaPerdidas(HojaLibro& h, const Grid& g, const OpcionesLibro& o, int u) {
     h.TodosLosBordes(Rg("B12:Q", u));
     for (const char* b : {"C10:D10", "G10:I10", "K10:N10", "B11:Q11"}) h.TodosLosBordes(Rg(b));
     if (o.inmovilizar) {
-        h.inmovilizarFila = 12;
-        h.inmovilizarColumna = 7;
+        h.Inmovilizar("G12");
     }
-    h.seleccionFila = 12;
-    h.seleccionColumna = 5;
+    h.Seleccionar("E12");
 }
 
 CabeceraLibro Cabecera(const ProyectoEdificio& p, const Sesion& s, const OpcionesLibro& o) {
@@ -242,24 +219,12 @@ CabeceraLibro Cabecera(const ProyectoEdificio& p, const Sesion& s, const Opcione
 
 // ColoqueIndiceExcel: the four lines are written whichever sheets go, so
 // that each sheet's line stays on its row.
-HojaLibro HojaIndice(const CabeceraLibro& cab, const OpcionesLibro& o) {
-    HojaLibro h(QStringLiteral("INDICE GENERAL"));
-    h.AnchoColumnas(1, 1, 6);
-    h.AnchoColumnas(2, 2, 62);
-    h.AnchoColumnas(3, 4, 14);
-    PonerMarco(h, {"C2:D2", "B2", "B4:K4", "B6:F6", "B8:D8"}, cab,
-               QStringLiteral("ÍNDICE GENERAL DEL ANÁLISIS Y DISEÑO DE LA RED DE FONTARIA"));
-    h.Formato("B8:D8", [&](E& e) {
-        e.horizontal = 'C';
-        e.tamano = 12;
-        if (o.color) e.fondo = ColoresLibro::Encabezado;
-    });
-    // The first line takes the place of the frame's narrow row.
-    h.AltoFila(9, 20);
+HojaLibro IndiceEdificio(const CabeceraLibro& cab, const OpcionesLibro& o) {
+    HojaLibro h = HojaIndice({"C2:D2", "B2", "B4:K4", "B6:F6", "B8:D8"}, cab,
+                             QStringLiteral("ÍNDICE GENERAL DEL ANÁLISIS Y DISEÑO DE LA RED DE FONTARIA"), o.color,
+                             {6, 62, 14, 14});
     for (int k = 0; k < 4; ++k)
         PonerEntradaIndice(h, 9 + k, QString::fromUtf8(kHojas[k].tituloIndice), QString::fromUtf8(kHojas[k].destino));
-    h.seleccionFila = 9;
-    h.seleccionColumna = 2;
     return h;
 }
 
@@ -270,7 +235,7 @@ std::vector<HojaLibro> HojasLibroEdificio(const AnalisisRed& a, const ProyectoEd
     const CabeceraLibro cab = Cabecera(p, s, o);
     std::vector<HojaLibro> hojas;
     if (progreso) progreso(25, QStringLiteral("CREANDO EL ÍNDICE GENERAL"));
-    if (o.indice) hojas.push_back(HojaIndice(cab, o));
+    if (o.indice) hojas.push_back(IndiceEdificio(cab, o));
     const Grid* grids[4] = {&a.Spread4, &a.Spread1, &a.Spread2, &a.Spread3};
     int hojasExcel = int(hojas.size());
     for (int k = 0; k < 4; ++k) {

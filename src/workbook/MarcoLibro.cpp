@@ -48,6 +48,26 @@ void PonerMarco(HojaLibro& h, const CeldasMarco& c, const CabeceraLibro& cab, co
     h.Unir(t);
 }
 
+void Formatos(HojaLibro& h, int ultima, std::initializer_list<FormatoRango> formatos) {
+    for (const FormatoRango& f : formatos) h.Formato(Rg(f.rango, ultima), f.cambio);
+}
+
+HojaLibro HojaIndice(const CeldasMarco& c, const CabeceraLibro& cab, const QString& titulo, bool color,
+                     std::initializer_list<double> anchos) {
+    HojaLibro h(QStringLiteral("INDICE GENERAL"));
+    h.Anchos(anchos);
+    PonerMarco(h, c, cab, titulo);
+    h.Formato(c.titulo, [color](EstiloLibro& e) {
+        e.horizontal = 'C';
+        e.tamano = 12;
+        if (color) e.fondo = ColoresLibro::Encabezado;
+    });
+    // The first line takes the place of the frame's narrow row.
+    h.AltoFila(9, 20);
+    h.Seleccionar("B9");
+    return h;
+}
+
 void PonerRetorno(HojaLibro& h, const char* celda, int filaIndice) {
     const Rango r = Rg(celda);
     h.PonerVinculo(r.fila1, r.columna1, QStringLiteral("'INDICE GENERAL'!B%1").arg(filaIndice),

@@ -51,6 +51,18 @@ constexpr int Subencabezado = 55;
 // sheet's title.
 void PonerMarco(HojaLibro& h, const CeldasMarco& c, const CabeceraLibro& cab, const QString& titulo,
                 int filasMarco = 11);
+// Formats of the data columns, each "B12:D" range down to the row `ultima`.
+struct FormatoRango {
+    const char* rango;
+    std::function<void(EstiloLibro&)> cambio;
+};
+void Formatos(HojaLibro& h, int ultima, std::initializer_list<FormatoRango> formatos);
+
+// The head of the sheet "INDICE GENERAL" with its title; the lines start at
+// row 9.
+HojaLibro HojaIndice(const CeldasMarco& c, const CabeceraLibro& cab, const QString& titulo, bool color,
+                     std::initializer_list<double> anchos);
+
 // "Retorno", linked to row `filaIndice` of the index sheet.
 void PonerRetorno(HojaLibro& h, const char* celda, int filaIndice);
 // The link of the index to a sheet, over B:D of row `fila`.
