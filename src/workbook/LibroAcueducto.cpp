@@ -127,6 +127,7 @@ std::vector<HojaLibro> HojasLibroAcueducto(const AnalisisACU& a, const ProyectoA
     const QString caso = QStringLiteral("Demanda: ( ") + a.Combo1.value(p.CasoDemanda - 1) + QStringLiteral(" )");
 
     std::vector<HojaLibro> hojas;
+    if (progreso && o.indice) progreso(25, QStringLiteral("CREANDO EL ÍNDICE GENERAL"));
     if (o.indice)
         hojas.push_back(HojaIndice({"C2:E2", "B2:B2", "B4:E4", "B6:B6", "B8:D8"}, cab,
                                    QStringLiteral("ÍNDICE GENERAL DEL ANÁLISIS DE LA RED DE ACUEDUCTOS"), o.color,
@@ -156,7 +157,6 @@ std::vector<HojaLibro> HojasLibroAcueducto(const AnalisisACU& a, const ProyectoA
             HojaNodos(h, *grids[k], o, u);
         hojas.push_back(std::move(h));
     }
-    if (progreso && o.indice) progreso(100, QStringLiteral("CREANDO EL ÍNDICE GENERAL"));
     return hojas;
 }
 

@@ -270,6 +270,7 @@ struct DatosRed {
     double longitud, extra;
     const char* tanque;
     double terreno, nivel;
+    const char* unidad;  // of the diameters, by OpcionDiametro
 };
 
 void HojasAcueducto(const LibroLeido& l, const OpcionesLibro& o, const DatosRed& r) {
@@ -291,6 +292,7 @@ void HojasAcueducto(const LibroLeido& l, const OpcionesLibro& o, const DatosRed&
         EXPECT_EQ(l.Inmovilizado(kRamales), QStringLiteral("C12"));
         EXPECT_EQ(l.Celda(kRamales, QStringLiteral("C12")).fondo, o.color ? kColor41 : QString());
         EXPECT_EQ(l.Celda(kRamales, QStringLiteral("E12")).Numero(), r.longitud);
+        EXPECT_EQ(l.Celda(kRamales, QStringLiteral("G11")).Texto(), QLatin1String(r.unidad));
         // Calculation length = real length plus the project's share.
         for (int f = 12; f <= l.UltimaFila(kRamales); ++f) {
             const double real = l.Celda(kRamales, Ref("E", f)).Numero();
@@ -326,8 +328,8 @@ void HojasAcueducto(const LibroLeido& l, const OpcionesLibro& o, const DatosRed&
 }  // namespace
 
 TEST(LibroAcueducto, AmbosEjemplosConCadaOpcion) {
-    const DatosRed redes[] = {{"EjemploRedA.nivo", 420, 5, "Tanque", 121.5, 127},
-                              {"EjemploRedB.nivo", 520, 10, "Estanque", 98, 102.5}};
+    const DatosRed redes[] = {{"EjemploRedA.nivo", 420, 5, "Tanque", 121.5, 127, "mm"},
+                              {"EjemploRedB.nivo", 520, 10, "Estanque", 98, 102.5, "plg"}};
     for (const DatosRed& r : redes)
         for (const char* locale : {"es_ES", "C"}) {
             RedAnalizada red(locale, QString::fromLatin1(r.nivo));
