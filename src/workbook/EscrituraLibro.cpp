@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <cstdio>
+#include <map>
 #include <unistd.h>
 #include <xlsxwriter.h>
 
@@ -53,24 +54,38 @@ lxw_error EscribirHoja(lxw_workbook* libro, const HojaLibro& h) {
     worksheet_set_default_row(w, h.altoPorDefecto, LXW_FALSE);
     for (int c = 1; c <= h.UltimaColumna() || h.AnchoColumna(c) > 0; ++c)
         if (h.AnchoColumna(c) > 0) worksheet_set_column(w, lxw_col_t(c - 1), lxw_col_t(c - 1), h.AnchoColumna(c), nullptr);
-    for (int f = 1; f <= h.UltimaFila(); ++f)
-        if (h.AltoFilaFijado(f) > 0) worksheet_set_row(w, lxw_row_t(f - 1), h.AltoFilaFijado(f), nullptr);
-    // Joined ranges first: the cells written after them keep their own
-    // borders and the first cell its value.
-    for (const Rango& r : h.Uniones()) {
-        const lxw_error e = worksheet_merge_range(w, lxw_row_t(r.fila1 - 1), lxw_col_t(r.columna1 - 1),
-                                                  lxw_row_t(r.fila2 - 1), lxw_col_t(r.columna2 - 1), "",
-                                                  formatos[size_t(h.Celda(r.fila1, r.columna1).estilo)]);
-        if (e != LXW_NO_ERROR) return e;
-    }
-    for (int f = 1; f <= h.UltimaFila(); ++f)
+    // The sheet goes out row by row, each row once (the writer keeps one
+    // row in memory): a joined range is declared as its last row starts,
+    // so that the cells written after it keep their own styles and the
+    // first cell, written earlier, its value.
+    std::vector<std::vector<const Rango*>> unionesQueAcaban(size_t(h.UltimaFila()) + 1);
+    for (const Rango& r : h.Uniones()) unionesQueAcaban[size_t(r.fila2)].push_back(&r);
+    std::map<std::pair<int, int>, const VinculoLibro*> vinculos;
+    for (const VinculoLibro& v : h.Vinculos()) vinculos[{v.fila, v.columna}] = &v;
+    for (int f = 1; f <= h.UltimaFila(); ++f) {
+        const lxw_row_t fila = lxw_row_t(f - 1);
+        const double alto = h.AltoFilaFijado(f);
+        // Setting the row sends the previous one out, which the joined
+        // ranges' first cells must then leave alone.
+        if (alto > 0 || !unionesQueAcaban[size_t(f)].empty())
+            worksheet_set_row(w, fila, alto > 0 ? alto : h.altoPorDefecto, nullptr);
+        for (const Rango* r : unionesQueAcaban[size_t(f)]) {
+            const lxw_error e = worksheet_merge_range(w, lxw_row_t(r->fila1 - 1), lxw_col_t(r->columna1 - 1), fila,
+                                                      lxw_col_t(r->columna2 - 1), "",
+                                                      formatos[size_t(h.Celda(r->fila1, r->columna1).estilo)]);
+            if (e != LXW_NO_ERROR) return e;
+        }
         for (int c = 1; c <= h.UltimaColumna(); ++c) {
             const CeldaLibro& celda = h.Celda(f, c);
             lxw_format* formato = formatos[size_t(celda.estilo)];
-            const lxw_row_t fila = lxw_row_t(f - 1);
             const lxw_col_t col = lxw_col_t(c - 1);
             lxw_error e = LXW_NO_ERROR;
-            if (celda.tipo == CeldaLibro::Numero)
+            const auto vinculo = vinculos.find({f, c});
+            if (vinculo != vinculos.end())
+                e = worksheet_write_url_opt(w, fila, col,
+                                            (QStringLiteral("internal:") + vinculo->second->destino).toUtf8().constData(),
+                                            formato, vinculo->second->texto.toUtf8().constData(), nullptr);
+            else if (celda.tipo == CeldaLibro::Numero)
                 e = worksheet_write_number(w, fila, col, celda.numero, formato);
             else if (celda.tipo == CeldaLibro::Texto)
                 e = worksheet_write_string(w, fila, col, celda.texto.toUtf8().constData(), formato);
@@ -78,13 +93,6 @@ lxw_error EscribirHoja(lxw_workbook* libro, const HojaLibro& h) {
                 e = worksheet_write_blank(w, fila, col, formato);
             if (e != LXW_NO_ERROR) return e;
         }
-    for (const VinculoLibro& v : h.Vinculos()) {
-        const QByteArray destino = (QStringLiteral("internal:") + v.destino).toUtf8();
-        const lxw_error e = worksheet_write_url_opt(w, lxw_row_t(v.fila - 1), lxw_col_t(v.columna - 1),
-                                                    destino.constData(),
-                                                    formatos[size_t(h.Celda(v.fila, v.columna).estilo)],
-                                                    v.texto.toUtf8().constData(), nullptr);
-        if (e != LXW_NO_ERROR) return e;
     }
     if (h.inmovilizarFila > 0 || h.inmovilizarColumna > 0)
         worksheet_freeze_panes(w, lxw_row_t(std::max(h.inmovilizarFila - 1, 0)),
@@ -110,6 +118,7 @@ bool EscribirLibro(const std::vector<HojaLibro>& hojas, const QString& archivo, 
     const QByteArray tmp = QDir::tempPath().toUtf8();
     opciones.tmpdir = const_cast<char*>(tmp.constData());
     opciones.use_zip64 = LXW_TRUE;
+    opciones.constant_memory = LXW_TRUE;
     lxw_workbook* libro = workbook_new_opt(RutaNativa(temporal).constData(), &opciones);
     if (!libro) {
         error = QStringLiteral("No se puede escribir el archivo: ") + archivo;

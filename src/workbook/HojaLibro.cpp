@@ -70,8 +70,12 @@ HojaLibro::HojaLibro(const QString& nombre) : nombre_(nombre), filas_(1), estilo
 CeldaLibro& HojaLibro::Asegurar(int fila, int columna) {
     if (fila >= int(filas_.size())) filas_.resize(size_t(fila) + 1);
     auto& f = filas_[size_t(fila)];
-    if (columna >= int(f.size())) f.resize(size_t(columna) + 1);
     columnas_ = std::max(columnas_, columna);
+    // A row is filled left to right: it takes the sheet's width at once.
+    if (columna >= int(f.size())) {
+        f.reserve(size_t(columnas_) + 1);
+        f.resize(size_t(columna) + 1);
+    }
     return f[size_t(columna)];
 }
 

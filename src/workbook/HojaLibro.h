@@ -45,10 +45,10 @@ QString Referencia(int fila, int columna);
 
 struct CeldaLibro {
     enum Tipo : unsigned char { Vacia, Numero, Texto };
-    Tipo tipo = Vacia;
-    double numero = 0.0;
     QString texto;
+    double numero = 0.0;
     int estilo = 0;
+    Tipo tipo = Vacia;
 };
 
 struct VinculoLibro {

@@ -176,6 +176,10 @@ void Apartamento(const LibroLeido& l, const OpcionesLibro& o) {
     if (o.hojas[1]) {
         EXPECT_EQ(l.Celda(kUnidades, QStringLiteral("H12")).Numero(), 24.0);
         EXPECT_EQ(l.Celda(kUnidades, QStringLiteral("D14")).Texto(), QStringLiteral("FREGADERO"));
+        // The kitchen's two rows under its nodes, joined.
+        EXPECT_EQ(l.Celda(kUnidades, QStringLiteral("B14")).Texto(), QStringLiteral("COCINA"));
+        EXPECT_EQ(l.Celda(kUnidades, QStringLiteral("C14")).Texto(), QStringLiteral("PASILLO"));
+        EXPECT_TRUE(l.Uniones(kUnidades).contains(QStringLiteral("B14:B15")));
         EXPECT_EQ(l.Celda(kUnidades, QStringLiteral("H14")).Numero(), 11.0);
     }
     if (o.hojas[2]) {
