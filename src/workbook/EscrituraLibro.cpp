@@ -102,6 +102,18 @@ lxw_error EscribirHoja(lxw_workbook* libro, const HojaLibro& h) {
     return LXW_NO_ERROR;
 }
 
+// Why the writer stopped, for the engineer.
+QString Motivo(lxw_error e) {
+    switch (e) {
+    case LXW_NO_ERROR: return QString();  // the rename failed
+    case LXW_ERROR_CREATING_XLSX_FILE: return QStringLiteral(" (la carpeta no admite archivos nuevos)");
+    case LXW_ERROR_CREATING_TMPFILE: return QStringLiteral(" (no se pudo crear un archivo temporal)");
+    case LXW_ERROR_ZIP_FILE_OPERATION: return QStringLiteral(" (el disco está lleno o no se puede escribir)");
+    case LXW_ERROR_MEMORY_MALLOC_FAILED: return QStringLiteral(" (falta memoria)");
+    default: return QStringLiteral(" (error del escritor de libros: %1)").arg(QString::fromUtf8(lxw_strerror(e)));
+    }
+}
+
 }  // namespace
 
 bool EscribirLibro(const std::vector<HojaLibro>& hojas, const QString& archivo, QString& error) {
@@ -131,7 +143,6 @@ bool EscribirLibro(const std::vector<HojaLibro>& hojas, const QString& archivo, 
     if (e == LXW_NO_ERROR) e = cierre;
     if (e == LXW_NO_ERROR && ReemplazarArchivo(temporal, archivo)) return true;
     std::remove(RutaNativa(temporal).constData());
-    error = QStringLiteral("No se puede escribir el archivo: %1 (%2)").arg(archivo, QString::fromUtf8(lxw_strerror(e)));
-    if (e == LXW_NO_ERROR) error = QStringLiteral("No se puede escribir el archivo: ") + archivo;
+    error = QStringLiteral("No se puede escribir el archivo: ") + archivo + Motivo(e);
     return false;
 }
