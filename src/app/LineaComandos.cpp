@@ -21,7 +21,9 @@ const char* Uso() {
            "  acueducto X.acu --corregir-direccion      invierte los ramales de caudal negativo\n"
            "  acueducto exportar X.acu | importar datos.json X.acu\n"
            "  reporte X.plm|X.acu --plantilla NOMBRE --salida ARCHIVO.pdf|.html|.xlsx|.rtf [--color] [--caso N]\n"
-           "                                            un reporte escrito sin ventana\n";
+           "                                            un reporte escrito sin ventana\n"
+           "  libro X.plm|X.acu [--caso N] --salida libro.xlsx [--sin-indice] [--sin-color]\n"
+           "                                            el libro de Excel de los resultados\n";
 }
 
 }  // namespace
@@ -75,6 +77,7 @@ int EjecutarLineaComandos(const QStringList& args) {
     if (verbo == QLatin1String("computos")) return VerboComputos(args);
     if (verbo == QLatin1String("acueducto")) return VerboAcueducto(args);
     if (verbo == QLatin1String("reporte")) return VerboReporte(args);
+    if (verbo == QLatin1String("libro")) return VerboLibro(args);
     if (verbo == QLatin1String("--help") || verbo == QLatin1String("ayuda")) {
         Imprimir(QString::fromUtf8(Uso()));
         return Salida::Bien;

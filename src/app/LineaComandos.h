@@ -56,3 +56,4 @@ int VerboTanque(const QStringList& args);
 int VerboComputos(const QStringList& args);
 int VerboAcueducto(const QStringList& args);
 int VerboReporte(const QStringList& args);
+int VerboLibro(const QStringList& args);

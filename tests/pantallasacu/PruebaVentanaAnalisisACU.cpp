@@ -69,11 +69,8 @@ TEST_F(AnalisisPantalla, ElEjemploAResuelveAlAbrirYMuestraSusColumnas) {
     EXPECT_TRUE(v->LRamal()->isEnabled());
     EXPECT_EQ(v->LNodo()->text(), QStringLiteral("Tanque"));
     EXPECT_FALSE(v->LNodo()->isEnabled());
-    for (const char* b : {"LSButton4", "LSButton8"}) {
-        EXPECT_TRUE(Boton(b)->isVisibleTo(v.get())) << b;
-        // The workbook is still to come; the reports are here.
-        EXPECT_EQ(Boton(b)->isEnabled(), QLatin1String(b) == QLatin1String("LSButton8")) << b;
-    }
+    EXPECT_TRUE(Boton("LSButton4")->isEnabled());
+    EXPECT_TRUE(Boton("LSButton8")->isEnabled());
 
     VistaGrid* r = v->Vista1();
     ASSERT_EQ(r->model()->rowCount(), 26);

@@ -9,6 +9,8 @@
 #include "widgets/NivoToolTip.h"
 #include "widgets/Ventanas.h"
 #include "widgets/VistaGrid.h"
+#include "workbook/LibroEdificio.h"
+#include "workbook/screens/VentanaOpcionExcel.h"
 
 #include <QGroupBox>
 #include <QHeaderView>
@@ -141,8 +143,8 @@ QWidget* VentanaAnalisisRed::Botonera() {
     for (const auto& b : botones)
         capa->addWidget(BotonNivo(QString::fromLatin1(b.nombre), QString::fromUtf8(b.texto), pie, b.icono));
 
-    // The screens of the listing and the workbook are still to come.
-    for (const char* n : {"LSButton4", "LSButton8"})
+    // The screen of the listing is still to come.
+    for (const char* n : {"LSButton8"})
         Boton(QString::fromLatin1(n))->setEnabled(false);
     connect(Boton(QStringLiteral("LSButton3")), &QPushButton::clicked, this, &VentanaAnalisisRed::ImprimirResultados);
 
@@ -165,6 +167,7 @@ QWidget* VentanaAnalisisRed::Botonera() {
             {1, 2, 3, 4});
     });
     connect(Boton(QStringLiteral("LSButton9")), &QPushButton::clicked, this, &VentanaAnalisisRed::AbrirComentario);
+    connect(Boton(QStringLiteral("LSButton4")), &QPushButton::clicked, this, &VentanaAnalisisRed::ExportarExcel);
     connect(Boton(QStringLiteral("LSButton11")), &QPushButton::clicked, this, &VentanaAnalisisRed::EditarRed);
     connect(Boton(QStringLiteral("LSButton1")), &QPushButton::clicked, this, &QDialog::accept);
     return pie;
@@ -214,6 +217,21 @@ void VentanaAnalisisRed::MostrarEstado() {
     double1_->PonerValor(logica_.Double1);
     Boton(QStringLiteral("LSButton2"))->setEnabled(logica_.LSButton2Disponible());
     Boton(QStringLiteral("LSButton9"))->setEnabled(logica_.LSButton9Disponible());
+}
+
+void VentanaAnalisisRed::ExportarExcel() {
+    VistaGrid* vista = vistas_[tab_->Tab() - 1];
+    vista->TerminarEdicion();
+    ExportarLibroExcel(this, s_, d_, false,
+                       [this, vista](const OpcionesLibro& o, const QString& archivo, QString& error,
+                                     const ProgresoLibro& progreso) {
+                           // The grid hides while the workbook reads it.
+                           vista->hide();
+                           const bool escrito = ExportarPantallaExcel(logica_, p_, s_, o, archivo, error, progreso);
+                           vista->show();
+                           vista->setFocus();
+                           return escrito;
+                       });
 }
 
 void VentanaAnalisisRed::AbrirComentario() {

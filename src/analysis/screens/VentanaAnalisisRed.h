@@ -55,6 +55,8 @@ private:
     void AbrirComentario();
     // LSButton3: the result reports of what the grids show.
     void ImprimirResultados();
+    // LSButton4: the results workbook.
+    void ExportarExcel();
     // Runs an event of the logic and draws the grids of the tabs given; a
     // fault of the calculation is shown and the screen closes.
     void Evento(const std::function<void()>& f, std::initializer_list<int> tabs);

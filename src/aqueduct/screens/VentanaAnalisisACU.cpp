@@ -7,6 +7,8 @@
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
 #include "widgets/VistaGrid.h"
+#include "workbook/LibroAcueducto.h"
+#include "workbook/screens/VentanaOpcionExcel.h"
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -83,8 +85,16 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
         Accion([this] { logica_.AbrirProyecto(); });
         CerrarSiHaceFalta();
     });
-    // The aqueduct workbook is not built yet: its button shows, disabled.
-    boton("LSButton4", "Exportar a Excel", [] {})->setEnabled(false);
+    boton("LSButton4", "Exportar a Excel", [this] {
+        // Only a screen with results has anything to export.
+        if (!logica_.TieneFilas()) return;
+        ExportarLibroExcel(this, s_, d_, true,
+                           [this](const OpcionesLibro& o, const QString& archivo, QString& error,
+                                  const ProgresoLibro& progreso) {
+                               return ExportarPantallaExcel(logica_, p_, s_, o, archivo, error, progreso);
+                           });
+        EnfocarGrid();
+    });
     boton("LSButton8", "Imprimir el Análisis", [this] {
         VentanaImpreAcueducto impre(p_, s_, d_, this);
         impre.exec();
