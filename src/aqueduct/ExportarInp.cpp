@@ -63,21 +63,24 @@ QString Comentario(const QStringList& campos, const QString& nombre, const QStri
 
 }  // namespace
 
-QStringList NombresValidos(const QStringList& nombres, int largo, const QString& que, QStringList& informe) {
+QStringList NombresValidos(const QStringList& nombres, int largo, bool identificador, const QString& que,
+                           QStringList& informe) {
     QStringList res;
     QSet<QString> usados;
+    auto clave = [&](const QString& n) { return identificador ? n.toUpper() : n; };
     for (int k = 0; k < nombres.size(); ++k) {
         QString n = Trim(nombres[k]);
-        for (QChar& c : n)
-            if (c.isSpace() || c == QLatin1Char(';') || c == QLatin1Char('"')) c = QLatin1Char('_');
+        if (identificador)
+            for (QChar& c : n)
+                if (c.isSpace() || c == QLatin1Char(';') || c == QLatin1Char('"')) c = QLatin1Char('_');
         if (n.isEmpty()) n = QStringLiteral("N%1").arg(k + 1);
         n = n.left(largo);
         const QString base = n;
-        for (int i = 2; usados.contains(n.toUpper()); ++i) {
+        for (int i = 2; usados.contains(clave(n)); ++i) {
             const QString sufijo = QStringLiteral("~%1").arg(i);
             n = base.left(largo - sufijo.size()) + sufijo;
         }
-        usados.insert(n.toUpper());
+        usados.insert(clave(n));
         if (n != nombres[k])
             informe << QStringLiteral("%1 «%2» → «%3»").arg(que, nombres[k], n);
         res << n;
@@ -92,7 +95,7 @@ QString TextoInp(const ProyectoAcueducto& p, QStringList& informe) {
 
     QStringList nombres;
     for (int n = 1; n <= p.NumeroNodosACU; ++n) nombres << p.Nodos.Leer(n);
-    const QStringList ids = NombresValidos(nombres, LargoIdentificador, QStringLiteral("Nodo"), informe);
+    const QStringList ids = NombresValidos(nombres, LargoIdentificador, true, QStringLiteral("Nodo"), informe);
     auto id = [&](const QString& nombre) {
         const int k = int(nombres.indexOf(Trim(nombre)));
         return k >= 0 ? ids[k] : nombre;

@@ -22,11 +22,13 @@
 struct ProyectoAcueducto;
 struct Sesion;
 
-// Names made valid and unique: blanks, ';' and '"' become '_', an empty name
-// becomes "N" with its position, a name is cut to `largo` characters and a
-// repeated one (regardless of case) takes "~2", "~3"...  Each name changed is
-// reported in `informe` as `que` "«antes» → «después»".
-QStringList NombresValidos(const QStringList& nombres, int largo, const QString& que, QStringList& informe);
+// Names made valid and unique: an empty name becomes "N" with its position,
+// a name is cut to `largo` characters and a repeated one takes "~2", "~3"...
+// For identifiers of the format (`identificador`) blanks, ';' and '"' become
+// '_' and names that differ only in case count as repeated.  Each name
+// changed is reported in `informe` as `que` "«antes» → «después»".
+QStringList NombresValidos(const QStringList& nombres, int largo, bool identificador, const QString& que,
+                           QStringList& informe);
 
 // The text of the file.  `informe` lists the identifiers changed and what
 // the other program would refuse (no fixed head, a zero length...).

@@ -113,7 +113,8 @@ private:
 };
 
 bool Lector::Partir(const QString& texto) {
-    const QStringList lineas = texto.split(QLatin1Char('\n'));
+    QStringList lineas = texto.split(QLatin1Char('\n'));
+    if (lineas.size() > 1 && lineas.back().isEmpty()) lineas.removeLast();  // the final line feed
     QString actual;
     for (int k = 0; k < lineas.size(); ++k) {
         const int n = k + 1;
@@ -646,7 +647,7 @@ bool ConvertirInp(const RedInp& red, const OpcionesInp& o, ProyectoAcueducto& p,
         nombresPedidos << Extra(n.extras, QStringLiteral("Nombre")).value_or(n.id);
     }
     QStringList cambios;
-    const QStringList nombres = NombresValidos(nombresPedidos, LargoNombreNodo, QStringLiteral("Nodo"), cambios);
+    const QStringList nombres = NombresValidos(nombresPedidos, LargoNombreNodo, false, QStringLiteral("Nodo"), cambios);
     for (int k = 0; k < nombres.size(); ++k)
         if (nombres[k] != nombresPedidos[k])
             avisos << QStringLiteral("Nombre del nodo «%1» cambiado a «%2» (el modelo admite %3 caracteres sin "
