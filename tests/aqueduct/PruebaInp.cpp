@@ -9,6 +9,7 @@
 #include "aqueduct/ArchivoAcueducto.h"
 #include "aqueduct/ExportarInp.h"
 #include "aqueduct/ImportarInp.h"
+#include "aqueduct/MenuInp.h"
 #include "aqueduct/SolverMalla.h"
 #include "store/Conexion.h"
 
@@ -258,4 +259,33 @@ TEST(Inp, LineaDeComandos) {
     EXPECT_EQ(EjecutarPrograma({"acueducto", "importar-inp", mal, sp.Datos("mal.acu")}, &salida, &errores, entorno), 1);
     EXPECT_TRUE(errores.startsWith("Línea 2: el archivo termina sin la sección [JUNCTIONS]")) << errores.toStdString();
     EXPECT_FALSE(QFile::exists(sp.Datos("mal.acu")));
+}
+
+TEST(Inp, ComandosDelMenu) {
+    SesionPrueba sp;
+    DialogosFalsos d;
+    ProyectoAcueducto acu;
+    const QString inp = EscribirArchivo(sp.Datos("us.inp"), RedUS);
+    const QString acuNuevo = sp.Datos("us.acu");
+    // The pump question answered yes; the file dialogs choose the two files.
+    d.archivos = {inp, acuNuevo};
+    d.respuestas = {Respuesta::Si};
+    ASSERT_TRUE(ImportarRedInpMenu(acu, sp.s, d)) << d.Ultimo().texto.toStdString();
+    EXPECT_TRUE(d.mensajes[0].texto.startsWith("La Red tiene Bombas que toman de un Embalse."));
+    EXPECT_EQ(d.Ultimo().encabezado, "Importar Red EPANET (.inp)...");
+    EXPECT_TRUE(d.Ultimo().texto.contains("Válvula «V1» (PRV)"));
+    EXPECT_EQ(sp.s.ArchivoProyectoACU, acuNuevo);
+    EXPECT_NEAR(acu.CotaBombaEstanque[Nodo(acu, "J1")], 228.6, 1e-9);
+
+    d.archivos = {sp.Datos("vuelta.inp")};
+    ASSERT_TRUE(ExportarRedInpMenu(sp.s, d));
+    EXPECT_EQ(d.Ultimo().texto, "Red Exportada: vuelta.inp");
+    EXPECT_EQ(sp.s.ArchivoProyectoACU, acuNuevo);
+
+    // A malformed file is shown and asks for no target.
+    d.archivos = {EscribirArchivo(sp.Datos("mal.inp"), "[JUNCTIONS]\nA 1\n")};
+    EXPECT_FALSE(ImportarRedInpMenu(acu, sp.s, d));
+    EXPECT_EQ(d.Ultimo().texto, "mal.inp\nLínea 2: el archivo termina sin la sección [PIPES].");
+    EXPECT_TRUE(d.archivos.empty());
+    EXPECT_EQ(sp.s.ArchivoProyectoACU, acuNuevo);
 }
