@@ -111,8 +111,9 @@ void DatosAcueducto::ConfigurarSpread() {
     FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 12);
     FormatoColumna(Spread2, NDireccion, TipoCelda::Texto, 0, 40);
     // Typed as text, so that a blank cell reaches the logic as "none".
+    Spread2.PonerEncabezado(1, NX, QStringLiteral("Coordenadas"));
+    Spread2.UnirEncabezado(1, NX, 1, 2);
     for (const int c : {int(NX), int(NY)}) {
-        Spread2.PonerEncabezado(1, c, QStringLiteral("Coordenada"));
         Spread2.PonerEncabezado(2, c, c == NX ? QStringLiteral("X m") : QStringLiteral("Y m"));
         FormatoColumna(Spread2, c, TipoCelda::Texto, 3, 11, false);
     }
