@@ -511,10 +511,14 @@ void Lector::Otras() {
             QStringList ids;
             for (const Linea& l : s.lineas) ids << l.campos[0];
             red_.omitidos << QStringLiteral("Emisores en los nodos: ") + ids.join(QStringLiteral(", ")) + QLatin1Char('.');
-        } else if (nombre == QLatin1String("TIMES") || nombre == QLatin1String("REPORT") ||
-                   nombre == QLatin1String("BACKDROP")) {
-            // Simulation times, report layout and map backdrop: nothing of
-            // the network.
+        } else if (nombre == QLatin1String("TIMES")) {
+            for (const Linea& l : s.lineas)
+                if (l.campos[0].toUpper() == QLatin1String("DURATION") &&
+                    !QRegularExpression(QStringLiteral("^0*(\\.0*)?(:0*)*$")).match(l.campos.value(1)).hasMatch())
+                    red_.omitidos << QStringLiteral("Simulación de %1 horas: se importa un solo período.")
+                                         .arg(l.campos.value(1));
+        } else if (nombre == QLatin1String("REPORT") || nombre == QLatin1String("BACKDROP")) {
+            // Report layout and map backdrop: nothing of the network.
         } else {
             red_.omitidos << QStringLiteral("Sección [%1]: %2 líneas.").arg(nombre).arg(s.lineas.size());
         }

@@ -80,6 +80,8 @@ const char* RedUS = "[TITLE]\r\n"
                     "C1  1000  50\r\n"
                     "[PATTERNS]\r\n"
                     "PAT1  1.0  1.2  0.8\r\n"
+                    "[TIMES]\r\n"
+                    "Duration  24:00\r\n"
                     "[CONTROLS]\r\n"
                     "LINK P2 CLOSED IF NODE T1 BELOW 5\r\n"
                     "[OPTIONS]\r\n"
@@ -157,7 +159,7 @@ TEST(Inp, UnidadesUSYElementosQueElModeloNoTiene) {
     const QString texto = TextoInforme(informe);
     for (const char* falta : {"Patrón «PAT1»", "Bomba «PU1» entre «R1» y «J1»", "Válvula «V1» (PRV)", "Curvas: C1",
                               "Patrones de tiempo: PAT1", "Controles: 1", "Pérdida menor 0.50 de la tubería «P1»",
-                              "Tubería cerrada «P4»", "une a la red: R1", "«P1» (130.50 → 131)",
+                              "Tubería cerrada «P4»", "une a la red: R1", "Simulación de 24:00 horas", "«P1» (130.50 → 131)",
                               "El tanque «T1» se toma como nivel fijo"})
         EXPECT_TRUE(texto.contains(QString::fromUtf8(falta))) << falta << "\n" << texto.toStdString();
 
