@@ -61,6 +61,14 @@ QString Comentario(const QStringList& campos, const QString& nombre, const QStri
     return c.isEmpty() ? QString() : QStringLiteral("\t;Fontaria ") + c.join(QLatin1Char(' '));
 }
 
+// A node with X but no Y, or Y but no X, has no line in [COORDINATES].
+QStringList CoordenadaSola(const ProyectoAcueducto& p, int n) {
+    const auto x = p.X.Leer(n), y = p.Y.Leer(n);
+    if (x && !y) return {QStringLiteral("X=") + Num(*x)};
+    if (y && !x) return {QStringLiteral("Y=") + Num(*y)};
+    return {};
+}
+
 }  // namespace
 
 QStringList NombresValidos(const QStringList& nombres, int largo, bool identificador, const QString& que,
@@ -109,7 +117,7 @@ QString TextoInp(const ProyectoAcueducto& p, QStringList& informe) {
             ++fijos;
             continue;
         }
-        QStringList extra;
+        QStringList extra = CoordenadaSola(p, n);
         if (tanque != 0) extra << QStringLiteral("CotaBombaEstanque=") + Num(tanque);
         o << ids[n - 1] << '\t' << Num(p.CotaTerreno.Leer(n)) << '\t' << Num(p.ConsumoMedio.Leer(n))
           << Comentario(extra, nombres[n - 1], ids[n - 1]) << '\n';
@@ -119,8 +127,9 @@ QString TextoInp(const ProyectoAcueducto& p, QStringList& informe) {
     o << "\n[RESERVOIRS]\n;ID\tHead\n";
     for (int n = 1; n <= p.NumeroNodosACU; ++n) {
         if (!(p.CotaBombaEstanque.Leer(n) > 0)) continue;
-        const QStringList extra{QStringLiteral("CotaTerreno=") + Num(p.CotaTerreno.Leer(n)),
-                                QStringLiteral("ConsumoMedio=") + Num(p.ConsumoMedio.Leer(n))};
+        const QStringList extra = CoordenadaSola(p, n) + QStringList{
+                                      QStringLiteral("CotaTerreno=") + Num(p.CotaTerreno.Leer(n)),
+                                      QStringLiteral("ConsumoMedio=") + Num(p.ConsumoMedio.Leer(n))};
         o << ids[n - 1] << '\t' << Num(p.CotaBombaEstanque.Leer(n)) << Comentario(extra, nombres[n - 1], ids[n - 1])
           << '\n';
     }

@@ -774,6 +774,8 @@ bool ConvertirInp(const RedInp& red, const OpcionesInp& o, ProyectoAcueducto& p,
         if (const auto v = ExtraNumero(x.extras, QStringLiteral("CotaTerreno"))) p.CotaTerreno[n] = *v;
         if (const auto v = ExtraNumero(x.extras, QStringLiteral("ConsumoMedio"))) p.ConsumoMedio[n] = *v;
         if (const auto v = ExtraNumero(x.extras, QStringLiteral("CotaBombaEstanque"))) p.CotaBombaEstanque[n] = *v;
+        if (const auto v = ExtraNumero(x.extras, QStringLiteral("X"))) p.X[n] = *v;
+        if (const auto v = ExtraNumero(x.extras, QStringLiteral("Y"))) p.Y[n] = *v;
     }
     if (!sueltos.isEmpty())
         omitidos << QStringLiteral("Nodos que ninguna tubería abierta une a la red: ") +

@@ -108,6 +108,7 @@ TEST(Inp, ExportarEImportarDaElMismoProyecto) {
         p.Y[1] = -20.5;
         p.X[2] = 0.0;
         p.Y[2] = 3.0;
+        p.Y[3] = 7.25;  // alone
         if (QLatin1String(ejemplo) == QLatin1String("EjemploRedB")) {
             p.OpcionDiametro = 3;
             p.Diametro[1] = 6.065;
