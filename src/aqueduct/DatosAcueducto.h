@@ -123,9 +123,8 @@ public:
     // A value typed into a cell.  Spread1 columns 1-6 write their array (1
     // and 2 trimmed) and run RecalculeNodos; Spread2 columns 2-4 write the
     // node's data, 7-8 its coordinates (a blank text clears one).  False,
-    // with nothing changed, for a locked or read-only
-    // cell or a text that is not a number in a numeric column (its reason
-    // shown).
+    // with nothing changed, for a locked or read-only cell or a text that is
+    // not a number in a numeric column (its reason shown).
     bool EditarRamal(int fila, int columna, const QString& texto);
     // The same with a number, for the numeric columns 3 to 6.
     bool EditarRamal(int fila, int columna, double valor);
