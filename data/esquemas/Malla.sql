@@ -7,8 +7,11 @@ CREATE TABLE Generales (
   DeltaPorcentaje REAL, FactorQMax REAL, FactorIncendio REAL, LitrosIncendio REAL,
   NumeroTramos INTEGER, Usuario TEXT
 );
+-- X and Y (metres, null when the node has none) come last and may be missing
+-- in files of earlier versions: readers look for them by name.
 CREATE TABLE Nodos (
-  Numero INTEGER, Nodos TEXT, ConsumoMedio REAL, CotaTerreno REAL, CotaBombaEstanque REAL
+  Numero INTEGER, Nodos TEXT, ConsumoMedio REAL, CotaTerreno REAL, CotaBombaEstanque REAL,
+  X REAL, Y REAL
 );
 CREATE INDEX Nodos_Numero ON Nodos (Numero);
 CREATE TABLE Tramos (

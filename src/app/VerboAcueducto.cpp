@@ -1,12 +1,16 @@
 // fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]
 //                          [--limite-iteraciones N]  (for tests: a pass that does not converge)
 // fontaria acueducto exportar X.acu | importar datos.json X.acu
+// fontaria acueducto importar-inp red.inp X.acu [--bomba-como-carga] [--c-por-defecto]
+// fontaria acueducto exportar-inp X.acu red.inp
 
 #include "app/LineaComandos.h"
 #include "aqueduct/AcueductoJson.h"
 #include "aqueduct/AnalisisACU.h"
 #include "aqueduct/ArchivoAcueducto.h"
 #include "aqueduct/CasosDemanda.h"
+#include "aqueduct/ExportarInp.h"
+#include "aqueduct/ImportarInp.h"
 #include "aqueduct/ProyectoAcueducto.h"
 #include "aqueduct/SolverMalla.h"
 #include "model/EscritorJson.h"
@@ -37,7 +41,9 @@ private:
 
 const char* UsoAcueducto() {
     return "Uso: fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]\n"
-           "     fontaria acueducto exportar X.acu | importar datos.json X.acu";
+           "     fontaria acueducto exportar X.acu | importar datos.json X.acu\n"
+           "     fontaria acueducto importar-inp red.inp X.acu [--bomba-como-carga] [--c-por-defecto]\n"
+           "     fontaria acueducto exportar-inp X.acu red.inp";
 }
 
 struct Opciones {
@@ -154,6 +160,44 @@ int Analizar(const Opciones& o) {
     return p.SinConvergencia() ? Salida::SinConvergencia : Salida::Bien;
 }
 
+// The exchange-format import: the report of what was left out goes to
+// stdout, a refusal to stderr.
+int ImportarRedInp(const QStringList& args) {
+    OpcionesInp o;
+    QStringList archivos;
+    for (int i = 3; i < args.size(); ++i) {
+        if (args[i] == QLatin1String("--bomba-como-carga"))
+            o.bombaComoCarga = true;
+        else if (args[i] == QLatin1String("--c-por-defecto"))
+            o.cPorDefecto = true;
+        else if (args[i].startsWith(QLatin1String("--")))
+            return Fallar(QStringLiteral("Argumento desconocido: ") + args[i]);
+        else
+            archivos << args[i];
+    }
+    if (archivos.size() != 2) return Fallar(QString::fromUtf8(UsoAcueducto()));
+    Sesion s;
+    PrepararSesion(s);
+    const Borrador borrador(s, true);
+    QStringList informe;
+    QString error;
+    if (!ImportarInp(archivos[0], archivos[1], o, s, informe, error)) return Fallar(error);
+    Imprimir(TextoInforme(informe));
+    return Salida::Bien;
+}
+
+int ExportarRedInp(const QStringList& args) {
+    Sesion s;
+    PrepararSesion(s);
+    const Borrador borrador(s, true);
+    QStringList informe;
+    QString error;
+    if (!ExportarInp(args[3], args[4], s, informe, error)) return Fallar(error);
+    if (!informe.isEmpty()) Imprimir(QStringLiteral("Identificadores cambiados y avisos:\n  - ") +
+                                     informe.join(QStringLiteral("\n  - ")));
+    return Salida::Bien;
+}
+
 }  // namespace
 
 int VerboAcueducto(const QStringList& args) {
@@ -174,6 +218,8 @@ int VerboAcueducto(const QStringList& args) {
         if (!ImportarAcueducto(args[3], args[4], s, error)) return Fallar(error);
         return Salida::Bien;
     }
+    if (args.size() >= 3 && args[2] == QLatin1String("importar-inp")) return ImportarRedInp(args);
+    if (args.size() == 5 && args[2] == QLatin1String("exportar-inp")) return ExportarRedInp(args);
     Opciones o;
     if (!LeerOpciones(args, o, error)) return Fallar(error);
     return Analizar(o);

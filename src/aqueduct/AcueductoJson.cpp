@@ -13,6 +13,7 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QtNumeric>
 
 namespace {
 
@@ -89,6 +90,13 @@ bool LeerTramos(const QJsonArray& tramos, ProyectoAcueducto& p, QString& error) 
     return true;
 }
 
+// An optional coordinate: absent or null is none.
+void LeerCoordenada(LectorJson& l, const char* clave, std::optional<double>& destino) {
+    double v = qQNaN();
+    l.Doble(clave, v);
+    if (!qIsNaN(v)) destino = v;
+}
+
 // Node data by name onto the nodes the numbering found.
 bool LeerNodos(const QJsonArray& nodos, ProyectoAcueducto& p, QString& error) {
     if (!ObjetosDeLista(nodos, 32767, "nodo", "nodos", error)) return false;
@@ -121,6 +129,8 @@ bool LeerNodos(const QJsonArray& nodos, ProyectoAcueducto& p, QString& error) {
         l.Doble("ConsumoMedio", p.ConsumoMedio[n]);
         l.Doble("CotaTerreno", p.CotaTerreno[n]);
         l.Doble("CotaBombaEstanque", p.CotaBombaEstanque[n]);
+        LeerCoordenada(l, "X", p.X[n]);
+        LeerCoordenada(l, "Y", p.Y[n]);
         if (!l.Bien()) return false;
     }
     return true;
@@ -144,6 +154,8 @@ QJsonObject NodoJson(const ProyectoAcueducto& p, int n) {
     r[QStringLiteral("ConsumoMedio")] = p.ConsumoMedio.Leer(n);
     r[QStringLiteral("CotaTerreno")] = p.CotaTerreno.Leer(n);
     r[QStringLiteral("CotaBombaEstanque")] = p.CotaBombaEstanque.Leer(n);
+    if (const auto x = p.X.Leer(n)) r[QStringLiteral("X")] = *x;
+    if (const auto y = p.Y.Leer(n)) r[QStringLiteral("Y")] = *y;
     return r;
 }
 

@@ -6,7 +6,7 @@
 // A project: "Generales" (the columns of the file's table), "Tramos" (each
 // with Inicio, Final, Longitud, Diametro, CoeficienteC, Demanda, in order)
 // and "Nodos" (each with the name Nodos and ConsumoMedio, CotaTerreno,
-// CotaBombaEstanque).  Nodes are matched by name to the nodes the sections
+// CotaBombaEstanque, and X, Y in metres when the node has them).  Nodes are matched by name to the nodes the sections
 // name; a node the sections do not name is refused, a node not listed keeps
 // zeros.
 

@@ -65,6 +65,12 @@ void LeerTramos(ProyectoAcueducto& p, Conexion& c) {
     }
 }
 
+// A stored coordinate: null (or a column the file lacks) is none.
+std::optional<double> Coordenada(const Valor& v) {
+    if (!v.isValid() || v.isNull()) return std::nullopt;
+    return ComoDoble(v);
+}
+
 // Node data in file order.  The arrays have the size the numbering gave; a
 // table with more rows (a project without sections, a node list written by
 // hand) makes them grow to it rather than stop.
@@ -78,12 +84,41 @@ void LeerNodos(ProyectoAcueducto& p, Conexion& c) {
     const int cn = q.IndiceColumna(QStringLiteral("Nodos")), cm = q.IndiceColumna(QStringLiteral("ConsumoMedio")),
               ct = q.IndiceColumna(QStringLiteral("CotaTerreno")),
               cb = q.IndiceColumna(QStringLiteral("CotaBombaEstanque"));
+    // Files of earlier versions have no X, Y: the index is then -1 and the
+    // value null.
+    const int cx = q.IndiceColumna(QStringLiteral("X")), cy = q.IndiceColumna(QStringLiteral("Y"));
     for (int i = 1; i <= p.NumeroNodosACU && q.Siguiente(); ++i) {
         p.Nodos[i] = Trim(q.Texto(cn));
         p.ConsumoMedio[i] = q.Doble(cm);
         p.CotaTerreno[i] = q.Doble(ct);
         p.CotaBombaEstanque[i] = q.Doble(cb);
+        p.X[i] = Coordenada(q.Columna(cx));
+        p.Y[i] = Coordenada(q.Columna(cy));
     }
+}
+
+Valor ValorCoordenada(const std::optional<double>& c) { return c ? Valor(RoundNivo(*c, 3)) : Nulo(); }
+
+bool HayCoordenadas(const ProyectoAcueducto& p) {
+    for (int i = 1; i <= p.NumeroNodosACU; ++i)
+        if (p.X.Leer(i) || p.Y.Leer(i)) return true;
+    return false;
+}
+
+// The columns X, Y: a file of an earlier version gets them, inside the
+// save's transaction, only when some node has coordinates, so that a
+// network without them leaves the file as older programs wrote it.
+bool ColumnasCoordenadas(const ProyectoAcueducto& p, Conexion& c, bool& existen) {
+    const QStringList columnas = c.ColumnasDe(QStringLiteral("Nodos"));
+    existen = columnas.contains(QStringLiteral("X"), Qt::CaseInsensitive) &&
+              columnas.contains(QStringLiteral("Y"), Qt::CaseInsensitive);
+    if (existen || !HayCoordenadas(p)) return true;
+    for (const char* col : {"X", "Y"})
+        if (!columnas.contains(QString::fromLatin1(col), Qt::CaseInsensitive) &&
+            !c.Ejecutar(QStringLiteral("ALTER TABLE Nodos ADD COLUMN %1 REAL").arg(QLatin1String(col))))
+            return false;
+    existen = true;
+    return true;
 }
 
 QString TextoFalla(const ErrorEjecucion& e) {
@@ -124,13 +159,22 @@ bool EscribirTodo(ProyectoAcueducto& p, Sesion& s, Conexion& c, QString& error) 
 
     NumerarNodos(p, s);
     p.RedimensionarNodos(p.NumeroNodosACU);
+    bool coordenadas = false;
+    if (!ColumnasCoordenadas(p, c, coordenadas)) return falla(QStringLiteral("Nodos"));
     {
-        Consulta q(c, QStringLiteral("INSERT INTO Nodos (Numero, Nodos, ConsumoMedio, CotaTerreno, "
-                                     "CotaBombaEstanque) VALUES (?,?,?,?,?)"));
-        for (int i = 1; i <= p.NumeroNodosACU; ++i)
-            if (!q.Ejecutar({i, TextoNoNulo(Trim(p.Nodos[i])), RoundNivo(p.ConsumoMedio[i], 3),
-                             RoundNivo(p.CotaTerreno[i], 2), RoundNivo(p.CotaBombaEstanque[i], 2)}))
-                return falla(QStringLiteral("Nodos"));
+        Consulta q(c, coordenadas ? QStringLiteral("INSERT INTO Nodos (Numero, Nodos, ConsumoMedio, CotaTerreno, "
+                                                   "CotaBombaEstanque, X, Y) VALUES (?,?,?,?,?,?,?)")
+                                  : QStringLiteral("INSERT INTO Nodos (Numero, Nodos, ConsumoMedio, CotaTerreno, "
+                                                   "CotaBombaEstanque) VALUES (?,?,?,?,?)"));
+        for (int i = 1; i <= p.NumeroNodosACU; ++i) {
+            std::vector<Valor> fila{i, TextoNoNulo(Trim(p.Nodos[i])), RoundNivo(p.ConsumoMedio[i], 3),
+                                    RoundNivo(p.CotaTerreno[i], 2), RoundNivo(p.CotaBombaEstanque[i], 2)};
+            if (coordenadas) {
+                fila.push_back(ValorCoordenada(p.X[i]));
+                fila.push_back(ValorCoordenada(p.Y[i]));
+            }
+            if (!q.Ejecutar(fila)) return falla(QStringLiteral("Nodos"));
+        }
     }
     return true;
 }

@@ -42,5 +42,6 @@ QList<Ayuda> AyudasAnalisisACU() {
 QList<Ayuda> AyudasLongitudTramosAcu() {
     return {A("Fijar la Longitud", "Fijar la longitud del tramo seleccionado. "),
             A("Limpiar", "Limpiar los Valores de las coordendas. "),
+            A("TomarDeLosNodos", "Tomar X, Y y la cota del terreno de los nodos del tramo. "),
             A("Retorno", Retorno)};
 }

@@ -15,7 +15,7 @@
 namespace {
 
 enum ColRamal { RNo, RI, RJ, RLongitud, RDiametro, RC, RConsumo };
-enum ColNodo { NNo, NNodo, NConsumo, NTerreno, NTanque, NConectados, NDireccion };
+enum ColNodo { NNo, NNodo, NConsumo, NTerreno, NTanque, NConectados, NDireccion, NX, NY };
 
 const QString TituloFontaria = QStringLiteral("Proyecto de Fontaria");
 const QString EncabezadoRamales = QStringLiteral("Datos de los Ramales...");
@@ -90,7 +90,7 @@ void DatosAcueducto::ConfigurarSpread() {
     Spread1.Col(RC).maximo = 32767;
     FormatoColumna(Spread1, RConsumo, TipoCelda::Numero, 3, 10, false);
 
-    Spread2 = Grid(NDireccion);
+    Spread2 = Grid(NY);
     Spread2.PonerEncabezados(NNo, QStringLiteral("No"));
     Spread2.PonerEncabezados(NNodo, QStringLiteral("Nodo"));
     Spread2.PonerEncabezado(1, NConsumo, QStringLiteral("Consumo"));
@@ -106,6 +106,21 @@ void DatosAcueducto::ConfigurarSpread() {
     FormatoColumna(Spread2, NTanque, TipoCelda::Numero, 2, 10, false);
     FormatoColumna(Spread2, NConectados, TipoCelda::Entero, 0, 12);
     FormatoColumna(Spread2, NDireccion, TipoCelda::Texto, 0, 40);
+    // Typed as text, so that a blank cell reaches the logic as "none".
+    Spread2.PonerEncabezado(1, NX, QStringLiteral("Coordenadas"));
+    Spread2.UnirEncabezado(1, NX, 1, 2);
+    for (const int c : {int(NX), int(NY)}) {
+        Spread2.PonerEncabezado(2, c, c == NX ? QStringLiteral("X m") : QStringLiteral("Y m"));
+        FormatoColumna(Spread2, c, TipoCelda::Texto, 3, 11, false);
+    }
+}
+
+void DatosAcueducto::PonerCoordenada(int fila, int columna) {
+    const std::optional<double> v = (columna == NX ? p_.X : p_.Y).Leer(fila);
+    if (v)
+        Spread2.PonerNumero(fila, columna, *v, 3);
+    else
+        Spread2.PonerVacio(fila, columna);
 }
 
 void DatosAcueducto::LlenarRamal(int t) {
@@ -134,6 +149,8 @@ void DatosAcueducto::LlenarNodos() {
             g.PonerVacio(n, NTanque);
         g.PonerEntero(n, NConectados, p_.TramosConectados.Leer(n));
         g.PonerTexto(n, NDireccion, p_.NombreTramos.Leer(n));
+        PonerCoordenada(n, NX);
+        PonerCoordenada(n, NY);
     }
 }
 
@@ -464,7 +481,13 @@ bool DatosAcueducto::EscribirNumeroNodo(int fila, int columna, double valor) {
     case NConsumo: p_.ConsumoMedio[fila] = valor; break;
     case NTerreno: p_.CotaTerreno[fila] = valor; break;
     case NTanque: p_.CotaBombaEstanque[fila] = valor; break;
+    case NX: p_.X[fila] = valor; break;
+    case NY: p_.Y[fila] = valor; break;
     default: return false;
+    }
+    if (columna == NX || columna == NY) {
+        PonerCoordenada(fila, columna);
+        return true;
     }
     if (columna == NTanque && !(valor > 0))
         Spread2.PonerVacio(fila, columna);
@@ -474,6 +497,13 @@ bool DatosAcueducto::EscribirNumeroNodo(int fila, int columna, double valor) {
 }
 
 bool DatosAcueducto::EditarNodo(int fila, int columna, const QString& texto) {
+    if ((columna == NX || columna == NY) && Trim(texto).isEmpty()) {
+        if (fila < 1 || fila > Spread2.Filas() || fila > p_.NumeroNodosACU) return false;
+        (columna == NX ? p_.X : p_.Y)[fila].reset();
+        PonerCoordenada(fila, columna);
+        MarcarModificado();
+        return true;
+    }
     double v = 0.0;
     return LeerNumeroOAvisar(d_, texto, v) && EditarNodo(fila, columna, v);
 }
@@ -490,6 +520,12 @@ bool DatosAcueducto::EditarCelda(int grid, int fila, int columna, const QString&
     const bool numero = g.EsNumero(fila, columna);
     if (grid == 1)
         return numero ? EditarRamal(fila, columna, g.Valor(fila, columna)) : EditarRamal(fila, columna, texto);
+    if (columna == NX || columna == NY) {
+        // A refused text leaves the coordinate as it was.
+        if (EditarNodo(fila, columna, texto)) return true;
+        PonerCoordenada(fila, columna);
+        return false;
+    }
     return EditarNodo(fila, columna, g.Valor(fila, columna));
 }
 

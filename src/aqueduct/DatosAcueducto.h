@@ -11,7 +11,9 @@
 // Spread2 columns: 0 number, 1 "Nodo", 2 "Consumo" "Medio lps" (locked with
 // "Consumo por Tramo"), 3 "Cota Terreno", 4 "Cota Tanque/" "Bomba m" (empty
 // when not above 0), 5 "Ramales Conectados", 6 "Dirección Asumido del
-// Flujo en los Ramales".
+// Flujo en los Ramales", 7 and 8 "Coordenada" "X m" / "Y m" (a blank cell
+// is a node without coordinates; typed as text and read with the locale's
+// marks).
 
 #include "base/Grid.h"
 
@@ -120,9 +122,9 @@ public:
 
     // A value typed into a cell.  Spread1 columns 1-6 write their array (1
     // and 2 trimmed) and run RecalculeNodos; Spread2 columns 2-4 write the
-    // node's data.  False, with nothing changed, for a locked or read-only
-    // cell or a text that is not a number in a numeric column (its reason
-    // shown).
+    // node's data, 7-8 its coordinates (a blank text clears one).  False,
+    // with nothing changed, for a locked or read-only cell or a text that is
+    // not a number in a numeric column (its reason shown).
     bool EditarRamal(int fila, int columna, const QString& texto);
     // The same with a number, for the numeric columns 3 to 6.
     bool EditarRamal(int fila, int columna, double valor);
@@ -169,6 +171,7 @@ private:
     void NumerarPosiciones(int desde);
     void LlenarRamal(int fila);
     void LlenarNodos();
+    void PonerCoordenada(int fila, int columna);
     void MarcarModificado();
     // A value of page 1 written at once, the data marked as changed.
     template <typename T>

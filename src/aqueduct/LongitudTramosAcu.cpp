@@ -2,6 +2,7 @@
 
 #include "aqueduct/DatosAcueducto.h"
 #include "aqueduct/FormatoGrid.h"
+#include "aqueduct/ProyectoAcueducto.h"
 #include "base/Dialogos.h"
 #include "base/Nivo.h"
 
@@ -56,4 +57,41 @@ void LongitudTramosAcu::Limpiar() {
                                           1) != Respuesta::Si)
         return;
     puntos_.Limpiar();
+}
+
+int LongitudTramosAcu::NodoExtremo(int columna) const {
+    const Grid& g = datos_.Spread1;
+    if (fila_ < 1 || fila_ > g.Filas()) return 0;
+    const QString nombre = Trim(g.Texto(fila_, columna));
+    const ProyectoAcueducto& p = datos_.Proyecto();
+    for (int n = 1; n <= p.NumeroNodosACU; ++n)
+        if (p.Nodos.Leer(n) == nombre) return n;
+    return 0;
+}
+
+bool LongitudTramosAcu::NodosConCoordenadas() const {
+    const ProyectoAcueducto& p = datos_.Proyecto();
+    for (const int columna : {1, 2}) {
+        const int n = NodoExtremo(columna);
+        if (n == 0 || !p.X.Leer(n) || !p.Y.Leer(n)) return false;
+    }
+    return true;
+}
+
+bool LongitudTramosAcu::TomarDeLosNodos() {
+    const ProyectoAcueducto& p = datos_.Proyecto();
+    for (const int columna : {1, 2}) {
+        const int n = NodoExtremo(columna);
+        if (n == 0 || !p.X.Leer(n) || !p.Y.Leer(n)) {
+            datos_.Dialogos_().MostrarMensaje(
+                QStringLiteral("¡El Nodo ( ") + Trim(datos_.Spread1.Texto(fila_, columna)) +
+                    QStringLiteral(" ) no tiene Coordenadas!\nEntre X e Y en la página de los Nodos."),
+                QStringLiteral("Coordenadas de los Nodos..."), TituloFontaria);
+            return false;
+        }
+    }
+    const int i = NodoExtremo(1), j = NodoExtremo(2);
+    const double valores[6] = {*p.X[i], *p.Y[i], p.CotaTerreno.Leer(i), *p.X[j], *p.Y[j], p.CotaTerreno.Leer(j)};
+    for (int caja = 1; caja <= 6; ++caja) puntos_.Cambiar(caja, valores[caja - 1]);
+    return true;
 }

@@ -1,7 +1,9 @@
 #pragma once
 // The logic of "Longitud de los Ramales": the length of a section from the
 // coordinates of its two ends, fixed into the section grid of the data
-// screen as a typed value would be.  The six boxes are input only.
+// screen as a typed value would be.  The six boxes are input only; they
+// can also take the plan coordinates and terrain levels of the section's
+// end nodes.
 
 #include "base/Coordenadas.h"
 #include "base/Grid.h"
@@ -39,8 +41,17 @@ public:
     void FijarLongitud();
     // "Limpiar": asks, then sets the six boxes to 0 and computes.
     void Limpiar();
+    // "Tomar de los Nodos": X and Y of each end from its node, Z its terrain
+    // level, then the length computed.  An end without both coordinates is
+    // named in a message and the boxes stay as they were.
+    bool TomarDeLosNodos();
+    // Whether both ends of the current section have X and Y (the button's
+    // enabling).
+    bool NodosConCoordenadas() const;
 
 private:
+    // The node number of an end of the current section, 0 when none.
+    int NodoExtremo(int columna) const;
     DatosAcueducto& datos_;
     Coordenadas puntos_;
     int fila_ = 1;

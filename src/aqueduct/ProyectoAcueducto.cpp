@@ -26,6 +26,8 @@ void ProyectoAcueducto::DimensionarNodos(int nodos) {
     ConsumoMedio.Redim(nodos);
     CotaTerreno.Redim(nodos);
     CotaBombaEstanque.Redim(nodos);
+    X.Redim(nodos);
+    Y.Redim(nodos);
 }
 
 void ProyectoAcueducto::RedimensionarNodos(int nodos) {
@@ -33,6 +35,8 @@ void ProyectoAcueducto::RedimensionarNodos(int nodos) {
     ConsumoMedio.RedimPreserve(nodos);
     CotaTerreno.RedimPreserve(nodos);
     CotaBombaEstanque.RedimPreserve(nodos);
+    X.RedimPreserve(nodos);
+    Y.RedimPreserve(nodos);
 }
 
 void BorrarArreglosACU(ProyectoAcueducto& p) {

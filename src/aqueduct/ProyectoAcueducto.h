@@ -13,6 +13,7 @@
 #include <QString>
 #include <cstdint>
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 struct Sesion;
@@ -61,6 +62,9 @@ struct ProyectoAcueducto {
     Arreglo<double> ConsumoMedio;       // l/s
     Arreglo<double> CotaTerreno;        // m
     Arreglo<double> CotaBombaEstanque;  // m; 0 an ordinary node
+    // Plan position in metres, for the drawing of the network and the
+    // lengths of the sections; empty when the node has none.
+    Arreglo<std::optional<double>> X, Y;
 
     // Rebuilt by NumerarNodos from the sections, never stored.
     Arreglo2<QString> ExtremosTramo;  // (1, s) Inicio, (2, s) Final
@@ -112,7 +116,7 @@ struct ProyectoAcueducto {
     void DimensionarTramos(int tramos);
     // The same keeping the values of the sections that stay.
     void RedimensionarTramos(int tramos);
-    // Sizes the four node arrays for `nodos` nodes, cleared / keeping values.
+    // Sizes the node arrays for `nodos` nodes, cleared / keeping values.
     void DimensionarNodos(int nodos);
     void RedimensionarNodos(int nodos);
 };

@@ -2,6 +2,7 @@
 // in the session, loads the project and shows a screen modally.
 
 #include "aqueduct/ArchivoAcueducto.h"
+#include "aqueduct/MenuInp.h"
 #include "aqueduct/ProyectoAcueducto.h"
 #include "base/Dialogos.h"
 #include "model/ArchivoEdificio.h"
@@ -261,6 +262,19 @@ bool MenuPrincipal::CargarAcueducto() {
     Ocupado(false);
     MostrarFallaLectura(error);
     return false;
+}
+
+void MenuPrincipal::ACUImportarInp() {
+    if (ImportarRedInpMenu(acu_, s_, d_)) {
+        TituloAcueducto();
+        Habilitar(QStringLiteral("ID_A_Salvar"), true);
+    }
+    Ocupado(false);
+}
+
+void MenuPrincipal::ACUExportarInp() {
+    if (PedirAcueductoSiFalta()) ExportarRedInpMenu(s_, d_);
+    Ocupado(false);
 }
 
 void MenuPrincipal::ACUModificarProyecto() {

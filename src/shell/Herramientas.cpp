@@ -48,6 +48,8 @@ const QList<Herramienta>& TablaHerramientas() {
         H("ID_A_Modificar", "EDITAR LOS DATOS DEL PROYECTO...", " EDITAR LOS DATOS DEL PROYECTO ",
           Pantalla::DatosAcueducto),
         H("ID_A_Salvar", "SALVAR COMO...", ""),
+        H("ID_A_ImportarInp", "IMPORTAR RED EPANET (.inp)...", " Importar una Red en el Formato de EPANET "),
+        H("ID_A_ExportarInp", "EXPORTAR RED EPANET (.inp)...", " Exportar la Red al Formato de EPANET "),
         H("ID_A_Eliminar", "", " ELIMINAR PROYECTOS "),
         H("ID_A_Analisis", "", " ANÁLISIS Y DISEÑO DE LA RED DE ACUEDUCTOS ", Pantalla::AnalisisACU),
     };
@@ -88,7 +90,8 @@ const QList<MenuBarra>& MenusPrincipales() {
         // building menus' own words.
         {QStringLiteral("ID_A_Proyecto"), QStringLiteral("&PROYECTO"),
          {QStringLiteral("ID_A_Nuevo"), QStringLiteral("ID_A_Abrir"), QStringLiteral("ID_A_Modificar"),
-          QStringLiteral("ID_A_Salvar"), QStringLiteral("-"), QStringLiteral("ID_A_Eliminar"), QStringLiteral("-"),
+          QStringLiteral("ID_A_Salvar"), QStringLiteral("-"), QStringLiteral("ID_A_ImportarInp"),
+          QStringLiteral("ID_A_ExportarInp"), QStringLiteral("-"), QStringLiteral("ID_A_Eliminar"), QStringLiteral("-"),
           QStringLiteral("ID_M4_Configurar"), QStringLiteral("-"), QStringLiteral("ID_M1_Salida")}},
         {QStringLiteral("ID_A_Resultados"), QStringLiteral("&RESULTADOS"),
          {QStringLiteral("ID_A_Analisis"), QStringLiteral("ID_A_Modificar")}},

@@ -105,6 +105,8 @@ bool MenuPrincipal::Ejecutar(const QString& id) {
         {QStringLiteral("ID_A_Modificar"), &MenuPrincipal::ACUModificarProyecto},
         {QStringLiteral("ID_A_Analisis"), &MenuPrincipal::ACUResultados},
         {QStringLiteral("ID_A_Salvar"), &MenuPrincipal::SalvarComoACU},
+        {QStringLiteral("ID_A_ImportarInp"), &MenuPrincipal::ACUImportarInp},
+        {QStringLiteral("ID_A_ExportarInp"), &MenuPrincipal::ACUExportarInp},
         {QStringLiteral("ID_Explorador"), &MenuPrincipal::ExploradorWindows},
         {QStringLiteral("ID_TemasAyuda"), &MenuPrincipal::TemasAyuda},
         {QStringLiteral("ID_Manual"), &MenuPrincipal::ManualPrograma},

@@ -74,6 +74,9 @@ public:
     void ACUModificarProyecto();
     void ACUResultados();
     void SalvarComoACU();
+    // The network exchange format: the imported network becomes the open one.
+    void ACUImportarInp();
+    void ACUExportarInp();
     void ManualPrograma();
     void VerEjemplos();
     void TemasAyuda();

@@ -160,3 +160,58 @@ TEST(ArchivoAcueducto, ArchivosAjenosYDatosRotos) {
     EXPECT_TRUE(error.endsWith("Error 6: Desbordamiento (Nodos)")) << error.toStdString();
     EXPECT_EQ(p.Proyecto, "sin tocar");
 }
+
+TEST(ArchivoAcueducto, CoordenadasDeLosNodos) {
+    SesionPrueba sp;
+    sp.s.ArchivoProyectoACU = sp.AcueductoEnBlanco();
+    ProyectoAcueducto p = Ejemplo(sp.s);
+    p.X[1] = 1000.12345;  // kept to the millimetre
+    p.Y[1] = -250.0;
+    p.X[3] = 0.0;  // a coordinate of 0 is one, not none
+    QString error;
+    ASSERT_TRUE(SalvarProyectoACU(p, sp.s, error)) << error.toStdString();
+    ProyectoAcueducto q;
+    ASSERT_TRUE(LeerProyectoACU(q, sp.s, error)) << error.toStdString();
+    EXPECT_EQ(q.X[1], 1000.123);
+    EXPECT_EQ(q.Y[1], -250.0);
+    EXPECT_FALSE(q.X[2].has_value());
+    EXPECT_EQ(q.X[3], 0.0);
+    EXPECT_FALSE(q.Y[3].has_value());
+
+    // A file of an earlier version, without the columns: it opens, a save
+    // without coordinates leaves it so, and one with coordinates adds them.
+    sp.s.ArchivoProyectoACU = sp.Datos("antiguo.acu");
+    {
+        Conexion c;
+        ASSERT_TRUE(c.Crear(sp.s.ArchivoProyectoACU));
+        ASSERT_TRUE(c.EjecutarGuion(
+            "CREATE TABLE Generales (Proyecto TEXT, Ubicacion TEXT, Calculista TEXT, Fecha TEXT, Comentario TEXT,"
+            " OpcionConsumo INTEGER, OpcionDiametro INTEGER, C INTEGER, CasoPorcentaje INTEGER, DeltaPorcentaje REAL,"
+            " FactorQMax REAL, FactorIncendio REAL, LitrosIncendio REAL, NumeroTramos INTEGER, Usuario TEXT);"
+            "CREATE TABLE Nodos (Numero INTEGER, Nodos TEXT, ConsumoMedio REAL, CotaTerreno REAL,"
+            " CotaBombaEstanque REAL);"
+            "CREATE TABLE Tramos (Numero INTEGER, Inicio TEXT, Final TEXT, Longitud REAL, Diametro REAL,"
+            " CoeficienteC INTEGER, Demanda REAL);"
+            "INSERT INTO Generales (Proyecto, NumeroTramos) VALUES ('viejo', 1);"
+            "INSERT INTO Tramos VALUES (1, 'A', 'B', 10, 0.1, 100, 0);"
+            "INSERT INTO Nodos VALUES (1, 'A', 0, 5, 20), (2, 'B', 0, 4, 0);"));
+    }
+    ProyectoAcueducto v;
+    ASSERT_TRUE(LeerProyectoACU(v, sp.s, error)) << error.toStdString();
+    EXPECT_EQ(v.CotaBombaEstanque[1], 20.0);
+    EXPECT_FALSE(v.X[1].has_value());
+    auto columnas = [&] {
+        Conexion c;
+        AbrirConexion(c, sp.s.ArchivoProyectoACU);
+        return c.ColumnasDe("Nodos").size();
+    };
+    ASSERT_TRUE(SalvarProyectoACU(v, sp.s, error)) << error.toStdString();
+    EXPECT_EQ(columnas(), 5);
+    v.Y[2] = 7.5;
+    ASSERT_TRUE(SalvarProyectoACU(v, sp.s, error)) << error.toStdString();
+    EXPECT_EQ(columnas(), 7);
+    ProyectoAcueducto w;
+    ASSERT_TRUE(LeerProyectoACU(w, sp.s, error)) << error.toStdString();
+    EXPECT_EQ(w.Y[2], 7.5);
+    EXPECT_FALSE(w.X[2].has_value());
+}

@@ -295,3 +295,47 @@ TEST(LongitudTramosAcu, LongitudDesdeLasCoordenadas) {
     EXPECT_EQ(l.Scroll(), 3);
     EXPECT_EQ(l.Spread1.Texto(1, 3), "C");
 }
+
+TEST(DatosAcueducto, CoordenadasEnLaPaginaDeNodosYLongitudDesdeEllas) {
+    Pantalla t;
+    constexpr int X = 7, Y = 8;
+    EXPECT_EQ(t.datos.Spread2.Encabezado(2, X), "X m");
+    EXPECT_EQ(t.datos.Spread2.Texto(1, X), "");  // none yet
+    {
+        MarcasPrueba m("es_ES");
+        EXPECT_TRUE(t.datos.EditarCelda(2, 1, X, "1.000,5"));
+        EXPECT_EQ(t.p.X[1], 1000.5);
+        EXPECT_EQ(t.datos.Spread2.Texto(1, X), "1000,500");
+        EXPECT_FALSE(t.datos.EditarCelda(2, 1, Y, "abc"));  // refused with its reason, none kept
+        EXPECT_FALSE(t.p.Y[1].has_value());
+        EXPECT_EQ(t.datos.Spread2.Texto(1, Y), "");
+    }
+    EXPECT_TRUE(t.datos.EditarCelda(2, 1, Y, "0"));  // 0 is a coordinate
+    EXPECT_EQ(t.p.Y[1], 0.0);
+    t.sp.s.DatosModificados = 0;
+    EXPECT_TRUE(t.datos.EditarCelda(2, 1, X, "  "));  // blank: none
+    EXPECT_FALSE(t.p.X[1].has_value());
+    EXPECT_NE(t.sp.s.DatosModificados, 0);
+
+    // Section 1, T -> A: 3-4-5 in plan and the terrain from 50 down to 40.
+    t.datos.Spread1.PonerActiva(1, 1);
+    LongitudTramosAcu l(t.datos);
+    EXPECT_FALSE(l.NodosConCoordenadas());
+    EXPECT_FALSE(l.TomarDeLosNodos());
+    EXPECT_EQ(t.d.Ultimo().texto, "¡El Nodo ( T ) no tiene Coordenadas!\nEntre X e Y en la página de los Nodos.");
+    t.datos.EditarCelda(2, 1, X, "0");
+    t.datos.EditarCelda(2, 2, X, "3");
+    t.datos.EditarCelda(2, 2, Y, "4");
+    ASSERT_TRUE(l.NodosConCoordenadas());
+    ASSERT_TRUE(l.TomarDeLosNodos());
+    EXPECT_EQ(l.Coordenada(3), 50.0);
+    EXPECT_DOUBLE_EQ(l.Longitud(), std::sqrt(9.0 + 16.0 + 100.0));
+
+    // The coordinates are saved with the project.
+    ASSERT_TRUE(t.datos.Salvar());
+    ProyectoAcueducto q;
+    QString error;
+    ASSERT_TRUE(LeerProyectoACU(q, t.sp.s, error));
+    EXPECT_EQ(q.X[2], 3.0);
+    EXPECT_EQ(q.Y[2], 4.0);
+}

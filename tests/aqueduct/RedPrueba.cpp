@@ -29,6 +29,8 @@ ProyectoAcueducto Red(const std::vector<TramoPrueba>& tramos, const std::vector<
     p.ConsumoMedio.RedimPreserve(n);
     p.CotaTerreno.Redim(n);
     p.CotaBombaEstanque.Redim(n);
+    p.X.Redim(n);
+    p.Y.Redim(n);
     for (const NodoPrueba& x : nodos) {
         const int k = Nodo(p, x.nombre);
         p.ConsumoMedio[k] = x.consumo;

@@ -19,6 +19,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -28,6 +29,9 @@
 #include <QVBoxLayout>
 
 namespace {
+
+// "Dirección Asumido del Flujo en los Ramales" in the node grid.
+constexpr int ColumnaDireccion = 6;
 
 // The page-1 boxes Text1..Text4 with their labels and limits.
 struct CajaTexto {
@@ -77,6 +81,7 @@ VentanaDatosAcueducto::VentanaDatosAcueducto(ProyectoAcueducto& p, Sesion& s, Di
     Proteger(d_, [this] { logica_.Cargar(); });
     spread1_->MostrarGrid(&logica_.Spread1);
     spread2_->MostrarGrid(&logica_.Spread2);
+    spread2_->horizontalHeader()->setSectionResizeMode(ColumnaDireccion - 1, QHeaderView::Stretch);
     Refrescar();
     InstalarAyudas(this, tip_, s_.Tapiz, AyudasDatosAcueducto());
     AvisarNumerosRechazados(this, d_);
@@ -242,8 +247,9 @@ QWidget* VentanaDatosAcueducto::Pagina3() {
     spread2_ = new VistaGrid(marco);
     spread2_->setObjectName(QStringLiteral("Spread2"));
     spread2_->PermitirBloques();
-    // The list of sections at each node takes the width that is left.
-    spread2_->horizontalHeader()->setStretchLastSection(true);
+    // The list of sections at each node takes the width that is left; the
+    // coordinates follow it (set once the grid gives the columns).
+    spread2_->horizontalHeader()->setStretchLastSection(false);
     capa->addWidget(spread2_, 1);
     spread2_->AlEditar([this](int f, int c, const QString& t) { EditarCelda(2, f, c, t); });
     spread2_->Modelo().alRechazar = [this](int, int c, const QString& t) {

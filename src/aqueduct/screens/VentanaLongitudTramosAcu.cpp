@@ -35,16 +35,18 @@ VentanaLongitudTramosAcu::VentanaLongitudTramosAcu(DatosAcueducto& datos, std::f
     capa->addLayout(tramo);
     connect(vscroll1_, &QScrollBar::valueChanged, this, [this](int fila) {
         logica_.ColoquePantalla(fila);
-        spread1_->Refrescar();
+        Mostrar();
         if (alMover_) alMover_();
     });
 
     auto* pie = new QHBoxLayout;
     auto* fijar = BotonACU(QStringLiteral("Fijar la Longitud"), QStringLiteral("Fijar la Longitud"), this);
     auto* limpiar = BotonACU(QStringLiteral("Limpiar"), QStringLiteral("Limpiar"), this);
+    nodos_ = BotonACU(QStringLiteral("TomarDeLosNodos"), QStringLiteral("Tomar de los Nodos"), this);
     auto* retorno = BotonACU(QStringLiteral("Retorno"), QStringLiteral("Retorno"), this);
     pie->addWidget(fijar);
     pie->addWidget(limpiar);
+    pie->addWidget(nodos_);
     pie->addStretch();
     pie->addWidget(retorno);
     capa->addLayout(pie);
@@ -55,6 +57,10 @@ VentanaLongitudTramosAcu::VentanaLongitudTramosAcu(DatosAcueducto& datos, std::f
     });
     connect(limpiar, &QPushButton::clicked, this, [this] {
         logica_.Limpiar();
+        Mostrar();
+    });
+    connect(nodos_, &QPushButton::clicked, this, [this] {
+        logica_.TomarDeLosNodos();
         Mostrar();
     });
     connect(retorno, &QPushButton::clicked, this, &QDialog::reject);
@@ -69,4 +75,5 @@ VentanaLongitudTramosAcu::~VentanaLongitudTramosAcu() {
 void VentanaLongitudTramosAcu::Mostrar() {
     cajas_->Mostrar();
     spread1_->Refrescar();
+    nodos_->setEnabled(logica_.NodosConCoordenadas());
 }

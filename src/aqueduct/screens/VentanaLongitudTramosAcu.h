@@ -10,6 +10,7 @@
 #include <functional>
 
 class QLabel;
+class QPushButton;
 class QScrollBar;
 class NivoDouble;
 class NivoToolTip;
@@ -37,4 +38,5 @@ private:
     CajasCoordenadas* cajas_;
     VistaGrid* spread1_;
     QScrollBar* vscroll1_;
+    QPushButton* nodos_;
 };
