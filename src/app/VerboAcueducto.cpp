@@ -1,12 +1,15 @@
 // fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]
+//                          [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida]]
 //                          [--limite-iteraciones N]  (for tests: a pass that does not converge)
 // fontaria acueducto exportar X.acu | importar datos.json X.acu
 
+#include "app/Dibujar.h"
 #include "app/LineaComandos.h"
 #include "aqueduct/AcueductoJson.h"
 #include "aqueduct/AnalisisACU.h"
 #include "aqueduct/ArchivoAcueducto.h"
 #include "aqueduct/CasosDemanda.h"
+#include "aqueduct/DatosPlano.h"
 #include "aqueduct/ProyectoAcueducto.h"
 #include "aqueduct/SolverMalla.h"
 #include "model/EscritorJson.h"
@@ -37,6 +40,7 @@ private:
 
 const char* UsoAcueducto() {
     return "Uso: fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]\n"
+           "     [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida]]\n"
            "     fontaria acueducto exportar X.acu | importar datos.json X.acu";
 }
 
@@ -46,6 +50,8 @@ struct Opciones {
     bool json = false;
     bool corregir = false;
     int limite = 0;  // 0: the solver's own
+    QString plano;   // the picture to draw, null when none
+    bool colorPerdida = false;
 };
 
 bool LeerOpciones(const QStringList& args, Opciones& o, QString& error) {
@@ -62,6 +68,20 @@ bool LeerOpciones(const QStringList& args, Opciones& o, QString& error) {
                 error = QStringLiteral("El caso de demanda debe ser 1, 2 ó 3.");
                 return false;
             }
+        } else if (a == QLatin1String("--plano")) {
+            o.plano = i + 1 < args.size() ? args[++i] : QString();
+            if (o.plano.isEmpty()) {
+                error = QStringLiteral("Falta el archivo del plano tras --plano.");
+                return false;
+            }
+            if (!ExtensionDibujoValida(o.plano, error)) return false;
+        } else if (a == QLatin1String("--color")) {
+            const QString c = i + 1 < args.size() ? args[++i] : QString();
+            if (c != QLatin1String("velocidad") && c != QLatin1String("perdida")) {
+                error = QStringLiteral("El color del plano debe ser velocidad o perdida.");
+                return false;
+            }
+            o.colorPerdida = c == QLatin1String("perdida");
         } else if (a == QLatin1String("--limite-iteraciones")) {
             bool ok = false;
             o.limite = i + 1 < args.size() ? args[++i].toInt(&ok) : 0;
@@ -145,9 +165,15 @@ int Analizar(const Opciones& o) {
         if (p.ErrorAnalisis == 1) return falla();
         fprintf(stderr, "%s\n", mensaje.toUtf8().constData());
     }
+    if (!o.plano.isNull()) {
+        // The model carries no coordinates yet: every node is laid out.
+        const int estado = Dibujar(PlanoComoJson(PlanoDeProyecto(p)), o.plano,
+                                   o.colorPerdida ? QStringList{QStringLiteral("perdida")} : QStringList{});
+        if (estado != Salida::Bien) return estado;
+    }
     if (o.json)
         ImprimirResultados(p, mensaje);
-    else
+    else if (o.plano.isNull())
         ImprimirTexto(p, s);
     // The results stand, but the engineer must know they are not final.
     for (const QString& linea : LineasSinConvergencia(p)) Fallar(QStringLiteral("Aviso: ") + linea);
