@@ -166,8 +166,7 @@ int Analizar(const Opciones& o) {
         fprintf(stderr, "%s\n", mensaje.toUtf8().constData());
     }
     if (!o.plano.isNull()) {
-        // The model carries no coordinates yet: every node is laid out.
-        const int estado = Dibujar(PlanoComoJson(PlanoDeProyecto(p)), o.plano,
+        const int estado = Dibujar(PlanoComoJson(PlanoDeProyecto(p, CoordenadasNodos(p))), o.plano,
                                    o.colorPerdida ? QStringList{QStringLiteral("perdida")} : QStringList{});
         if (estado != Salida::Bien) return estado;
     }

@@ -7,6 +7,12 @@
 #include <QJsonArray>
 #include <cmath>
 
+std::vector<std::optional<QPointF>> CoordenadasNodos(const ProyectoAcueducto& p) {
+    // The model has no node coordinates yet; once it has (X and Y per node,
+    // empty when not given) they are copied here.
+    return std::vector<std::optional<QPointF>>(size_t(std::max(int(p.NumeroNodosACU), 0)));
+}
+
 DatosPlano PlanoDeProyecto(const ProyectoAcueducto& p, const std::vector<std::optional<QPointF>>& coordenadas) {
     DatosPlano d;
     d.titulo = p.Proyecto;

@@ -39,6 +39,11 @@ struct DatosPlano {
     std::vector<TramoPlano> tramos;
 };
 
+// The positions the project gives its nodes, in metres, one slot per node
+// (none while the model carries no coordinates): what every plan is drawn
+// from, on screen and from the command line.
+std::vector<std::optional<QPointF>> CoordenadasNodos(const ProyectoAcueducto& p);
+
 // The plan of the last solve.  `coordenadas[k]`, when given, is the
 // position of node k+1 in metres; nodes without one are laid out from the
 // section lengths.

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int LimitePares = 1000;
 constexpr int Pivotes = 40;
+constexpr double PesoTubo = 7.0;  // added to a pipe's own term
 constexpr double Infinito = std::numeric_limits<double>::infinity();
 
 struct Vecino {
@@ -184,6 +185,12 @@ std::vector<QPointF> DisponerComponente(const Vecinos& g, const std::vector<std:
             for (size_t p = 0; p < dp.size(); ++p) agregar(i, pivotes[p], dp[p][size_t(i)]);
         }
     }
+    // The pipes themselves weigh more than the other pairs, so that a
+    // section is drawn near its length even where the network's paths are
+    // longer than the straight line (a street grid).
+    for (int i = 0; i < m; ++i)
+        for (const Vecino& v : g[size_t(i)])
+            if (v.nodo > i) terminos.push_back({i, v.nodo, v.largo, PesoTubo / (v.largo * v.largo)});
     std::vector<QPointF> x = PivotMDS(dp, m);
     // The scale that fits the distances best, before the descent.
     double num = 0, den = 0;

@@ -41,7 +41,8 @@ ClasesPlano ClasesPresion() {
             QStringLiteral("Presión (m)")};
 }
 
-PlanoAcueducto::PlanoAcueducto(DatosPlano datos, ColorPlano modo) : datos_(std::move(datos)), modo_(modo) {
+PlanoAcueducto::PlanoAcueducto(DatosPlano datos, ColorPlano modo, const std::vector<QPointF>* previas)
+    : datos_(std::move(datos)), modo_(modo) {
     fuente_ = QFont(QStringLiteral("DejaVu Sans"));
     fuente_.setPixelSize(10);
     fuenteNegrita_ = fuente_;
@@ -52,17 +53,19 @@ PlanoAcueducto::PlanoAcueducto(DatosPlano datos, ColorPlano modo) : datos_(std::
         fijos[size_t(k)] = datos_.nodos[size_t(k)].posicion;
         dispuesto_ = dispuesto_ || !fijos[size_t(k)];
     }
-    if (dispuesto_) {
+    if (previas && previas->size() == size_t(n)) {
+        posiciones_ = *previas;
+    } else if (dispuesto_) {
         std::vector<AristaDisposicion> aristas;
         aristas.reserve(datos_.tramos.size());
         for (const TramoPlano& t : datos_.tramos)
             if (t.nodoI >= 0 && t.nodoJ >= 0) aristas.push_back({t.nodoI, t.nodoJ, t.longitud});
         posiciones_ = DisponerPorTension(n, aristas, fijos);
+        // North up: the page's y runs south.
+        for (QPointF& q : posiciones_) q.setY(-q.y());
     } else {
-        for (const auto& f : fijos) posiciones_.push_back(*f);
+        for (const auto& f : fijos) posiciones_.push_back(QPointF(f->x(), -f->y()));
     }
-    // North up: the page's y runs south.
-    for (QPointF& q : posiciones_) q.setY(-q.y());
 
     QRectF caja;
     for (const QPointF& q : posiciones_) caja |= QRectF(q, QSizeF(1e-9, 1e-9));

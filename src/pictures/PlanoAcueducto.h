@@ -32,7 +32,11 @@ ClasesPlano ClasesPresion();    // m: 0 10 20 40 60
 
 class PlanoAcueducto : public Dibujo {
 public:
-    explicit PlanoAcueducto(DatosPlano datos, ColorPlano modo = ColorPlano::Velocidad);
+    // `previas`, when it holds a position per node, is the layout of an
+    // earlier plan of the same network (another demand case): it is kept
+    // rather than worked out again.
+    explicit PlanoAcueducto(DatosPlano datos, ColorPlano modo = ColorPlano::Velocidad,
+                            const std::vector<QPointF>* previas = nullptr);
 
     void PonerModo(ColorPlano modo);
     ColorPlano Modo() const { return modo_; }
@@ -46,6 +50,7 @@ public:
     const DatosPlano& Datos() const { return datos_; }
     // World position of node k (metres east, metres south).
     QPointF PosicionNodo(int k) const { return posiciones_[size_t(k)]; }
+    const std::vector<QPointF>& Posiciones() const { return posiciones_; }
     // The colour section t (index) is drawn in.
     QColor ColorTramo(int t) const;
     // Some node was placed by the layout rather than by its coordinates.
