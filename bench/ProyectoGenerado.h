@@ -14,7 +14,7 @@
 
 class DialogosMudos : public Dialogos {
 public:
-    int MostrarMensaje(const QString&, const QString&, const QString&, int, int defecto, int, const QImage&) override {
+    int MostrarMensaje(const QString&, const QString&, const QString&, int, int defecto, int, const QImage*) override {
         return defecto;
     }
     std::optional<QString> AbrirArchivo(const QString&, const QString&, const QString&) override { return {}; }

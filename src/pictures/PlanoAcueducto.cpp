@@ -172,10 +172,14 @@ void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& 
     }
     const bool etiquetas = (todasLasEtiquetas && nodos.size() <= 3000) || int(nodos.size()) <= MaximoEtiquetasVisibles;
     if (etiquetas) {
-        const QFontMetricsF m(fuenteNegrita_);
+        const QFontMetricsF m(fuenteNegrita_), mNormal(fuente_);
         for (int k : nodos) {
             const NodoPlano& x = datos_.nodos[size_t(k)];
             const QPointF c = mundo.map(posiciones_[size_t(k)]) + QPointF(8, -3);
+            // A light ground keeps the label readable over the pipes.
+            const double w = std::max(m.horizontalAdvance(x.nombre), mNormal.horizontalAdvance(x.textoPresion));
+            p.fillRect(QRectF(c.x() - 1, c.y() - m.ascent(), w + 2, m.height() + mNormal.height()),
+                       QColor(255, 255, 255, 190));
             p.setPen(Qt::black);
             p.setFont(fuenteNegrita_);
             p.drawText(c, x.nombre);
