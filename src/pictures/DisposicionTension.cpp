@@ -176,13 +176,26 @@ std::vector<QPointF> DisponerComponente(const Vecinos& g, const std::vector<std:
     } else {
         std::vector<int> pivotes;
         for (const auto& d : dp) pivotes.push_back(int(std::find(d.begin(), d.end(), 0.0) - d.begin()));
+        // A pivot stands for the nodes nearest to it: its terms weigh as
+        // many (the sparse stress model), so that parts far apart along the
+        // network keep apart on the page too.
+        std::vector<double> region(dp.size(), 0.0);
+        for (int i = 0; i < m; ++i) {
+            size_t mejor = 0;
+            for (size_t p = 1; p < dp.size(); ++p)
+                if (dp[p][size_t(i)] < dp[mejor][size_t(i)]) mejor = p;
+            region[mejor] += 1.0;
+        }
         for (int i = 0; i < m; ++i) {
             for (const Vecino& v : g[size_t(i)]) {
                 if (v.nodo > i) agregar(i, v.nodo, v.largo);
                 for (const Vecino& w : g[size_t(v.nodo)])
                     if (w.nodo > i) agregar(i, w.nodo, v.largo + w.largo);
             }
-            for (size_t p = 0; p < dp.size(); ++p) agregar(i, pivotes[p], dp[p][size_t(i)]);
+            for (size_t p = 0; p < dp.size(); ++p) {
+                const double d = dp[p][size_t(i)];
+                if (i != pivotes[p] && d > 0 && d < Infinito) terminos.push_back({i, pivotes[p], d, region[p] / (d * d)});
+            }
         }
     }
     // The pipes themselves weigh more than the other pairs, so that a
@@ -218,7 +231,7 @@ std::vector<QPointF> DisponerComponente(const Vecinos& g, const std::vector<std:
         wMin = std::min(wMin, t.w);
         wMax = std::max(wMax, t.w);
     }
-    const int iteraciones = m <= LimitePares ? 30 : 15;
+    const int iteraciones = m <= LimitePares ? 30 : 20;
     const double etaMax = 1.0 / wMin, etaMin = 0.1 / wMax;
     const double lambda = std::log(etaMax / etaMin) / (iteraciones - 1);
     std::mt19937 azar(11);

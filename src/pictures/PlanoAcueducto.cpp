@@ -15,7 +15,6 @@ namespace {
 
 constexpr double AnchoLeyenda = 200.0;  // pixels at the right of the device
 constexpr double RadioNodo = 4.0;       // pixels
-constexpr int MaximoNodosVisibles = 5000;
 constexpr int MaximoEtiquetasVisibles = 400;
 
 const std::vector<QColor>& Paleta() {
@@ -77,6 +76,14 @@ PlanoAcueducto::PlanoAcueducto(DatosPlano datos, ColorPlano modo, const std::vec
     for (size_t t = 0; t < datos_.tramos.size(); ++t) {
         const TramoPlano& x = datos_.tramos[t];
         if (x.nodoI >= 0 && x.nodoJ >= 0) lineas_[t] = QLineF(posiciones_[size_t(x.nodoI)], posiciones_[size_t(x.nodoJ)]);
+    }
+    // The median section on the page sets what detail shows.
+    std::vector<double> largos;
+    for (const QLineF& l : lineas_)
+        if (l.length() > 0) largos.push_back(l.length());
+    if (!largos.empty()) {
+        std::nth_element(largos.begin(), largos.begin() + long(largos.size() / 2), largos.end());
+        longitudTipica_ = largos[largos.size() / 2];
     }
     presiones_ = ClasesPresion();
     claseNodo_.resize(size_t(n));
@@ -153,7 +160,10 @@ void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& 
     std::vector<int> nodos;
     for (size_t k = 0; k < posiciones_.size(); ++k)
         if (visible.contains(posiciones_[k])) nodos.push_back(int(k));
-    const bool todos = todasLasEtiquetas || int(nodos.size()) <= MaximoNodosVisibles;
+    // Level of detail by how long a typical section is on the page: node
+    // markers from a few pixels, labels once they fit between the nodes.
+    const double pixelesTramo = longitudTipica_ * escala;
+    const bool todos = pixelesTramo >= 9.0 || int(nodos.size()) <= 60;
     for (int k : nodos) {
         const NodoPlano& x = datos_.nodos[size_t(k)];
         const QPointF c = mundo.map(posiciones_[size_t(k)]);
@@ -170,7 +180,8 @@ void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& 
             MarcaNodo(p, c, RadioNodo, presiones_.colores[size_t(claseNodo_[size_t(k)])], false);
         }
     }
-    const bool etiquetas = (todasLasEtiquetas && nodos.size() <= 3000) || int(nodos.size()) <= MaximoEtiquetasVisibles;
+    const bool etiquetas = (pixelesTramo >= 45.0 || int(nodos.size()) <= 12) &&
+                           int(nodos.size()) <= (todasLasEtiquetas ? 3000 : MaximoEtiquetasVisibles);
     if (etiquetas) {
         const QFontMetricsF m(fuenteNegrita_), mNormal(fuente_);
         for (int k : nodos) {
@@ -188,7 +199,6 @@ void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& 
             p.drawText(c + QPointF(0, m.height()), x.textoPresion);
         }
     }
-    Q_UNUSED(escala);
     PintarEscala(p, mundo, destino);
     PintarLeyenda(p, destino);
     p.restore();

@@ -69,6 +69,7 @@ private:
     std::vector<int> claseTramo_;
     std::vector<int> claseNodo_;
     QRectF limites_;
+    double longitudTipica_ = 1.0;  // the median section, world units
     bool dispuesto_ = false;
     QFont fuente_, fuenteNegrita_;
 };
