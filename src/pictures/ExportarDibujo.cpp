@@ -35,7 +35,8 @@ bool ExportarDibujo(const Dibujo& d, const QString& ruta, QString& error) {
     }
     QSaveFile archivo(ruta);
     if (!archivo.open(QIODevice::WriteOnly)) {
-        error = QStringLiteral("No se puede escribir el archivo \"%1\": %2").arg(ruta, archivo.errorString());
+        error = QStringLiteral("No se puede escribir el archivo \"%1\": la carpeta no existe o no admite escritura.")
+                    .arg(ruta);
         return false;
     }
     const QSizeF tamano = d.TamanoNatural();

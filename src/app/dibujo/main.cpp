@@ -18,6 +18,13 @@
 
 namespace {
 
+// The toolkit's notes about the desktop session (a missing runtime folder
+// and the like) mean nothing to a drawing without a display.
+void Mensajes(QtMsgType tipo, const QMessageLogContext&, const QString& texto) {
+    if (tipo == QtDebugMsg || tipo == QtInfoMsg || texto.startsWith(QLatin1String("QStandardPaths:"))) return;
+    fprintf(stderr, "%s\n", texto.toLocal8Bit().constData());
+}
+
 int Fallar(const QString& mensaje) {
     fprintf(stderr, "%s\n", mensaje.toLocal8Bit().constData());
     return 1;
@@ -27,6 +34,7 @@ int Fallar(const QString& mensaje) {
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(Mensajes);
     QGuiApplication app(argc, argv);
     const QStringList args = app.arguments();
     if (args.size() != 3 && args.size() != 4)
