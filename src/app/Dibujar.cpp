@@ -15,18 +15,6 @@
 
 extern char** environ;
 
-namespace {
-
-std::string RutaDibujante() {
-    std::string ruta(4096, '\0');
-    const ssize_t n = readlink("/proc/self/exe", ruta.data(), ruta.size() - 1);
-    ruta = n > 0 ? ruta.substr(0, size_t(n)) : std::string();
-    const size_t barra = ruta.rfind('/');
-    return (barra == std::string::npos ? std::string() : ruta.substr(0, barra + 1)) + "fontaria-dibujo";
-}
-
-}  // namespace
-
 bool ExtensionDibujoValida(const QString& ruta, QString& error) {
     const QString ext = QFileInfo(ruta).suffix().toLower();
     if (ext == QLatin1String("png") || ext == QLatin1String("svg") || ext == QLatin1String("pdf")) return true;
@@ -40,7 +28,7 @@ int Dibujar(const QJsonObject& datos, const QString& ruta, const QStringList& ex
     if (!temporal.open() || temporal.write(QJsonDocument(datos).toJson(QJsonDocument::Compact)) < 0 ||
         !temporal.flush())
         return Fallar(QStringLiteral("No se pudo preparar el dibujo en la carpeta temporal."));
-    const std::string programa = RutaDibujante();
+    const std::string programa = ProgramaVecino("fontaria-dibujo");
     std::vector<std::string> args{programa, QFile::encodeName(temporal.fileName()).toStdString(),
                                   QFile::encodeName(ruta).toStdString()};
     for (const QString& e : extra) args.push_back(e.toStdString());
