@@ -94,9 +94,12 @@ void VentanaAnalisisRed::EsquemaCambiado() {
 
 void VentanaAnalisisRed::DibujarEsquema() {
     if (esquemaVigente_) return;
-    const bool primero = !dibujo_;
     auto nuevo = std::make_unique<EsquemaEdificio>(EsquemaDeProyecto(p_, &logica_.Spread3));
-    esquema_->MostrarDibujo(nuevo.get(), primero);
+    // Another project, or another shape of this one, is shown whole; an
+    // edit of sizes or valves keeps the view where the engineer looks.
+    const bool otro = !dibujo_ || dibujo_->Limites() != nuevo->Limites() ||
+                      dibujo_->Datos().titulo != nuevo->Datos().titulo;
+    esquema_->MostrarDibujo(nuevo.get(), otro);
     dibujo_ = std::move(nuevo);
     esquemaVigente_ = true;
 }
