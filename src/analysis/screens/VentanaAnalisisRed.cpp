@@ -95,10 +95,14 @@ void VentanaAnalisisRed::EsquemaCambiado() {
 void VentanaAnalisisRed::DibujarEsquema() {
     if (esquemaVigente_) return;
     auto nuevo = std::make_unique<EsquemaEdificio>(EsquemaDeProyecto(p_, &logica_.Spread3));
-    // Another project, or another shape of this one, is shown whole; an
+    // Another project, or other nodes or floors, is shown whole; an
     // edit of sizes or valves keeps the view where the engineer looks.
-    const bool otro = !dibujo_ || dibujo_->Limites() != nuevo->Limites() ||
-                      dibujo_->Datos().titulo != nuevo->Datos().titulo;
+    auto forma = [](const DatosEsquema& e) {
+        QStringList nodos{e.titulo};
+        for (const NodoEsquema& n : e.nodos) nodos << n.nombre + QLatin1Char('@') + n.textoCota;
+        return nodos;
+    };
+    const bool otro = !dibujo_ || forma(dibujo_->Datos()) != forma(nuevo->Datos());
     esquema_->MostrarDibujo(nuevo.get(), otro);
     dibujo_ = std::move(nuevo);
     esquemaVigente_ = true;
