@@ -141,6 +141,15 @@ TEST(Plano, ElJsonLlevaLoMismoYRechazaOtraCosa) {
         // The ends are those the section names.
         EXPECT_EQ(a.nodos[size_t(a.tramos[t].nodoI)].nombre, p.Inicio[int(t) + 1].trimmed());
     }
+    // The marks of the session travel with the plan, for its legend and scale.
+    for (const char* lugar : {"es_ES", "es_MX", "C"}) {
+        MarcasPrueba marcas(lugar);
+        const DatosPlano c = PlanoDeProyecto(p);
+        EXPECT_TRUE(PlanoDeJson(PlanoComoJson(c), b, error));
+        EXPECT_EQ(b.decimal, SeparadoresActuales().decimal) << lugar;
+        EXPECT_EQ(b.miles, SeparadoresActuales().miles) << lugar;
+        EXPECT_TRUE(c.nodos[1].textoPresion.contains(SeparadoresActuales().decimal)) << lugar;
+    }
     EXPECT_FALSE(PlanoDeJson(QJsonObject{{QStringLiteral("tipo"), QStringLiteral("esquema")}}, b, error));
     EXPECT_EQ(error, QStringLiteral("El archivo no contiene el plano de una red de acueductos."));
 }
