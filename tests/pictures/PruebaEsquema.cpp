@@ -6,6 +6,7 @@
 
 #include "ApoyoDibujos.h"
 #include "pictures/EsquemaEdificio.h"
+#include "pictures/PlanoAcueducto.h"
 #include "widgets/Colores.h"
 
 #include <QFile>
@@ -108,4 +109,21 @@ TEST(Esquema, LasCifrasSiguenLasMarcasDelLugar) {
         EXPECT_EQ(d.nodos[6].textoCota, QStringLiteral("2") + decimal + QStringLiteral("90 m")) << lugar;
         EXPECT_TRUE(d.ramales[0].gasto.contains(decimal)) << lugar;
     }
+}
+
+TEST(Esquema, UnaRedVaciaOUnRamalSinOrigenSeDibujanIgual) {
+    SesionPrueba sp;
+    const EsquemaEdificio vacio{DatosEsquema()};
+    EXPECT_FALSE(QImage(Exportar(vacio, sp.Datos(QString()), QStringLiteral("v.png"))).isNull());
+    const PlanoAcueducto sinNodos{DatosPlano()};
+    EXPECT_FALSE(QImage(Exportar(sinNodos, sp.Datos(QString()), QStringLiteral("p.png"))).isNull());
+    // Branch 2 starts at a node no earlier branch reaches: it stands apart,
+    // to the right of the tree, and nothing is drawn from the origin to it.
+    DatosEsquema e;
+    for (const char* n : {"A", "B", "C"}) e.nodos.push_back({QString::fromLatin1(n), 0.0, QStringLiteral("0.00 m")});
+    e.ramales.push_back({1, 0, 1, QString(), QString()});
+    e.ramales.push_back({2, -1, 2, QString(), QString()});
+    const EsquemaEdificio dibujo(e);
+    EXPECT_GT(dibujo.PosicionNodo(2).x(), dibujo.PosicionNodo(1).x());
+    EXPECT_FALSE(dibujo.EtiquetaNodo(2).intersects(dibujo.EtiquetaNodo(1)));
 }
