@@ -142,7 +142,7 @@ void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& 
         p.setPen(QPen(clases_.colores[c], 3.0, Qt::SolidLine, Qt::RoundCap));
         p.drawLines(porClase[c].data(), int(porClase[c].size()));
     }
-    // Arrows where the section is long enough on the page, a quarter of the way on.
+    // Arrows where the section is long enough on the page, at its middle.
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(50, 50, 50));
     for (int t : visibles) {
@@ -152,7 +152,7 @@ void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& 
         QLineF d = q > 0 ? l : QLineF(l.p2(), l.p1());
         const QPointF u = (d.p2() - d.p1()) / d.length();
         const QPointF n(-u.y(), u.x());
-        const QPointF c = d.pointAt(0.62);
+        const QPointF c = d.pointAt(0.5);
         p.drawPolygon(QPolygonF{c + 6 * u, c - 4 * u + 4 * n, c - 4 * u - 4 * n});
     }
 
@@ -234,7 +234,7 @@ void PlanoAcueducto::PintarLeyenda(QPainter& p, const QRectF& destino) const {
         if (i == int(c.limites.size())) return Numero(c.limites.back(), mascara) + QStringLiteral(" o más");
         return Numero(c.limites[size_t(i) - 1], mascara) + QStringLiteral(" a ") + Numero(c.limites[size_t(i)], mascara);
     };
-    const int filas = 3 + int(clases_.colores.size()) + 1 + int(presiones_.colores.size()) + 2 + (dispuesto_ ? 2 : 0);
+    const int filas = 3 + int(clases_.colores.size()) + 1 + int(presiones_.colores.size()) + 4 + (dispuesto_ ? 2 : 0);
     const double ancho = AnchoLeyenda - 16;
     const QRectF caja(destino.right() - ancho - 8, destino.top() + 8, ancho, filas * linea + 10);
     p.setPen(QPen(QColor(120, 120, 120), 1));
@@ -267,6 +267,15 @@ void PlanoAcueducto::PintarLeyenda(QPainter& p, const QRectF& destino) const {
         p.setPen(Qt::black);
         p.setFont(fuente_);
         p.drawText(QPointF(x + 30, y), rango(presiones_, i, "0"));
+        y += linea;
+    }
+    for (const auto& [color, texto] : {std::pair{ColorPresionMinima, "Presión mínima del caso"},
+                                       std::pair{ColorPresionMaxima, "Presión máxima del caso"}}) {
+        p.setPen(QPen(QColor(80, 80, 80), 1.0));
+        p.setBrush(ColorNivo(color));
+        p.drawEllipse(QPointF(x + 11, y - m.ascent() / 2), RadioNodo + 4, RadioNodo + 4);
+        p.setPen(Qt::black);
+        p.drawText(QPointF(x + 30, y), QString::fromUtf8(texto));
         y += linea;
     }
     p.setPen(QPen(Qt::black, 1.2));
