@@ -12,10 +12,6 @@
 #include <QSvgGenerator>
 #include <cmath>
 
-QString FiltroDibujo() {
-    return QStringLiteral("Imagen PNG (*.png)|*.png|Dibujo SVG (*.svg)|*.svg|Documento PDF (*.pdf)|*.pdf");
-}
-
 namespace {
 
 void PintarEntero(QPainter& p, const Dibujo& d, const QRectF& pagina) {

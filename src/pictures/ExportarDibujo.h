@@ -6,9 +6,6 @@
 
 class Dibujo;
 
-// The filter of the save dialogs, in the dialogs' own form.
-QString FiltroDibujo();
-
 // False, with the reason in Spanish, for another extension or a file that
 // cannot be written.
 bool ExportarDibujo(const Dibujo& d, const QString& ruta, QString& error);
