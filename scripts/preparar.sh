@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 PAQUETES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libsqlite3-dev
           libgtest-dev googletest libbenchmark-dev libeigen3-dev fonts-dejavu-core
           qt6-translations-l10n libopencv-imgproc-dev libopencv-photo-dev poppler-utils
-          libxlsxwriter-dev libzip-dev "$@")
+          libxlsxwriter-dev libzip-dev qt6-svg-dev "$@")
 
 faltan=()
 for p in "${PAQUETES[@]}"; do

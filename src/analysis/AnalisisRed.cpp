@@ -20,6 +20,7 @@ QString AnalisisRed::TituloPestana(int tab) {
     case 2: return QStringLiteral("UNIDADES DE GASTO");
     case 3: return QStringLiteral("LONGITUDES EQUIVALENTES");
     case 4: return QStringLiteral("PERDIDAS Y PRESIONES");
+    case PestanaEsquema: return QStringLiteral("ESQUEMA");
     default: return QString();
     }
 }
@@ -109,7 +110,7 @@ void AnalisisRed::Cargar() {
 }
 
 void AnalisisRed::CambiarTab(int tab) {
-    if (tab >= 1 && tab <= 4) Tab = tab;
+    if (tab >= 1 && tab <= PestanaEsquema) Tab = tab;
 }
 
 void AnalisisRed::Reconstruir() {

@@ -88,7 +88,9 @@ public:
     QString TextoPresionNegativa() const;
     QString AvisoErrorRed() const;         // empty when the network is sound
     QString Caption;
-    int Tab = 1;                 // 1..4
+    // Tab 5 draws the network's schematic from the same results.
+    static constexpr int PestanaEsquema = 5;
+    int Tab = 1;                 // 1..5
     bool LSButton2Disponible() const { return Tab == 1; }
     bool LSButton9Disponible() const { return Tab == 1; }
 

@@ -5,6 +5,7 @@
 
 #include <QJsonDocument>
 #include <cstdio>
+#include <unistd.h>
 
 namespace {
 
@@ -83,4 +84,12 @@ int EjecutarLineaComandos(const QStringList& args) {
         return Salida::Bien;
     }
     return Fallar(QStringLiteral("Verbo desconocido: ") + verbo + QLatin1Char('\n') + QString::fromUtf8(Uso()));
+}
+
+std::string ProgramaVecino(const char* nombre) {
+    std::string ruta(4096, '\0');
+    const ssize_t n = readlink("/proc/self/exe", ruta.data(), ruta.size() - 1);
+    ruta = n > 0 ? ruta.substr(0, size_t(n)) : std::string();
+    const size_t barra = ruta.rfind('/');
+    return (barra == std::string::npos ? std::string() : ruta.substr(0, barra + 1)) + nombre;
 }

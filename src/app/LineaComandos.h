@@ -6,6 +6,7 @@
 
 #include <QJsonObject>
 #include <QStringList>
+#include <string>
 
 struct Sesion;
 
@@ -24,6 +25,10 @@ int EjecutarLineaComandos(const QStringList& args);
 // A session for a verb: program folder, separators and user name, without
 // touching the user's folders.
 void PrepararSesion(Sesion& s);
+
+// An executable in this program's folder, found from the running image
+// itself rather than from argv[0], which a shell may give bare.
+std::string ProgramaVecino(const char* nombre);
 
 // Output helpers.
 void Imprimir(const QString& texto);

@@ -1,14 +1,17 @@
 // fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]
+//                          [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida]]
 //                          [--limite-iteraciones N]  (for tests: a pass that does not converge)
 // fontaria acueducto exportar X.acu | importar datos.json X.acu
 // fontaria acueducto importar-inp red.inp X.acu [--bomba-como-carga] [--c-por-defecto]
 // fontaria acueducto exportar-inp X.acu red.inp
 
+#include "app/Dibujar.h"
 #include "app/LineaComandos.h"
 #include "aqueduct/AcueductoJson.h"
 #include "aqueduct/AnalisisACU.h"
 #include "aqueduct/ArchivoAcueducto.h"
 #include "aqueduct/CasosDemanda.h"
+#include "aqueduct/DatosPlano.h"
 #include "aqueduct/ExportarInp.h"
 #include "aqueduct/ImportarInp.h"
 #include "aqueduct/ProyectoAcueducto.h"
@@ -41,8 +44,12 @@ private:
 
 const char* UsoAcueducto() {
     return "Uso: fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]\n"
-           "     fontaria acueducto exportar X.acu | importar datos.json X.acu\n"
-           "     fontaria acueducto importar-inp red.inp X.acu [--bomba-como-carga] [--c-por-defecto]\n"
+           "     [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida]]
+"
+           "     fontaria acueducto exportar X.acu | importar datos.json X.acu
+"
+           "     fontaria acueducto importar-inp red.inp X.acu [--bomba-como-carga] [--c-por-defecto]
+"
            "     fontaria acueducto exportar-inp X.acu red.inp";
 }
 
@@ -52,6 +59,8 @@ struct Opciones {
     bool json = false;
     bool corregir = false;
     int limite = 0;  // 0: the solver's own
+    QString plano;   // the picture to draw, null when none
+    bool colorPerdida = false;
 };
 
 bool LeerOpciones(const QStringList& args, Opciones& o, QString& error) {
@@ -68,6 +77,20 @@ bool LeerOpciones(const QStringList& args, Opciones& o, QString& error) {
                 error = QStringLiteral("El caso de demanda debe ser 1, 2 ó 3.");
                 return false;
             }
+        } else if (a == QLatin1String("--plano")) {
+            o.plano = i + 1 < args.size() ? args[++i] : QString();
+            if (o.plano.isEmpty()) {
+                error = QStringLiteral("Falta el archivo del plano tras --plano.");
+                return false;
+            }
+            if (!ExtensionDibujoValida(o.plano, error)) return false;
+        } else if (a == QLatin1String("--color")) {
+            const QString c = i + 1 < args.size() ? args[++i] : QString();
+            if (c != QLatin1String("velocidad") && c != QLatin1String("perdida")) {
+                error = QStringLiteral("El color del plano debe ser velocidad o perdida.");
+                return false;
+            }
+            o.colorPerdida = c == QLatin1String("perdida");
         } else if (a == QLatin1String("--limite-iteraciones")) {
             bool ok = false;
             o.limite = i + 1 < args.size() ? args[++i].toInt(&ok) : 0;
@@ -151,9 +174,14 @@ int Analizar(const Opciones& o) {
         if (p.ErrorAnalisis == 1) return falla();
         fprintf(stderr, "%s\n", mensaje.toUtf8().constData());
     }
+    if (!o.plano.isNull()) {
+        const int estado = Dibujar(PlanoComoJson(PlanoDeProyecto(p, CoordenadasNodos(p))), o.plano,
+                                   o.colorPerdida ? QStringList{QStringLiteral("perdida")} : QStringList{});
+        if (estado != Salida::Bien) return estado;
+    }
     if (o.json)
         ImprimirResultados(p, mensaje);
-    else
+    else if (o.plano.isNull())
         ImprimirTexto(p, s);
     // The results stand, but the engineer must know they are not final.
     for (const QString& linea : LineasSinConvergencia(p)) Fallar(QStringLiteral("Aviso: ") + linea);

@@ -1,5 +1,7 @@
 #include "analysis/AnalisisRed.h"
+#include "analysis/DatosEsquema.h"
 #include "analysis/Numeracion.h"
+#include "app/Dibujar.h"
 #include "app/LineaComandos.h"
 #include "app/SalidaEdificio.h"
 #include "base/ErrorEjecucion.h"
@@ -107,10 +109,15 @@ void ImprimirGrids(const AnalisisRed& a) {
 
 }  // namespace
 
-// fontaria analizar X.plm [--json|--grids]
+// fontaria analizar X.plm [--json|--grids] [--esquema dibujo.svg|.png|.pdf]
 int VerboAnalizar(const QStringList& args) {
-    const ArgumentosVerbo a = LeerArgumentos(args, {}, {QStringLiteral("json"), QStringLiteral("grids")});
-    if (!a.error.isEmpty() || a.archivo.isEmpty()) return FallaDeUso(a, "Uso: fontaria analizar X.plm [--json|--grids]");
+    const ArgumentosVerbo a =
+        LeerArgumentos(args, {QStringLiteral("esquema")}, {QStringLiteral("json"), QStringLiteral("grids")});
+    if (!a.error.isEmpty() || a.archivo.isEmpty())
+        return FallaDeUso(a, "Uso: fontaria analizar X.plm [--json|--grids] [--esquema dibujo.svg|.png|.pdf]");
+    const QString esquema = a.Valor(QStringLiteral("esquema"));
+    QString error;
+    if (!esquema.isNull() && !ExtensionDibujoValida(esquema, error)) return Fallar(error);
     const bool json = a.Tiene(QStringLiteral("json"));
     ContextoVerbo c(json);
     if (!c.Cargar(a.archivo)) return Salida::Falla;
@@ -132,7 +139,12 @@ int VerboAnalizar(const QStringList& args) {
             if (json) ImprimirJson(ResultadosComoJson(p, d.ultimoTexto));
             return Salida::DatosInvalidos;
         }
+        if (!esquema.isNull()) {
+            const int estado = Dibujar(EsquemaComoJson(EsquemaDeProyecto(p, &analisis.Spread3)), esquema);
+            if (estado != Salida::Bien) return estado;
+        }
         if (json) ImprimirJson(ResultadosComoJson(p, QString(), &analisis));
+        else if (!esquema.isNull() && !a.Tiene(QStringLiteral("grids"))) return Salida::Bien;
         else if (a.Tiene(QStringLiteral("grids"))) ImprimirGrids(analisis);
         else ImprimirResultados(p, analisis);
     } catch (const ErrorEjecucion& e) {

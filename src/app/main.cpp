@@ -13,23 +13,9 @@
 #include <string>
 #include <unistd.h>
 
-namespace {
-
-// The desktop executable in this program's folder, found from the running
-// image itself rather than from argv[0], which a shell may give bare.
-std::string RutaEscritorio(const char* argv0) {
-    std::string ruta(4096, '\0');
-    const ssize_t n = readlink("/proc/self/exe", ruta.data(), ruta.size() - 1);
-    ruta = n > 0 ? ruta.substr(0, size_t(n)) : std::string(argv0);
-    const size_t barra = ruta.rfind('/');
-    return (barra == std::string::npos ? std::string() : ruta.substr(0, barra + 1)) + "fontaria-escritorio";
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
     if (argc < 2) {
-        const std::string escritorio = RutaEscritorio(argv[0]);
+        const std::string escritorio = ProgramaVecino("fontaria-escritorio");
         execv(escritorio.c_str(), argv);
         fprintf(stderr, "No se puede abrir el programa de escritorio %s: %s\n", escritorio.c_str(), strerror(errno));
         return Salida::Falla;

@@ -63,7 +63,7 @@ TEST_F(PantallaAnalisis, AbreConSuTituloPanelYMarcoDelTanque) {
     // OpcionPresionInicial 2: the box of the tank height shows branch 1's length.
     EXPECT_TRUE(v->Frame3()->isVisible());
     EXPECT_DOUBLE_EQ(v->Double1()->Valor(), p.longitudReal[1]);
-    ASSERT_EQ(v->Tabs()->count(), 4);
+    ASSERT_EQ(v->Tabs()->count(), 5);  // the four grids and the schematic
     EXPECT_EQ(v->Tabs()->tabText(3).trimmed(), QStringLiteral("PERDIDAS Y PRESIONES"));
     EXPECT_EQ(v->Tabs()->Tab(), 1);
 }

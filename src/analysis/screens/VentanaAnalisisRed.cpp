@@ -1,7 +1,11 @@
 #include "analysis/screens/VentanaAnalisisRed.h"
 
+#include "analysis/DatosEsquema.h"
 #include "entry/screens/VentanaComentarioRamal.h"
 #include "entry/screens/VentanaDatosRamales.h"
+#include "model/ProyectoEdificio.h"
+#include "pictures/EsquemaEdificio.h"
+#include "pictures/screens/VistaDibujo.h"
 #include "reports/screens/VentanaImpreResultados.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
@@ -42,7 +46,7 @@ VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos&
     auto* capa = new QVBoxLayout(this);
     tab_ = new NivoTab(this);
     tab_->setObjectName(QStringLiteral("Tab1"));
-    for (int t = 1; t <= 4; ++t) tab_->addTab(QStringLiteral("  ") + AnalisisRed::TituloPestana(t) + QStringLiteral("  "));
+    for (int t = 1; t <= AnalisisRed::PestanaEsquema; ++t) tab_->addTab(QStringLiteral("  ") + AnalisisRed::TituloPestana(t) + QStringLiteral("  "));
     capa->addWidget(tab_);
 
     pila_ = new QStackedWidget(this);
@@ -54,6 +58,11 @@ VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos&
         vistas_[t]->MostrarGrid(grids[t]);
         pila_->addWidget(vistas_[t]);
     }
+    esquema_ = new PanelDibujo(d_, QStringLiteral("Exportar el Esquema de la Red"),
+                               [this] { return s_.RutaDatos(QStringLiteral("ReportesExportados")); }, pila_);
+    esquema_->setObjectName(QStringLiteral("Esquema"));
+    esquema_->Vista()->textoElemento = [this](const ElementoDibujo& e) { return AyudaEsquema(e.tipo, e.indice); };
+    pila_->addWidget(esquema_);
     // The comment column takes the width left over.
     vistas_[0]->horizontalHeader()->setStretchLastSection(true);
     capa->addWidget(pila_, 1);
@@ -78,6 +87,40 @@ VentanaAnalisisRed::VentanaAnalisisRed(ProyectoEdificio& p, Sesion& s, Dialogos&
 
 VentanaAnalisisRed::~VentanaAnalisisRed() {
     for (VistaGrid* v : vistas_) v->MostrarGrid(nullptr);
+    esquema_->MostrarDibujo(nullptr, false);
+}
+
+void VentanaAnalisisRed::EsquemaCambiado() {
+    esquemaVigente_ = false;
+    if (logica_.Tab == AnalisisRed::PestanaEsquema) DibujarEsquema();
+}
+
+void VentanaAnalisisRed::DibujarEsquema() {
+    if (esquemaVigente_) return;
+    auto nuevo = std::make_unique<EsquemaEdificio>(EsquemaDeProyecto(p_, &logica_.Spread3));
+    // Another project, or other nodes or floors, is shown whole; an
+    // edit of sizes or valves keeps the view where the engineer looks.
+    auto forma = [](const DatosEsquema& e) {
+        QStringList nodos{e.titulo};
+        for (const NodoEsquema& n : e.nodos) nodos << n.nombre + QLatin1Char('@') + n.textoCota;
+        return nodos;
+    };
+    const bool otro = !dibujo_ || forma(dibujo_->Datos()) != forma(nuevo->Datos());
+    esquema_->MostrarDibujo(nuevo.get(), otro);
+    dibujo_ = std::move(nuevo);
+    esquemaVigente_ = true;
+}
+
+QString VentanaAnalisisRed::AyudaEsquema(int tipo, int indice) const {
+    if (!dibujo_) return QString();
+    const DatosEsquema& e = dibujo_->Datos();
+    if (tipo == ElementoDibujo::Tubo) return FilaComoTexto(logica_.Spread3, e.ramales[size_t(indice)].numero);
+    const NodoEsquema& n = e.nodos[size_t(indice)];
+    QString t = QStringLiteral("Nodo: ") + n.nombre + QStringLiteral("\nCota de piso: ") + n.textoCota;
+    if (!n.textoPresion.isEmpty()) t += QStringLiteral("\nPresión: ") + n.textoPresion;
+    if (n.desfavorable) t += QStringLiteral("\nNodo desfavorable");
+    if (n.sobreMaxima) t += QStringLiteral("\nPresión mayor que la máxima");
+    return t;
 }
 
 QWidget* VentanaAnalisisRed::LineaEstado() {
@@ -201,6 +244,7 @@ bool VentanaAnalisisRed::Cargar() {
     for (VistaGrid* v : vistas_) v->Refrescar();
     tab_->PonerTab(logica_.Tab);
     pila_->setCurrentIndex(logica_.Tab - 1);
+    EsquemaCambiado();
     MostrarEstado();
     return true;
 }
@@ -243,6 +287,7 @@ void VentanaAnalisisRed::AbrirComentario() {
         [this] {
             vistas_[0]->Refrescar();
             vistas_[0]->MostrarActiva();
+            EsquemaCambiado();
         },
         this);
     comentario.exec();
@@ -257,6 +302,7 @@ void VentanaAnalisisRed::ImprimirResultados() {
 void VentanaAnalisisRed::CambiarTab(int tab) {
     logica_.CambiarTab(tab);
     pila_->setCurrentIndex(logica_.Tab - 1);
+    if (logica_.Tab == AnalisisRed::PestanaEsquema) DibujarEsquema();
     MostrarEstado();
 }
 
@@ -265,7 +311,9 @@ void VentanaAnalisisRed::Evento(const std::function<void()>& f, std::initializer
         reject();
         return;
     }
-    for (int t : tabs) vistas_[t - 1]->Refrescar();
+    for (int t : tabs)
+        if (t >= 1 && t <= 4) vistas_[t - 1]->Refrescar();
+    EsquemaCambiado();
     MostrarEstado();
 }
 

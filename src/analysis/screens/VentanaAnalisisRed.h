@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <functional>
 #include <initializer_list>
+#include <memory>
 
 class QGroupBox;
 class QLabel;
@@ -18,6 +19,8 @@ class NivoDouble;
 class NivoTab;
 class NivoToolTip;
 class VistaGrid;
+class EsquemaEdificio;
+class PanelDibujo;
 
 class VentanaAnalisisRed : public QDialog {
     Q_OBJECT
@@ -44,8 +47,15 @@ public:
     NivoToolTip* Tip() const { return tip_; }
     // A button by its control name ("LSButton1" ...).
     QPushButton* Boton(const QString& nombre) const;
+    // Tab 5: the schematic of the network, drawn again after every change.
+    PanelDibujo* Esquema() const { return esquema_; }
+    const EsquemaEdificio* Dibujo() const { return dibujo_.get(); }
 
 private:
+    // Marks the schematic as stale, and draws it now when its tab shows.
+    void EsquemaCambiado();
+    void DibujarEsquema();
+    QString AyudaEsquema(int tipo, int indice) const;
     QWidget* Botonera();
     QWidget* LineaEstado();
     void CambiarTab(int tab);
@@ -80,4 +90,7 @@ private:
     QLabel* presionNegativa_;
     QLabel* avisoRed_;
     NivoToolTip* tip_;
+    PanelDibujo* esquema_;
+    std::unique_ptr<EsquemaEdificio> dibujo_;
+    bool esquemaVigente_ = false;
 };

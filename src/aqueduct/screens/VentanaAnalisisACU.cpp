@@ -1,8 +1,12 @@
 #include "aqueduct/screens/VentanaAnalisisACU.h"
 
+#include "aqueduct/DatosPlano.h"
+#include "aqueduct/ProyectoAcueducto.h"
 #include "aqueduct/screens/ComunACU.h"
 #include "aqueduct/screens/VentanaDatosAcueducto.h"
 #include "entry/screens/VentanaBuscarPartida.h"
+#include "pictures/PlanoAcueducto.h"
+#include "pictures/screens/VistaDibujo.h"
 #include "reports/screens/VentanaImpreAcueducto.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoToolTip.h"
@@ -56,6 +60,22 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
     spread2_->horizontalHeader()->setStretchLastSection(true);
     tab1_->addTab(spread1_, QStringLiteral("Resultados del Análisis de los Ramales"));
     tab1_->addTab(spread2_, QStringLiteral("Resultados del Análisis de los Nodos"));
+    plano_ = new PanelDibujo(d_, QStringLiteral("Exportar el Plano de la Red"),
+                             [this] { return s_.RutaDatos(QStringLiteral("ReportesExportados")); }, tab1_);
+    plano_->setObjectName(QStringLiteral("Plano"));
+    colorPlano_ = new QComboBox(plano_);
+    colorPlano_->setObjectName(QStringLiteral("ColorPlano"));
+    colorPlano_->addItems({QStringLiteral("Color de los ramales: velocidad"),
+                           QStringLiteral("Color de los ramales: pérdida unitaria")});
+    colorPlano_->setToolTip(QStringLiteral("Colorear los ramales por su velocidad o por su pérdida unitaria. "));
+    plano_->Barra()->insertWidget(0, colorPlano_);
+    plano_->Vista()->textoElemento = [this](const ElementoDibujo& e) { return AyudaPlano(e.tipo, e.indice); };
+    connect(colorPlano_, &QComboBox::currentIndexChanged, this, [this](int i) {
+        if (!dibujo_) return;
+        dibujo_->PonerModo(i == 1 ? ::ColorPlano::PerdidaUnitaria : ::ColorPlano::Velocidad);
+        plano_->MostrarDibujo(dibujo_.get(), false);
+    });
+    tab1_->addTab(plano_, QStringLiteral("PLANO"));
     capa->addWidget(tab1_, 1);
 
     // A pass that did not converge: its results stay, the line says so in red.
@@ -142,6 +162,33 @@ VentanaAnalisisACU::VentanaAnalisisACU(ProyectoAcueducto& p, Sesion& s, Dialogos
 VentanaAnalisisACU::~VentanaAnalisisACU() {
     spread1_->MostrarGrid(nullptr);
     spread2_->MostrarGrid(nullptr);
+    plano_->MostrarDibujo(nullptr, false);
+}
+
+void VentanaAnalisisACU::DibujarPlano() {
+    if (planoVigente_) return;
+    planoVigente_ = true;
+    if (logica_.Spread1.Filas() == 0) {
+        plano_->MostrarDibujo(nullptr, false);
+        dibujo_.reset();
+        return;
+    }
+    // The same network in another case keeps its layout and the view.
+    QStringList red;
+    for (int t = 1; t <= p_.NumeroTramos; ++t) red << p_.Inicio.Leer(t) + QLatin1Char('\t') + p_.Final.Leer(t);
+    const bool misma = dibujo_ && red == redDibujada_;
+    const std::vector<QPointF> previas = misma ? dibujo_->Posiciones() : std::vector<QPointF>();
+    auto nuevo = std::make_unique<PlanoAcueducto>(
+        PlanoDeProyecto(p_, CoordenadasNodos(p_)),
+        colorPlano_->currentIndex() == 1 ? ::ColorPlano::PerdidaUnitaria : ::ColorPlano::Velocidad,
+        misma ? &previas : nullptr);
+    plano_->MostrarDibujo(nuevo.get(), !misma);
+    dibujo_ = std::move(nuevo);
+    redDibujada_ = red;
+}
+
+QString VentanaAnalisisACU::AyudaPlano(int tipo, int indice) const {
+    return FilaComoTexto(tipo == ElementoDibujo::Tubo ? logica_.Spread1 : logica_.Spread2, indice + 1);
 }
 
 QPushButton* VentanaAnalisisACU::Boton(const QString& nombre) const { return findChild<QPushButton*>(nombre); }
@@ -167,11 +214,14 @@ void VentanaAnalisisACU::Refrescar() {
         v->Refrescar();
         v->MostrarActiva();
     }
+    if (logica_.Pestana == 2) DibujarPlano();
     mostrando_ = false;
 }
 
 void VentanaAnalisisACU::Accion(const std::function<void()>& accion) {
     Proteger(d_, accion);
+    // Every event may have solved again: the plan follows.
+    planoVigente_ = false;
     Refrescar();
 }
 

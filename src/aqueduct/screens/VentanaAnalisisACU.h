@@ -9,7 +9,10 @@
 #include "aqueduct/AnalisisACU.h"
 
 #include <QDialog>
+#include <QPointF>
 #include <functional>
+#include <memory>
+#include <vector>
 
 class QComboBox;
 class QLabel;
@@ -17,6 +20,8 @@ class QPushButton;
 class QTabWidget;
 class NivoToolTip;
 class VistaGrid;
+class PanelDibujo;
+class PlanoAcueducto;
 
 class VentanaAnalisisACU : public QDialog {
     Q_OBJECT
@@ -35,6 +40,10 @@ public:
     QLabel* Aviso() const { return aviso_; }
     QPushButton* Boton(const QString& nombre) const;
     NivoToolTip* Tip() const { return tip_; }
+    // The third tab: the plan of the case shown, coloured by ColorPlano.
+    PanelDibujo* Plano() const { return plano_; }
+    QComboBox* ColorPlano() const { return colorPlano_; }
+    const PlanoAcueducto* Dibujo() const { return dibujo_.get(); }
 
     // Draws the logic's state: title, cases, tab, captions, grids.
     void Refrescar();
@@ -53,6 +62,8 @@ private:
     void BuscarRamal();
     void EditarRamales();
     void EnfocarGrid();
+    void DibujarPlano();
+    QString AyudaPlano(int tipo, int indice) const;
 
     AnalisisACU logica_;
     ProyectoAcueducto& p_;
@@ -68,4 +79,10 @@ private:
     VistaGrid* spread2_;
     bool mostrando_ = false;
     bool activada_ = false;
+    PanelDibujo* plano_;
+    QComboBox* colorPlano_;
+    std::unique_ptr<PlanoAcueducto> dibujo_;
+    bool planoVigente_ = false;
+    // The layout of the network last drawn, kept across the cases.
+    QStringList redDibujada_;
 };
