@@ -44,12 +44,9 @@ private:
 
 const char* UsoAcueducto() {
     return "Uso: fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]\n"
-           "     [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida]]
-"
-           "     fontaria acueducto exportar X.acu | importar datos.json X.acu
-"
-           "     fontaria acueducto importar-inp red.inp X.acu [--bomba-como-carga] [--c-por-defecto]
-"
+           "     [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida]]\n"
+           "     fontaria acueducto exportar X.acu | importar datos.json X.acu\n"
+           "     fontaria acueducto importar-inp red.inp X.acu [--bomba-como-carga] [--c-por-defecto]\n"
            "     fontaria acueducto exportar-inp X.acu red.inp";
 }
 

@@ -8,9 +8,12 @@
 #include <cmath>
 
 std::vector<std::optional<QPointF>> CoordenadasNodos(const ProyectoAcueducto& p) {
-    // The model has no node coordinates yet; once it has (X and Y per node,
-    // empty when not given) they are copied here.
-    return std::vector<std::optional<QPointF>>(size_t(std::max(int(p.NumeroNodosACU), 0)));
+    // A node is placed where the engineer put it only with both X and Y;
+    // the others are laid out around the placed ones.
+    std::vector<std::optional<QPointF>> c(size_t(std::max(int(p.NumeroNodosACU), 0)));
+    for (int n = 1; n <= p.NumeroNodosACU; ++n)
+        if (p.X.Leer(n) && p.Y.Leer(n)) c[size_t(n - 1)] = QPointF(*p.X.Leer(n), *p.Y.Leer(n));
+    return c;
 }
 
 DatosPlano PlanoDeProyecto(const ProyectoAcueducto& p, const std::vector<std::optional<QPointF>>& coordenadas) {

@@ -153,3 +153,17 @@ TEST(Plano, ElJsonLlevaLoMismoYRechazaOtraCosa) {
     EXPECT_FALSE(PlanoDeJson(QJsonObject{{QStringLiteral("tipo"), QStringLiteral("esquema")}}, b, error));
     EXPECT_EQ(error, QStringLiteral("El archivo no contiene el plano de una red de acueductos."));
 }
+
+TEST(Plano, LasCoordenadasDelModeloLleganAlPlano) {
+    SesionPrueba sp;
+    ProyectoAcueducto p;
+    ResolverRed(sp, p, QStringLiteral("EjemploRedB"), 1);
+    p.X[1] = 100.0;
+    p.Y[1] = 250.5;
+    p.X[2] = 40.0;  // X without Y: not a place
+    const std::vector<std::optional<QPointF>> c = CoordenadasNodos(p);
+    ASSERT_EQ(c.size(), size_t(int(p.NumeroNodosACU)));
+    EXPECT_EQ(c[0], QPointF(100.0, 250.5));
+    EXPECT_FALSE(c[1].has_value());
+    EXPECT_FALSE(c[2].has_value());
+}
