@@ -4,8 +4,15 @@
 #include "shell/Sesion.h"
 
 #include <QJsonDocument>
+#include <QFile>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+#include <spawn.h>
+#include <sys/wait.h>
 #include <unistd.h>
+
+extern char** environ;
 
 namespace {
 
@@ -92,4 +99,22 @@ std::string ProgramaVecino(const char* nombre) {
     ruta = n > 0 ? ruta.substr(0, size_t(n)) : std::string();
     const size_t barra = ruta.rfind('/');
     return (barra == std::string::npos ? std::string() : ruta.substr(0, barra + 1)) + nombre;
+}
+
+int EjecutarVecino(const char* nombre, const QStringList& argumentos) {
+    const std::string programa = ProgramaVecino(nombre);
+    std::vector<QByteArray> bytes{QByteArray::fromStdString(programa)};
+    for (const QString& a : argumentos) bytes.push_back(QFile::encodeName(a));
+    std::vector<char*> argv;
+    for (QByteArray& b : bytes) argv.push_back(b.data());
+    argv.push_back(nullptr);
+    pid_t hijo = 0;
+    if (const int e = posix_spawn(&hijo, programa.c_str(), nullptr, nullptr, argv.data(), environ); e != 0)
+        return Fallar(QStringLiteral("No se puede ejecutar %1: %2")
+                          .arg(QString::fromStdString(programa), QString::fromLocal8Bit(strerror(e))));
+    int estado = 0;
+    while (waitpid(hijo, &estado, 0) < 0)
+        if (errno != EINTR) return Fallar(QStringLiteral("Se perdió el proceso de %1.").arg(QString::fromLatin1(nombre)));
+    if (WIFEXITED(estado)) return WEXITSTATUS(estado);
+    return Fallar(QStringLiteral("El proceso de %1 terminó por la señal %2.").arg(QString::fromLatin1(nombre)).arg(WTERMSIG(estado)));
 }

@@ -29,11 +29,20 @@ void PrepararSesion(Sesion& s);
 // An executable in this program's folder, found from the running image
 // itself rather than from argv[0], which a shell may give bare.
 std::string ProgramaVecino(const char* nombre);
+// Runs that program with the arguments, waits for it and returns its exit
+// status; it says on the shared stderr what went wrong.
+int EjecutarVecino(const char* nombre, const QStringList& argumentos);
 
 // Output helpers.
 void Imprimir(const QString& texto);
 void ImprimirJson(const QJsonObject& o);
 int Fallar(const QString& mensaje, int estado = Salida::Falla);
+
+struct ProyectoAcueducto;
+struct Sesion;
+// An aqueduct file loaded for a verb; false, with the message and the exit
+// status, when it does not open or has no section.
+bool CargarRedVerbo(ProyectoAcueducto& p, Sesion& s, const QString& archivo, QString& mensaje, int& estado);
 
 // The questions of the logic answered on a console: messages go to stderr
 // and every question takes its default button.

@@ -44,12 +44,8 @@ int LleneResultadosEdificio(TrabajoReporte& t) {
 int LleneResultadosAcueducto(TrabajoReporte& t) {
     Sesion& s = t.c.s;
     ProyectoAcueducto p;
-    ValoresInicialesACU(p, s);
     QString error;
-    if (!CargarProyectoACU(p, s, t.archivo, error)) return Fallar(error);
-    if (p.NumeroTramos == 0)
-        return Fallar(s.NombreProyectoACU + QStringLiteral("\nNúmero de Ramales = 0\nRevise el Archivo de Datos..."),
-                      Salida::DatosInvalidos);
+    if (int estado = 0; !CargarRedVerbo(p, s, t.archivo, error, estado)) return Fallar(error, estado);
     AnalisisACU pantalla(p, s, t.c.d);
     if (!pantalla.VerificaTanque()) return Fallar(MensajeSinTanque(s.NombreProyectoACU), Salida::DatosInvalidos);
     p.CasoDemanda = uint8_t(t.caso);

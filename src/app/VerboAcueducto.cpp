@@ -127,6 +127,23 @@ void ImprimirResultados(const ProyectoAcueducto& p, const QString& mensaje) {
 
 // Ends the run with a message of the program: on stderr, and in the JSON
 // object when one is asked for.
+}  // namespace
+
+bool CargarRedVerbo(ProyectoAcueducto& p, Sesion& s, const QString& archivo, QString& mensaje, int& estado) {
+    ValoresInicialesACU(p, s);
+    estado = Salida::Falla;
+    if (!CargarProyectoACU(p, s, archivo, mensaje)) return false;
+    estado = Salida::DatosInvalidos;
+    if (p.NumeroTramos == 0) {
+        mensaje = s.NombreProyectoACU + QStringLiteral("\nNúmero de Ramales = 0\nRevise el Archivo de Datos...");
+        return false;
+    }
+    estado = Salida::Bien;
+    return true;
+}
+
+namespace {
+
 int Terminar(const Opciones& o, const ProyectoAcueducto& p, const QString& mensaje, int estado) {
     if (o.json) ImprimirResultados(p, mensaje);
     return Fallar(mensaje, estado);
@@ -137,13 +154,10 @@ int Analizar(const Opciones& o) {
     PrepararSesion(s);
     const Borrador borrador(s, false);
     ProyectoAcueducto p;
-    ValoresInicialesACU(p, s);
     QString error;
-    if (!CargarProyectoACU(p, s, o.archivo, error)) return Fallar(error);
-    if (p.NumeroTramos == 0)
-        return Terminar(o, p,
-                        s.NombreProyectoACU + QStringLiteral("\nNúmero de Ramales = 0\nRevise el Archivo de Datos..."),
-                        Salida::DatosInvalidos);
+    int estado = Salida::Bien;
+    if (!CargarRedVerbo(p, s, o.archivo, error, estado))
+        return estado == Salida::DatosInvalidos ? Terminar(o, p, error, estado) : Fallar(error, estado);
 
     DialogosConsola d;
     AnalisisACU pantalla(p, s, d);

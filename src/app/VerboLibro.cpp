@@ -63,12 +63,8 @@ int LibroAcueducto(const ArgumentosVerbo& a, const OpcionesLibro& o, const QStri
     std::optional<QTemporaryDir> temporal;
     if (!QDir(s.RutaDatos(QStringLiteral("Trabajo"))).exists()) s.DirectorioDatos = temporal.emplace().path();
     ProyectoAcueducto p;
-    ValoresInicialesACU(p, s);
     QString error;
-    if (!CargarProyectoACU(p, s, a.archivo, error)) return Fallar(error);
-    if (p.NumeroTramos == 0)
-        return Fallar(s.NombreProyectoACU + QStringLiteral("\nNúmero de Ramales = 0\nRevise el Archivo de Datos..."),
-                      Salida::DatosInvalidos);
+    if (int estado = 0; !CargarRedVerbo(p, s, a.archivo, error, estado)) return Fallar(error, estado);
     DialogosConsola d;
     AnalisisACU pantalla(p, s, d);
     pantalla.Cargar();

@@ -12,12 +12,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <cerrno>
-#include <cstring>
-#include <spawn.h>
-#include <sys/wait.h>
-
-extern char** environ;
 
 namespace {
 
@@ -58,25 +52,6 @@ void PrepararBorrador(Sesion& s, const QString& borrador) {
     if (QFileInfo(catalogo).isDir()) QFile::link(catalogo, s.RutaDatos(QStringLiteral("BDatos")));
 }
 
-// Runs fontaria-reporte and waits for it; its exit status.
-int Componer(const QStringList& argumentos) {
-    const QByteArray programa = QFile::encodeName(CarpetaPrograma() + QStringLiteral("/fontaria-reporte"));
-    std::vector<QByteArray> bytes{programa};
-    for (const QString& a : argumentos) bytes.push_back(QFile::encodeName(a));
-    std::vector<char*> argv;
-    for (QByteArray& b : bytes) argv.push_back(b.data());
-    argv.push_back(nullptr);
-    pid_t hijo = 0;
-    if (const int e = posix_spawn(&hijo, programa.constData(), nullptr, nullptr, argv.data(), environ); e != 0)
-        return Fallar(QStringLiteral("No se puede ejecutar %1: %2")
-                          .arg(QFile::decodeName(programa), QString::fromLocal8Bit(strerror(e))));
-    int estado = 0;
-    while (waitpid(hijo, &estado, 0) < 0)
-        if (errno != EINTR) return Fallar(QStringLiteral("Se perdió el proceso del reporte."));
-    if (WIFEXITED(estado)) return WEXITSTATUS(estado);
-    return Fallar(QStringLiteral("El proceso del reporte terminó por la señal %1.").arg(WTERMSIG(estado)));
-}
-
 }  // namespace
 
 int VerboReporte(const QStringList& args) {
@@ -115,5 +90,5 @@ int VerboReporte(const QStringList& args) {
     QStringList argumentos{formato, t.base, QString::fromLatin1(e->plantilla),
                            acueducto ? QStringLiteral("1") : QStringLiteral("0"), QFileInfo(salida).absoluteFilePath()};
     if (!t.generales.isEmpty()) argumentos << t.generales;
-    return Componer(argumentos);
+    return EjecutarVecino("fontaria-reporte", argumentos);
 }
