@@ -12,6 +12,7 @@
 #include "ApoyoPantallas.h"
 #include "analysis/screens/VentanaAnalisisRed.h"
 #include "reports/screens/VentanaImpreResultados.h"
+#include "takeoff/screens/VentanaComputos.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
 #include "widgets/NivoToolTip.h"
@@ -250,11 +251,14 @@ TEST_F(PantallaAnalisis, BotonesSegunLaPestanaYLosQueFaltan) {
     EXPECT_TRUE(Activo("LSButton9"));
     EXPECT_TRUE(Activo("LSButton11"));
     EXPECT_TRUE(Activo("LSButton4"));
-    // Listing: visible, disabled.
-    for (const char* b : {"LSButton8"}) {
-        EXPECT_TRUE(v->Boton(QString::fromLatin1(b))->isVisible()) << b;
-        EXPECT_FALSE(Activo(b)) << b;
-    }
+    // Listing: the take-off over this project, its "Abrir" hidden.
+    bool abrirVisible = true;
+    CuandoAbra<VentanaComputos>([&abrirVisible](VentanaComputos* w) {
+        abrirVisible = !w->findChild<QPushButton*>(QStringLiteral("Abrir"))->isHidden();
+        w->reject();
+    });
+    v->Boton(QStringLiteral("LSButton8"))->click();
+    EXPECT_FALSE(abrirVisible);
     // Print: the result reports over this analysis.
     EXPECT_TRUE(Activo("LSButton3"));
     bool abierta = false;

@@ -7,6 +7,7 @@
 #include "pictures/EsquemaEdificio.h"
 #include "pictures/screens/VistaDibujo.h"
 #include "reports/screens/VentanaImpreResultados.h"
+#include "takeoff/screens/VentanaComputos.h"
 #include "shell/Sesion.h"
 #include "widgets/NivoNumero.h"
 #include "widgets/NivoTab.h"
@@ -186,9 +187,11 @@ QWidget* VentanaAnalisisRed::Botonera() {
     for (const auto& b : botones)
         capa->addWidget(BotonNivo(QString::fromLatin1(b.nombre), QString::fromUtf8(b.texto), pie, b.icono));
 
-    // The screen of the listing is still to come.
-    for (const char* n : {"LSButton8"})
-        Boton(QString::fromLatin1(n))->setEnabled(false);
+    // The listing: the take-off of the network, without its own "Abrir".
+    connect(Boton(QStringLiteral("LSButton8")), &QPushButton::clicked, this, [this] {
+        VentanaComputos listado(p_, s_, d_, true, this);
+        if (listado.Cargar()) listado.exec();
+    });
     connect(Boton(QStringLiteral("LSButton3")), &QPushButton::clicked, this, &VentanaAnalisisRed::ImprimirResultados);
 
     connect(double1_, &NivoNumero::ValorCambiado, this, [this](double v) { logica_.Double1 = v; });
