@@ -17,7 +17,7 @@
 VentanaRespaldoArchivos::VentanaRespaldoArchivos(Sesion& s, Dialogos& d, QWidget* padre) : QDialog(padre) {
     setObjectName(QStringLiteral("RespaldoArchivos"));
     setWindowTitle(QStringLiteral("Respaldar Archivos"));
-    auto* capa = new QVBoxLayout(this);
+    auto* capa = new QVBoxLayout;
     capa->addWidget(TituloPantalla(QStringLiteral("RESPALDAR Y COPIAR PROYECTOS"), this));
     auto* marco = new QGroupBox(QStringLiteral("Abrir la Carpeta de..."), this);
     auto* opciones = new QVBoxLayout(marco);
@@ -71,5 +71,7 @@ VentanaRespaldoArchivos::VentanaRespaldoArchivos(Sesion& s, Dialogos& d, QWidget
     auto* cerrar = BotonRetorno(this);
     connect(cerrar, &QPushButton::clicked, this, &QDialog::reject);
     capa->addWidget(cerrar, 0, Qt::AlignRight);
+    // Maximised, the controls keep their size in the middle of the window.
+    PonerCentrado(this, capa);
     ConfigurarToolTips(this, new NivoToolTip(this), s.Tapiz);
 }
