@@ -34,6 +34,15 @@ public:
     // The part of a device rectangle the network itself is fitted into (the
     // rest holds what is drawn at a fixed size, like a legend).
     virtual QRectF AreaRed(const QRectF& destino) const { return destino; }
+
+    // Black and white: every colour painted as a grey, with what a colour
+    // alone told (a class, the unfavourable node) told by a shape or a dash
+    // as well; for the reports printed without colour.
+    void PonerBlancoNegro(bool b) { blancoNegro_ = b; }
+    bool BlancoNegro() const { return blancoNegro_; }
+
+protected:
+    bool blancoNegro_ = false;
 };
 
 // The transform that fits the whole picture into a device rectangle.
