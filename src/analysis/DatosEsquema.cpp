@@ -98,6 +98,10 @@ bool EsquemaDeJson(const QJsonObject& o, DatosEsquema& e, QString& error) {
         error = QStringLiteral("El archivo no contiene el esquema de una red de edificio.");
         return false;
     }
+    if (!o.value(QStringLiteral("nodos")).isArray() || !o.value(QStringLiteral("ramales")).isArray()) {
+        error = QStringLiteral("El esquema no trae la lista de sus nodos y la de sus ramales.");
+        return false;
+    }
     e = DatosEsquema();
     e.titulo = o.value(QStringLiteral("titulo")).toString();
     e.origen = OrigenEsquema(std::clamp(o.value(QStringLiteral("origen")).toInt(), 0, 2));

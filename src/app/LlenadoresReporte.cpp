@@ -134,6 +134,7 @@ const EntradaReporte Reportes[] = {
     {false, "PerdidasPresiones", LleneResultadosEdificio},
     {false, "Predimensionado", LleneResultadosEdificio},
     {false, "Resultado", LleneResultadosEdificio},
+    {false, "Esquema", LleneResultadosEdificio},
     {false, "Portada", LleneResultadosEdificio},
     {true, "ResultadosTodo", LleneResultadosAcueducto},
     {true, "ResultadosTramos", LleneResultadosAcueducto},
@@ -141,6 +142,7 @@ const EntradaReporte Reportes[] = {
     {true, "Portada", LleneResultadosAcueducto},
     {true, "ResultadosTramosD", LleneResultadosAcueducto},
     {true, "ResultadosTodoD", LleneResultadosAcueducto},
+    {true, "Plano", LleneResultadosAcueducto},
     {true, "ArchivoDatos", LleneDatosAcueducto},
 };
 

@@ -91,6 +91,10 @@ bool PlanoDeJson(const QJsonObject& o, DatosPlano& d, QString& error) {
         error = QStringLiteral("El archivo no contiene el plano de una red de acueductos.");
         return false;
     }
+    if (!o.value(QStringLiteral("nodos")).isArray() || !o.value(QStringLiteral("tramos")).isArray()) {
+        error = QStringLiteral("El plano no trae la lista de sus nodos y la de sus tramos.");
+        return false;
+    }
     d = DatosPlano();
     d.titulo = o.value(QStringLiteral("titulo")).toString();
     d.caso = o.value(QStringLiteral("caso")).toString();

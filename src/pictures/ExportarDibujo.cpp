@@ -10,6 +10,7 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QSvgGenerator>
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -21,6 +22,19 @@ void PintarEntero(QPainter& p, const Dibujo& d, const QRectF& pagina) {
 }
 
 }  // namespace
+
+QImage ImagenDibujo(const Dibujo& d, int lado) {
+    const QSizeF natural = d.TamanoNatural();
+    const double mayor = std::max({natural.width(), natural.height(), 1.0});
+    const double escala = std::min(2.0, lado / mayor);
+    QImage imagen(std::max(1, int(std::ceil(natural.width() * escala))), std::max(1, int(std::ceil(natural.height() * escala))),
+                  QImage::Format_RGB32);
+    imagen.fill(Qt::white);
+    QPainter p(&imagen);
+    p.scale(escala, escala);
+    PintarEntero(p, d, QRectF(QPointF(0, 0), natural));
+    return imagen;
+}
 
 bool ExportarDibujo(const Dibujo& d, const QString& ruta, QString& error) {
     const QString ext = QFileInfo(ruta).suffix().toLower();

@@ -1,6 +1,7 @@
 #include "reports/TablasAcueducto.h"
 
 #include "aqueduct/CasosDemanda.h"
+#include "aqueduct/DatosPlano.h"
 #include "aqueduct/ProyectoAcueducto.h"
 #include "base/Nivo.h"
 #include "reports/BaseTrabajo.h"
@@ -74,7 +75,8 @@ bool LleneTablasAcueducto(const QString& ruta, const ProyectoAcueducto& p, const
     if (!AbrirTrabajo(c, ruta, error)) return false;
     Transaccion t(c);
     if (!Vaciar(c, {"Generales", "Tramos", "Nodos"}) || !LleneGenerales(c, p, s, formatoColor) || !LleneTramos(c, p) ||
-        !LleneNodos(c, p) || !t.Confirmar())
+        !LleneNodos(c, p) || !GuardeDibujo(c, QStringLiteral("plano"), PlanoComoJson(PlanoDeProyecto(p, CoordenadasNodos(p)))) ||
+        !t.Confirmar())
         return FalloTrabajo(c, error);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "reports/TablasResultados.h"
 
 #include "analysis/AnalisisRed.h"
+#include "analysis/DatosEsquema.h"
 #include "base/Nivo.h"
 #include "model/ProyectoEdificio.h"
 #include "reports/BaseTrabajo.h"
@@ -135,7 +136,8 @@ bool LleneTablasResultados(const QString& ruta, const AnalisisRed& a, const Proy
     Transaccion t(c);
     try {
         if (!LleneDatosGenerales(c, a, p, s, o) || !LleneUnidadesGasto(c, a.Spread1) ||
-            !LleneLongitudesEquivalentes(c, a.Spread2) || !LlenePresiones(c, a.Spread3) || !t.Confirmar())
+            !LleneLongitudesEquivalentes(c, a.Spread2) || !LlenePresiones(c, a.Spread3) ||
+            !GuardeDibujo(c, QStringLiteral("esquema"), EsquemaComoJson(EsquemaDeProyecto(p, &a.Spread3))) || !t.Confirmar())
             return FalloTrabajo(c, error);
     } catch (const CeldaInvalida& e) {
         error = e.mensaje;

@@ -13,6 +13,8 @@
 
 #include <QDir>
 #include <QProcess>
+#include <QRectF>
+#include <QRegularExpression>
 #include <memory>
 
 struct EjemploAnalizado {
@@ -55,6 +57,35 @@ inline QString TextoPdf(const QString& pdf, int desde = 0, int hasta = 0) {
     p.start(QStringLiteral("pdftotext"), args << pdf << QStringLiteral("-"));
     EXPECT_TRUE(p.waitForFinished(30000));
     return QString::fromUtf8(p.readAllStandardOutput()).simplified();
+}
+
+// The words of a PDF with their boxes in points from the page's top left,
+// as pdftotext -bbox gives them; pages from 1.
+struct PalabraPdf {
+    QString texto;
+    QRectF caja;
+    int pagina = 0;
+};
+inline std::vector<PalabraPdf> PalabrasPdf(const QString& pdf) {
+    QProcess p;
+    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf, QStringLiteral("-")});
+    EXPECT_TRUE(p.waitForFinished(30000));
+    const QString html = QString::fromUtf8(p.readAllStandardOutput());
+    static const QRegularExpression re(QStringLiteral(
+        "<page |<word xMin=\"([\\d.]+)\" yMin=\"([\\d.]+)\" xMax=\"([\\d.]+)\" yMax=\"([\\d.]+)\">([^<]*)</word>"));
+    std::vector<PalabraPdf> palabras;
+    int pagina = 0;
+    for (auto it = re.globalMatch(html); it.hasNext();) {
+        const auto m = it.next();
+        if (m.captured(0).startsWith(QLatin1String("<page"))) {
+            ++pagina;
+            continue;
+        }
+        palabras.push_back({m.captured(5), QRectF(QPointF(m.captured(1).toDouble(), m.captured(2).toDouble()),
+                                                  QPointF(m.captured(3).toDouble(), m.captured(4).toDouble())),
+                            pagina});
+    }
+    return palabras;
 }
 
 inline void EjemploAnalizado::AlargarPresiones(int hasta) {

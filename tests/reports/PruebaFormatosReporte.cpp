@@ -98,9 +98,12 @@ TEST(FormatosReporte, ElLibroTieneUnaHojaPorTablaYSusNumerosSonNumeros) {
     EXPECT_EQ(ug[0][QStringLiteral("congelado")].toString(), QStringLiteral("A%1").arg(encabezado[0].toInt() + 1));
 
     // The summary: its label and value band on one sheet, the table on
-    // another; the given 20 m at the origin, and bathroom 2's 4.5 m.
+    // another, the schematic's picture on a third; the given 20 m at the
+    // origin, and bathroom 2's 4.5 m.
     const QJsonArray r = HojasXlsx(Exportar(e, QStringLiteral("Resultado"), QStringLiteral("xlsx")));
-    ASSERT_EQ(r.size(), 2);
+    ASSERT_EQ(r.size(), 3);
+    EXPECT_EQ(r[2][QStringLiteral("nombre")].toString(), QStringLiteral("Esquema de la red"));
+    EXPECT_EQ(r[0][QStringLiteral("medios")].toInt(), 1);
     const QJsonArray origen =
         CeldaEnFila(Celdas(r, QStringLiteral("Resultados generales de la red")), QStringLiteral("Presión en el origen de la red"), 2);
     EXPECT_EQ(origen[2].toString(), QStringLiteral("n"));

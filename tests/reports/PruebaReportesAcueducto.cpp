@@ -13,6 +13,7 @@
 #include "reports/salida/ImpreHojas.h"
 #include "support/PantallasSalidaFalsas.h"
 
+#include <QImage>
 #include <cmath>
 
 namespace {
@@ -212,6 +213,46 @@ TEST(ReportesAcueducto, ElReporteDeDatosLeeElArchivoSalvadoYNoLoQueNoSeSalvo) {
     EXPECT_TRUE(r.d.Ultimo().texto.contains(QStringLiteral("no es un proyecto de acueductos")));
     EXPECT_EQ(r.salida.opciones, 1);
     EXPECT_EQ(r.Filas("Datos.mdb", QStringLiteral("SELECT Numero FROM Tramos")).size(), 26u);
+}
+
+TEST(ReportesAcueducto, ElPlanoSaleEnSuPlantillaEnTodasLasTablasYEnCadaFormato) {
+    RedResuelta r("es_AR");
+    QString error;
+    ASSERT_TRUE(LleneTablasAcueducto(r.p, r.sp.s, true, error)) << error.toStdString();
+    // Every node named on the plan page, with the legend, the case in the header.
+    const QString plano = r.Pdf(QStringLiteral("Plano"));
+    for (int k = 1; k <= r.p.NumeroNodosACU; ++k)
+        for (const QString& palabra : r.p.Nodos[k].simplified().split(QLatin1Char(' ')))
+            EXPECT_TRUE(plano.contains(palabra)) << palabra.toStdString();
+    EXPECT_TRUE(plano.contains(QStringLiteral("Velocidad (m/s)")));
+    EXPECT_TRUE(plano.contains(QStringLiteral("Caso: ConsumoMedio")));
+    for (const char* todas : {"ResultadosTodo", "ResultadosTodoD"})
+        EXPECT_TRUE(r.Pdf(QString::fromLatin1(todas)).contains(QStringLiteral("Plano de la red"))) << todas;
+
+    // The outputs that are not pages carry it as a picture.
+    Reporte rep;
+    ASSERT_TRUE(rep.Abrir(RutaProgramaPruebas(), QStringLiteral("Plano"), true));
+    ASSERT_TRUE(rep.Vincular(r.Base("Resultados.mdb"))) << rep.Error().toStdString();
+    const QString html = HtmlReporte(rep.PlantillaActual(), rep.Datos());
+    const int png = html.indexOf(QStringLiteral("class=\"dibujo\""));
+    ASSERT_GE(png, 0);
+    const int base64 = html.indexOf(QStringLiteral("base64,"), png) + 7;
+    const QImage imagen = QImage::fromData(QByteArray::fromBase64(html.mid(base64, html.indexOf(QLatin1Char('"'), base64) - base64).toLatin1()));
+    EXPECT_GT(imagen.width(), 300);
+    EXPECT_TRUE(RtfReporte(rep.PlantillaActual(), rep.Datos()).contains("\\pngblip"));
+
+    // A picture that cannot be read, or is missing, stops the report with a message.
+    for (const char* sql : {"UPDATE Dibujos SET Datos = '{\"tipo\": \"plano\", \"nodos\": 3}'", "DELETE FROM Dibujos"}) {
+        {
+            Conexion c;
+            ASSERT_TRUE(c.Abrir(r.Base("Resultados.mdb")));
+            ASSERT_TRUE(c.Ejecutar(QString::fromLatin1(sql)));
+        }
+        Reporte malo;
+        ASSERT_TRUE(malo.Abrir(RutaProgramaPruebas(), QStringLiteral("Plano"), true));
+        EXPECT_FALSE(malo.Vincular(r.Base("Resultados.mdb")));
+        EXPECT_TRUE(malo.Error().contains(QStringLiteral("plano"))) << malo.Error().toStdString();
+    }
 }
 
 TEST(ReportesAcueducto, ImpreAcueductoLlenaYAbreLaPlantillaDeLaOpcion) {

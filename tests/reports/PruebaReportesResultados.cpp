@@ -3,6 +3,7 @@
 #include "reports/motor/Reporte.h"
 
 #include <QFile>
+#include <QImage>
 #include <QProcess>
 
 namespace {
@@ -130,4 +131,53 @@ TEST(ReportesResultados, UnDestinoQueNoSePuedeEscribirNoDejaArchivo) {
     EscribirArchivo(e.sp.Datos(QStringLiteral("Reportes/Falsa.json")), "[1, 2");
     EXPECT_FALSE(r.Abrir(e.sp.s.DirectorioDatos, QStringLiteral("Falsa")));
     EXPECT_TRUE(r.Error().contains(QStringLiteral("no es una plantilla de reporte válida"))) << r.Error().toStdString();
+}
+
+TEST(ReportesResultados, ElResumenTraeElEsquemaLegibleDentroDeSuMarcoYEnBlancoYNegroSiSePide) {
+    EjemploAnalizado e("es_ES");
+    QString error;
+    ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error)) << error.toStdString();
+    const std::vector<PalabraPdf> palabras = PalabrasPdf(Renderizar(e, QStringLiteral("Resultado")));
+    const auto titulo = std::find_if(palabras.begin(), palabras.end(),
+                                     [](const PalabraPdf& w) { return w.texto == QLatin1String("Esquema"); });
+    ASSERT_NE(titulo, palabras.end());
+    // The picture's words: below its title, on its page, above the foot.
+    QStringList dibujo;
+    for (auto w = palabras.begin(); w != palabras.end(); ++w) {
+        if (w->pagina != titulo->pagina || w->caja.top() <= titulo->caja.bottom() || w->caja.top() > 792 - 36 - 18)
+            continue;
+        dibujo << w->texto;
+        // Drawn at a readable size (at least 5 points) and inside the
+        // frame of the band, half an inch from the letter page's edges.
+        EXPECT_GE(w->caja.height(), 5.0) << w->texto.toStdString();
+        EXPECT_GE(w->caja.left(), 36.0) << w->texto.toStdString();
+        EXPECT_LE(w->caja.right(), 612.0 - 36.0) << w->texto.toStdString();
+    }
+    // Every node of the project by its name, and the origin with the 20 m
+    // the project gives it.
+    QStringList nombres = e.p.NodoI[1].simplified().split(QLatin1Char(' '));
+    for (int i = 1; i <= e.p.NumeroRamales; ++i) nombres << e.p.Nodoj[i].simplified().split(QLatin1Char(' '));
+    for (const QString& n : std::as_const(nombres)) EXPECT_TRUE(dibujo.contains(n)) << n.toStdString();
+    EXPECT_TRUE(dibujo.join(QLatin1Char(' ')).contains(QStringLiteral("20,00 m")));
+
+    // Without colour the page holds greys only: the picture follows the report.
+    OpcionesResultados gris;
+    gris.FormatoColor = false;
+    ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, gris, error)) << error.toStdString();
+    const QString pdf = Renderizar(e, QStringLiteral("Resultado"));
+    const QString pagina = QString::number(titulo->pagina);
+    const QString png = e.sp.Datos(QStringLiteral("gris"));
+    ASSERT_EQ(QProcess::execute(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("50"), QStringLiteral("-png"),
+                                                             QStringLiteral("-f"), pagina, QStringLiteral("-l"), pagina,
+                                                             QStringLiteral("-singlefile"), pdf, png}),
+              0);
+    const QImage imagen(png + QStringLiteral(".png"));
+    ASSERT_FALSE(imagen.isNull());
+    int coloreados = 0;
+    for (int y = 0; y < imagen.height(); ++y)
+        for (int x = 0; x < imagen.width(); ++x) {
+            const QColor c = imagen.pixelColor(x, y);
+            coloreados += std::max({c.red(), c.green(), c.blue()}) - std::min({c.red(), c.green(), c.blue()}) > 24;
+        }
+    EXPECT_EQ(coloreados, 0);
 }

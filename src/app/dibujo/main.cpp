@@ -3,11 +3,9 @@
 // only paints).  Kept apart so that the command line never loads the
 // painting libraries; it runs without a display.
 
-#include "analysis/DatosEsquema.h"
-#include "aqueduct/DatosPlano.h"
-#include "pictures/EsquemaEdificio.h"
+#include "pictures/Dibujo.h"
+#include "pictures/DibujoDeJson.h"
 #include "pictures/ExportarDibujo.h"
-#include "pictures/PlanoAcueducto.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -47,18 +45,11 @@ int main(int argc, char** argv) {
     if (e.error != QJsonParseError::NoError)
         return Fallar(QStringLiteral("El archivo \"%1\" no es un JSON válido: %2").arg(args[1], e.errorString()));
 
+    QJsonObject datos = o;
+    if (args.size() == 4 && args[3] == QLatin1String("perdida")) datos[QStringLiteral("color")] = QStringLiteral("perdida");
     QString error;
-    std::unique_ptr<Dibujo> dibujo;
-    if (o.value(QStringLiteral("tipo")).toString() == QLatin1String("plano")) {
-        DatosPlano d;
-        if (!PlanoDeJson(o, d, error)) return Fallar(error);
-        const bool perdida = args.size() == 4 && args[3] == QLatin1String("perdida");
-        dibujo = std::make_unique<PlanoAcueducto>(std::move(d), perdida ? ColorPlano::PerdidaUnitaria : ColorPlano::Velocidad);
-    } else {
-        DatosEsquema d;
-        if (!EsquemaDeJson(o, d, error)) return Fallar(error);
-        dibujo = std::make_unique<EsquemaEdificio>(std::move(d));
-    }
+    const std::unique_ptr<Dibujo> dibujo = DibujoDeJson(datos, error);
+    if (!dibujo) return Fallar(error);
     if (!ExportarDibujo(*dibujo, args[2], error)) return Fallar(error);
     return 0;
 }

@@ -1,6 +1,7 @@
 #include "reports/motor/ComposicionReporte.h"
 
 #include "base/Nivo.h"
+#include "pictures/Dibujo.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -64,6 +65,7 @@ public:
             case SeccionPlantilla::Tipo::Detalle: Detalle(s); break;
             case SeccionPlantilla::Tipo::Campos: Campos(s); break;
             case SeccionPlantilla::Tipo::Portada: Portada(s); break;
+            case SeccionPlantilla::Tipo::Dibujo: Dibujo(s); break;
             }
         }
         if (detenido_) return {};
@@ -111,6 +113,9 @@ private:
     void Caja(const QRectF& r, const QString& t, double puntos) {
         Rellenar(r, estilo_.fondoTitulo);
         Texto(r, t, puntos, true, Qt::AlignCenter, estilo_.titulo);
+        Marco(r);
+    }
+    void Marco(const QRectF& r) {
         Linea(r.left(), r.top(), r.right(), r.top(), estilo_.linea);
         Linea(r.left(), r.bottom(), r.right(), r.bottom(), estilo_.linea);
         Linea(r.left(), r.top(), r.left(), r.bottom(), estilo_.linea);
@@ -359,6 +364,25 @@ private:
         Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
     }
 
+    // The picture fills the rest of the page, or a page of its own when less
+    // than half a page is left; framed, under its title.
+    void Dibujo(const SeccionPlantilla& s) {
+        const double altoTitulo = s.titulo.isEmpty() ? 0.0 : 15.0;
+        const auto cuerpo = [&] { return Fondo() - y_ - altoTitulo; };
+        const double pedido = s.alto > 0.0 ? s.alto : (Fondo() - Margen) / 2;
+        if (cuerpo() < std::min(pedido, (Fondo() - Margen) / 2)) NuevaPagina();
+        SeccionTitulo(s);
+        const double alto = s.alto > 0.0 ? std::min(s.alto, cuerpo()) : cuerpo();
+        const QRectF r(Margen, y_, Ancho(), alto);
+        Trazo z;
+        z.tipo = Trazo::Tipo::Dibujo;
+        z.r = r.adjusted(2, 2, -2, -2);
+        z.dibujo = datos_.dibujos.value(s.dibujo);
+        if (z.dibujo) Actual().trazos.push_back(z);
+        Marco(r);
+        y_ += alto;
+    }
+
     // The cover: the title boxes large in the middle of the page, and the
     // project's data below.
     void Portada(const SeccionPlantilla& s) {
@@ -366,11 +390,7 @@ private:
         const double x = Margen + 24, w = Ancho() - 48;
         const QRectF marco(Margen, Margen, Ancho(), Fondo() - Margen);
         for (double d : {0.0, 4.0}) {
-            const QRectF r = marco.adjusted(d, d, -d, -d);
-            Linea(r.left(), r.top(), r.right(), r.top(), estilo_.linea);
-            Linea(r.left(), r.bottom(), r.right(), r.bottom(), estilo_.linea);
-            Linea(r.left(), r.top(), r.left(), r.bottom(), estilo_.linea);
-            Linea(r.right(), r.top(), r.right(), r.bottom(), estilo_.linea);
+            Marco(marco.adjusted(d, d, -d, -d));
         }
         y_ = marco.top() + marco.height() * 0.22;
         const auto centrado = [&](const QString& texto, double puntos, bool negrita, QColor color, double despues) {
@@ -451,6 +471,17 @@ void DibujarReporte(const std::vector<PaginaReporte>& paginas, QPagedPaintDevice
                 pintor.drawLine(escala(z.r).topLeft(), escala(z.r).bottomRight());
                 break;
             case Trazo::Tipo::Imagen: pintor.drawImage(escala(z.r), z.imagen); break;
+            case Trazo::Tipo::Dibujo: {
+                // The picture's texts and markers are sized in screen pixels
+                // (1/96 inch): it is painted in those units.
+                const double pixel = d.logicalDpiX() / 96.0;
+                const QRectF r = escala(z.r);
+                pintor.save();
+                pintor.scale(pixel, pixel);
+                PintarEnRectangulo(pintor, QRectF(r.topLeft() / pixel, r.size() / pixel), *z.dibujo);
+                pintor.restore();
+                break;
+            }
             case Trazo::Tipo::Texto:
             case Trazo::Tipo::NumeroPagina: {
                 pintor.setFont(Letra(z.puntos, z.negrita));

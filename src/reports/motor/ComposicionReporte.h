@@ -12,12 +12,14 @@
 #include <QRectF>
 #include <QString>
 #include <functional>
+#include <memory>
 #include <vector>
 
+class Dibujo;
 class QPagedPaintDevice;
 
 struct Trazo {
-    enum class Tipo { Texto, Relleno, Linea, Imagen, NumeroPagina };
+    enum class Tipo { Texto, Relleno, Linea, Imagen, NumeroPagina, Dibujo };
     Tipo tipo = Tipo::Texto;
     QRectF r;  // points from the page's top left corner
     QString texto;
@@ -26,6 +28,7 @@ struct Trazo {
     int banderas = 0;  // Qt::Alignment and text flags
     QColor color;      // ink, fill or line colour
     QImage imagen;
+    std::shared_ptr<const Dibujo> dibujo;  // a picture of the network, fitted into r
 };
 
 struct PaginaReporte {

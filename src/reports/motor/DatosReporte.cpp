@@ -1,7 +1,12 @@
 #include "reports/motor/DatosReporte.h"
 
+#include "pictures/Dibujo.h"
+#include "pictures/DibujoDeJson.h"
+#include "pictures/ExportarDibujo.h"
 #include "store/Conexion.h"
 
+#include <QBuffer>
+#include <QJsonDocument>
 #include <cmath>
 
 namespace {
@@ -55,6 +60,29 @@ bool TieneCampo(const TablaReporte& t, const QString& tabla, const QString& camp
     return false;
 }
 
+// The picture of a picture band, from the row of its table named after it.
+bool CargarDibujo(const SeccionPlantilla& s, const TablaReporte& t, DatosReporte& datos, QString& error) {
+    if (datos.dibujos.contains(s.dibujo)) return true;
+    if (!TieneCampo(t, s.tabla, QStringLiteral("Nombre"), error) || !TieneCampo(t, s.tabla, QStringLiteral("Datos"), error))
+        return false;
+    for (int f = 0; f < int(t.filas.size()); ++f) {
+        if (ComoTexto(t.Dato(f, QStringLiteral("Nombre"))) != s.dibujo) continue;
+        QJsonParseError e;
+        const QJsonDocument doc = QJsonDocument::fromJson(ComoTexto(t.Dato(f, QStringLiteral("Datos"))).toUtf8(), &e);
+        QString motivo = e.errorString();
+        std::unique_ptr<Dibujo> d = e.error == QJsonParseError::NoError ? DibujoDeJson(doc.object(), motivo) : nullptr;
+        if (!d) {
+            error = QStringLiteral("No se puede dibujar «%1» de la tabla «%2»: %3").arg(s.dibujo, s.tabla, motivo);
+            return false;
+        }
+        d->PonerBlancoNegro(!datos.FormatoColor());
+        datos.dibujos.insert(s.dibujo, std::shared_ptr<const Dibujo>(std::move(d)));
+        return true;
+    }
+    error = QStringLiteral("La tabla «%1» no tiene el dibujo «%2».").arg(s.tabla, s.dibujo);
+    return false;
+}
+
 }  // namespace
 
 int TablaReporte::Indice(const QString& campo) const {
@@ -79,6 +107,16 @@ Valor TablaReporte::Celda(int fila, const ColumnaPlantilla& c) const {
 QString DatosReporte::General(const QString& campo) const {
     if (const auto t = textosGenerales.constFind(campo); t != textosGenerales.cend()) return *t;
     return ComoTexto(generales.Dato(0, camposGenerales.value(campo, campo)));
+}
+
+QByteArray DatosReporte::PngDibujo(const QString& nombre) const {
+    const auto d = dibujos.value(nombre);
+    if (!d) return QByteArray();
+    QByteArray png;
+    QBuffer b(&png);
+    b.open(QIODevice::WriteOnly);
+    ImagenDibujo(*d, 1800).save(&b, "PNG");
+    return png;
 }
 
 bool DatosReporte::FormatoColor() const {
@@ -126,7 +164,11 @@ bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReport
     for (const QString& campo : std::as_const(p.camposGenerales))
         if (!TieneCampo(datos.generales, p.tablaGenerales, campo, error)) return false;
     for (const SeccionPlantilla& s : p.secciones) {
-        if (datos.tablas.contains(s.tabla)) continue;
+        if (datos.tablas.contains(s.tabla)) {
+            if (s.tipo == SeccionPlantilla::Tipo::Dibujo && !CargarDibujo(s, datos.tablas[s.tabla], datos, error))
+                return false;
+            continue;
+        }
         TablaReporte t;
         if (!LeerTabla(c, s.tabla, s.orden, t, error)) return false;
         if (!s.unir.isEmpty()) {
@@ -138,6 +180,7 @@ bool CargarDatosReporte(const QString& rutaBase, const Plantilla& p, DatosReport
                 if (!campo.isEmpty() && !TieneCampo(t, s.tabla, campo, error)) return false;
         for (const CampoPlantilla& campo : s.campos)
             if (!TieneCampo(t, s.tabla, campo.campo, error)) return false;
+        if (s.tipo == SeccionPlantilla::Tipo::Dibujo && !CargarDibujo(s, t, datos, error)) return false;
         datos.tablas.insert(s.tabla, std::move(t));
     }
     return true;

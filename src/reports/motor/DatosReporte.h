@@ -7,7 +7,10 @@
 
 #include <QHash>
 #include <QString>
+#include <memory>
 #include <vector>
+
+class Dibujo;
 
 struct TablaReporte {
     QStringList columnas;
@@ -27,6 +30,12 @@ struct DatosReporte {
     TablaReporte generales;
     QString tablaGenerales = QStringLiteral("DatosGenerales");
     QHash<QString, QString> camposGenerales, textosGenerales;
+    // The pictures of the picture bands, by name, made once at loading and
+    // in black and white when the report is.
+    QHash<QString, std::shared_ptr<const Dibujo>> dibujos;
+    // A picture as a PNG for the outputs that are not pages; empty when
+    // there is none of that name.
+    QByteArray PngDibujo(const QString& nombre) const;
     QString General(const QString& campo) const;
     bool FormatoColor() const;
     const TablaReporte& Tabla(const QString& nombre) const;

@@ -98,7 +98,7 @@ QString HtmlReporte(const Plantilla& p, const DatosReporte& datos) {
                     "tfoot td { font-weight: bold; border-top: 1px solid %3; }\n"
                     "table.rejilla td { border: 1px solid %3; height: 18pt; }\n"
                     "table.campos th, table.portada th { text-align: left; background: none; color: #000; width: 55%; }\n"
-                    "td img { max-height: 72px; }\n</style></head><body>\n")
+                    "td img { max-height: 72px; } img.dibujo { max-width: 100%; }\n</style></head><body>\n")
                     .arg(E(p.titulo.isEmpty() ? p.nombre : p.titulo), p.horizontal ? QStringLiteral("landscape") : QString(),
                          tinta, fondo, letra);
     if (p.encabezado) {
@@ -121,6 +121,11 @@ QString HtmlReporte(const Plantilla& p, const DatosReporte& datos) {
             continue;
         }
         if (!s.titulo.isEmpty()) h += QStringLiteral("<h3>%1</h3>\n").arg(E(s.titulo));
+        if (s.tipo == SeccionPlantilla::Tipo::Dibujo) {
+            h += QStringLiteral("<p><img class=\"dibujo\" alt=\"%1\" src=\"data:image/png;base64,%2\"></p>\n")
+                     .arg(E(s.titulo), QString::fromLatin1(datos.PngDibujo(s.dibujo).toBase64()));
+            continue;
+        }
         h += s.tipo == SeccionPlantilla::Tipo::Campos ? Campos(s, t, false) : Detalle(s, t);
     }
     return h + QStringLiteral("<p><small>Nivo-Fontaria %1</small></p>\n</body></html>\n")

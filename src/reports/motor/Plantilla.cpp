@@ -34,6 +34,7 @@ SeccionPlantilla LeerSeccion(const QJsonObject& o) {
     const QString tipo = o.value(QLatin1String("tipo")).toString(QStringLiteral("detalle"));
     s.tipo = tipo == QLatin1String("campos")    ? SeccionPlantilla::Tipo::Campos
              : tipo == QLatin1String("portada") ? SeccionPlantilla::Tipo::Portada
+             : tipo == QLatin1String("dibujo")  ? SeccionPlantilla::Tipo::Dibujo
                                                 : SeccionPlantilla::Tipo::Detalle;
     s.titulo = o.value(QLatin1String("titulo")).toString();
     s.tabla = o.value(QLatin1String("tabla")).toString();
@@ -45,6 +46,8 @@ SeccionPlantilla LeerSeccion(const QJsonObject& o) {
     s.altoImagen = o.value(QLatin1String("altoImagen")).toDouble(0.0);
     s.altoFila = o.value(QLatin1String("altoFila")).toDouble(0.0);
     s.rejilla = o.value(QLatin1String("rejilla")).toBool(false);
+    s.dibujo = o.value(QLatin1String("dibujo")).toString();
+    s.alto = o.value(QLatin1String("alto")).toDouble(0.0);
     s.etiquetaTotales = o.value(QLatin1String("etiquetaTotales")).toString(s.etiquetaTotales);
     for (const QJsonValue& v : o.value(QLatin1String("totales")).toArray()) s.totales << v.toString();
     for (const QJsonValue& v : o.value(QLatin1String("columnas")).toArray()) {
@@ -129,7 +132,8 @@ bool LeerPlantilla(const QString& ruta, Plantilla& p, QString& error) {
     bool valida = e.error == QJsonParseError::NoError && doc.isObject() && !p.secciones.empty() &&
                   NombreValido(p.tablaGenerales);
     for (const QString& campo : std::as_const(p.camposGenerales)) valida = valida && NombreValido(campo);
-    for (const SeccionPlantilla& s : p.secciones) valida = valida && NombresValidos(s);
+    for (const SeccionPlantilla& s : p.secciones)
+        valida = valida && NombresValidos(s) && (s.tipo != SeccionPlantilla::Tipo::Dibujo || !s.dibujo.isEmpty());
     if (!valida) {
         error = QStringLiteral("El archivo «%1» no es una plantilla de reporte válida.").arg(ruta);
         return false;

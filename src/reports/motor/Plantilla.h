@@ -35,7 +35,7 @@ struct CampoPlantilla {
 };
 
 struct SeccionPlantilla {
-    enum class Tipo { Detalle, Campos, Portada };
+    enum class Tipo { Detalle, Campos, Portada, Dibujo };
     Tipo tipo = Tipo::Detalle;
     QString titulo;  // printed above the band
     QString tabla;
@@ -60,6 +60,11 @@ struct SeccionPlantilla {
     double altoFila = 0.0;
     bool rejilla = false;
     std::vector<CampoPlantilla> campos;
+    // A picture of the network: the row of `tabla` whose Nombre is
+    // `dibujo`, its JSON in Datos, fitted into `alto` points (the rest of
+    // the page when 0).
+    QString dibujo;
+    double alto = 0.0;
 };
 
 struct Plantilla {

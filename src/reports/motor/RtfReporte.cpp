@@ -93,6 +93,7 @@ public:
             case SeccionPlantilla::Tipo::Detalle: Detalle(s); break;
             case SeccionPlantilla::Tipo::Campos: Campos(s); break;
             case SeccionPlantilla::Tipo::Portada: Portada(s); break;
+            case SeccionPlantilla::Tipo::Dibujo: Dibujo(s); break;
             }
         }
         return r_ + "}\n";
@@ -233,6 +234,12 @@ private:
             Parrafo("\\qc\\keepn\\fs20", Esc(c.etiqueta));
             Parrafo("\\qc\\sa280\\fs28\\b", Esc(valor));
         }
+    }
+
+    // The picture of the network as wide as the text, under its title.
+    void Dibujo(const SeccionPlantilla& s) {
+        TituloSeccion(s);
+        Parrafo("\\qc", Imagen(datos_.PngDibujo(s.dibujo), ancho_, ancho_ * 5 / 4));
     }
 
     const Plantilla& p_;

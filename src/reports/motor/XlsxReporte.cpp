@@ -98,8 +98,9 @@ public:
         int fila = 0;
         int anchoEtiqueta = 10, anchoValor = 12;
         for (const SeccionPlantilla& s : p_.secciones) {
-            if (s.tipo == SeccionPlantilla::Tipo::Detalle) {
-                Detalle(s);
+            if (s.tipo == SeccionPlantilla::Tipo::Detalle || s.tipo == SeccionPlantilla::Tipo::Dibujo) {
+                if (s.tipo == SeccionPlantilla::Tipo::Detalle) Detalle(s);
+                else Dibujo(s);
                 hoja = nullptr;
                 continue;
             }
@@ -280,6 +281,14 @@ private:
         worksheet_insert_image_buffer_opt(h, lxw_row_t(fila), lxw_col_t(columna),
                                           reinterpret_cast<const unsigned char*>(imagenes_.back().constData()),
                                           size_t(imagenes_.back().size()), &o);
+    }
+
+    // A sheet holding the picture of the network, about a screen wide.
+    void Dibujo(const SeccionPlantilla& s) {
+        lxw_worksheet* h = NuevaHoja(s.titulo.isEmpty() ? s.dibujo : s.titulo);
+        int fila = Cabecera(h, 8);
+        if (!s.titulo.isEmpty()) worksheet_write_string(h, fila++, 0, U(s.titulo).constData(), titulo_);
+        Imagen(h, fila, 0, datos_.PngDibujo(s.dibujo), 560.0, 130);
     }
 
     // A value as the cell takes it: a number with its mask, or a text.
