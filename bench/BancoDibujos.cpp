@@ -1,8 +1,9 @@
 // The pictures of large networks: the building schematic of a 5,000-branch
 // riser project (layout, a whole-picture frame, a frame at 100 % as the
 // engineer pans) and the plan of a 30,000-section town (built from its
-// coordinates, a whole-town frame, a frame zoomed eight times, and the
-// layout from the section lengths alone for a town without coordinates).
+// coordinates, a whole-town frame, frames zoomed eight and twenty times, the
+// nearer one placing the labels of a few hundred nodes, and the layout from
+// the section lengths alone for a town without coordinates).
 // Frames are painted into a 1600 x 1000 image, the size of the screen's view.
 //
 //   cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DFONTARIA_BENCH=ON
@@ -107,11 +108,17 @@ void BM_PlanoCompleto(benchmark::State& state) {
     Pintar(plano, EncuadreDibujo(plano, Vista), state);
 }
 
-void BM_PlanoAcercado8(benchmark::State& state) {
+// Zoomed `veces` times about the middle of the view.
+QTransform Acercado(const Dibujo& d, double veces) {
+    return EncuadreDibujo(d, Vista) * QTransform::fromTranslate(-800, -500) * QTransform::fromScale(veces, veces) *
+           QTransform::fromTranslate(800, 500);
+}
+
+void BM_PlanoAcercado(benchmark::State& state) {
     const PlanoAcueducto plano(PlanoGenerado(int(state.range(0)), true));
-    const QTransform t = EncuadreDibujo(plano, Vista) * QTransform::fromTranslate(-800, -500) *
-                         QTransform::fromScale(8, 8) * QTransform::fromTranslate(800, 500);
+    const QTransform t = Acercado(plano, double(state.range(1)));
     state.counters["px_por_m"] = Escala(t);
+    state.counters["etiquetas"] = double(plano.Etiquetas(t, Vista, false).size());
     Pintar(plano, t, state);
 }
 
@@ -130,7 +137,7 @@ BENCHMARK(BM_EsquemaCompleto)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_EsquemaAl100)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_PlanoConCoordenadas)->Arg(30000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_PlanoCompleto)->Arg(30000)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_PlanoAcercado8)->Arg(30000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PlanoAcercado)->Args({30000, 8})->Args({30000, 20})->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_PlanoSinCoordenadas)->Arg(30000)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 int main(int argc, char** argv) { return CorrerBancosConVentanas(argc, argv); }

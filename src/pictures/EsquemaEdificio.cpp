@@ -283,28 +283,48 @@ void EsquemaEdificio::Disponer() {
     limites_ = l.adjusted(-Margen, -Margen, Margen, Margen);
 }
 
+void EsquemaEdificio::PintarMarca(QPainter& p, const QPointF& c, int color) const {
+    if (!blancoNegro_ || color < 0) {
+        MarcaNodo(p, c, RadioNodo, color >= 0 ? ColorNivo(color) : QColor(Qt::white), color >= 0);
+        return;
+    }
+    // Without colour the unfavourable node is a target and a node above the
+    // maximum pressure a grey square.
+    p.setPen(QPen(Qt::black, 1.6));
+    if (color == ColoresAnalisis::NodoDesfavorable) {
+        p.setBrush(Qt::white);
+        DibujarForma(p, c, RadioNodo + 3, FormaMarca::DobleAnillo);
+        p.setBrush(Qt::black);
+        p.drawEllipse(c, 2.5, 2.5);
+    } else {
+        p.setBrush(QColor(150, 150, 150));
+        DibujarForma(p, c, RadioNodo, FormaMarca::Cuadrado);
+    }
+}
+
 void EsquemaEdificio::PintarOrigen(QPainter& p) const {
     if (nodos_.empty()) return;
     const QPointF c = nodos_[0].posicion;
-    p.setPen(QPen(ColorTubo, 1.5));
+    const QColor tubo = Tono(ColorTubo, blancoNegro_);
+    p.setPen(QPen(tubo, 1.5));
     switch (datos_.origen) {
     case OrigenEsquema::Tanque: {
         const QRectF tanque(c.x() - 20, c.y() - 30, 40, 30);
         p.setBrush(Qt::white);
         p.drawRect(tanque);
-        p.setBrush(QColor(160, 200, 240));
+        p.setBrush(Tono(QColor(160, 200, 240), blancoNegro_));
         p.drawRect(QRectF(tanque.left(), tanque.top() + 9, tanque.width(), tanque.height() - 9));
         break;
     }
     case OrigenEsquema::Bomba: {
         p.setBrush(Qt::white);
         p.drawEllipse(c, 12, 12);
-        p.setBrush(ColorTubo);
+        p.setBrush(tubo);
         p.drawPolygon(QPolygonF{c + QPointF(-5, -7), c + QPointF(8, 0), c + QPointF(-5, 7)});
         break;
     }
     case OrigenEsquema::Suministro: {
-        p.setBrush(ColorTubo);
+        p.setBrush(tubo);
         p.drawPolygon(QPolygonF{c + QPointF(-11, -7), c + QPointF(0, 0), c + QPointF(-11, 7)});
         p.drawPolygon(QPolygonF{c + QPointF(11, -7), c + QPointF(0, 0), c + QPointF(11, 7)});
         break;
@@ -329,10 +349,12 @@ void EsquemaEdificio::Pintar(QPainter& p, const QTransform& mundo, const QRectF&
     p.setFont(fuentePresion_);
     double x = -MargenIzquierdo;
     auto muestra = [&](int color, const QString& texto) {
-        MarcaNodo(p, QPointF(x + 6, 52), RadioNodo, ColorNivo(color), true);
+        // Without colour the target is wider than a marker: the text keeps clear of it.
+        const double r = blancoNegro_ ? RadioNodo + 3 : RadioNodo;
+        PintarMarca(p, QPointF(x + r, 52), color);
         p.setPen(Qt::black);
-        p.drawText(QPointF(x + 16, 56), texto);
-        x += 30 + QFontMetricsF(fuentePresion_).horizontalAdvance(texto);
+        p.drawText(QPointF(x + 2 * r + 4, 56), texto);
+        x += 30 + 2 * (r - RadioNodo) + QFontMetricsF(fuentePresion_).horizontalAdvance(texto);
     };
     muestra(ColoresAnalisis::NodoDesfavorable, QStringLiteral("Nodo desfavorable"));
     if (!datos_.textoMaxima.isEmpty())
@@ -351,7 +373,7 @@ void EsquemaEdificio::Pintar(QPainter& p, const QTransform& mundo, const QRectF&
         }
     }
 
-    QPen tubo(ColorTubo, 2.0);
+    QPen tubo(Tono(ColorTubo, blancoNegro_), 2.0);
     tubo.setCosmetic(true);
     p.setPen(tubo);
     p.setBrush(Qt::NoBrush);
@@ -374,9 +396,9 @@ void EsquemaEdificio::Pintar(QPainter& p, const QTransform& mundo, const QRectF&
                           : d.sobreMaxima ? ColoresAnalisis::PresionMaxima
                                           : -1;
         if (k > 0 || datos_.origen == OrigenEsquema::Tanque)
-            MarcaNodo(p, nodo.posicion, RadioNodo, color >= 0 ? ColorNivo(color) : QColor(Qt::white), color >= 0);
+            PintarMarca(p, nodo.posicion, color);
         if (!etiquetas) continue;
-        if (color >= 0) p.fillRect(nodo.etiqueta, ColorNivo(color));
+        if (color >= 0) p.fillRect(nodo.etiqueta, Tono(ColorNivo(color), blancoNegro_));
         p.setPen(Qt::black);
         p.setFont(fuenteNombre_);
         p.drawText(QPointF(nodo.etiqueta.left() + 2, nodo.etiqueta.top() + mNombre.ascent()), d.nombre);

@@ -11,7 +11,8 @@
 //
 // Nodes carry their name and pressure; the unfavourable node and those
 // above the maximum pressure are filled with the colours of the pressure
-// grid; the origin shows an elevated tank, a pump or the supply.  World
+// grid (in black and white the first is a target, the others grey
+// squares); the origin shows an elevated tank, a pump or the supply.  World
 // units are pixels at 100 %.
 
 #include "analysis/DatosEsquema.h"
@@ -54,6 +55,8 @@ private:
     };
     void Disponer();
     void PintarOrigen(QPainter& p) const;
+    // A node's marker; `color` that of the pressure grid's mark, -1 none.
+    void PintarMarca(QPainter& p, const QPointF& c, int color) const;
 
     DatosEsquema datos_;
     std::vector<Nodo> nodos_;

@@ -10,12 +10,15 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <numeric>
 
 namespace {
 
 constexpr double AnchoLeyenda = 200.0;  // pixels at the right of the device
 constexpr double RadioNodo = 4.0;       // pixels
 constexpr int MaximoEtiquetasVisibles = 400;
+constexpr double AreaEtiqueta = 60.0 * 26.0;  // pixels, a typical node label
 
 const std::vector<QColor>& Paleta() {
     static const std::vector<QColor> p{QColor(33, 102, 172), QColor(103, 169, 207), QColor(26, 152, 80),
@@ -118,13 +121,252 @@ QString PlanoAcueducto::Numero(double v, const char* mascara) const {
     return Formato(v, QString::fromLatin1(mascara), Separadores{datos_.decimal, datos_.miles});
 }
 
+QPen PlanoAcueducto::PlumaClase(int clase) const {
+    if (!blancoNegro_) return QPen(clases_.colores[size_t(clase)], 3.0, Qt::SolidLine, Qt::RoundCap);
+    // Without colour a faster (or steeper) class is darker and wider, and
+    // the two slowest are dotted and dashed.
+    const double t = double(clase) / std::max<size_t>(clases_.colores.size() - 1, 1);
+    const int gris = int(std::lround(100.0 * (1.0 - t)));
+    QPen pluma(QColor(gris, gris, gris), std::max(2.0, 1.4 + 4.0 * t), Qt::SolidLine, Qt::RoundCap);
+    if (clase == 0) pluma.setDashPattern({0.01, 2.0});
+    if (clase == 1) {
+        pluma.setCapStyle(Qt::FlatCap);
+        pluma.setDashPattern({4.0, 2.0});
+    }
+    return pluma;
+}
+
+QColor PlanoAcueducto::RellenoPresion(int clase) const {
+    if (!blancoNegro_) return presiones_.colores[size_t(clase)];
+    // From black for a pressure below zero to white for the highest.
+    static const int grises[] = {0, 75, 130, 180, 220, 255};
+    const int g = grises[std::clamp(clase, 0, 5)];
+    return QColor(g, g, g);
+}
+
+double PlanoAcueducto::RadioMarca(int k) const {
+    const NodoPlano& x = datos_.nodos[size_t(k)];
+    if (x.minimo || x.maximo) return blancoNegro_ ? RadioNodo + 9 : RadioNodo + 5;
+    return x.fijo ? 6.0 : RadioNodo;
+}
+
+void PlanoAcueducto::PintarMarcaNodo(QPainter& p, int k, const QPointF& c, bool todos) const {
+    const NodoPlano& x = datos_.nodos[size_t(k)];
+    if (x.minimo || x.maximo) {
+        if (blancoNegro_) {
+            // A double ring for the lowest pressure, a diamond for the highest.
+            p.setPen(QPen(Qt::black, 1.4));
+            p.setBrush(Qt::white);
+            if (x.minimo) DibujarForma(p, c, RadioNodo + 7, FormaMarca::DobleAnillo);
+            else DibujarForma(p, c, RadioNodo + 9, FormaMarca::Rombo);
+        } else {
+            p.setPen(QPen(QColor(80, 80, 80), 1.0));
+            p.setBrush(ColorNivo(x.minimo ? ColorPresionMinima : ColorPresionMaxima));
+            p.drawEllipse(c, RadioNodo + 5, RadioNodo + 5);
+        }
+    }
+    const QColor relleno = RellenoPresion(claseNodo_[size_t(k)]);
+    if (x.fijo) {
+        p.setPen(QPen(Qt::black, 1.2));
+        p.setBrush(relleno);
+        p.drawRect(QRectF(c - QPointF(6, 6), QSizeF(12, 12)));
+    } else if (todos || x.minimo || x.maximo) {
+        MarcaNodo(p, c, RadioNodo, relleno, false);
+    }
+}
+
+PlanoAcueducto::Detalle PlanoAcueducto::DetalleDe(const QTransform& mundo, const QRectF& destino,
+                                                  bool todasLasEtiquetas) const {
+    Detalle d;
+    const QRectF visible = mundo.inverted().mapRect(destino);
+    for (size_t k = 0; k < posiciones_.size(); ++k)
+        if (visible.contains(posiciones_[k])) d.nodos.push_back(int(k));
+    // Level of detail by how long a typical section is on the page: node
+    // markers from a few pixels, labels once they fit between the nodes.
+    const double pixelesTramo = longitudTipica_ * std::sqrt(std::abs(mundo.determinant()));
+    const int n = int(d.nodos.size());
+    d.marcas = pixelesTramo >= 9.0 || n <= 60;
+    d.etiquetas = (pixelesTramo >= 45.0 || n <= 12) && n <= (todasLasEtiquetas ? 3000 : MaximoEtiquetasVisibles);
+    // A page or a file names every node of a small network, as long as the
+    // labels take no more than a third of it.
+    if (todasLasEtiquetas && n * AreaEtiqueta <= destino.width() * destino.height() / 3.0) d.etiquetas = true;
+    return d;
+}
+
+namespace {
+
+// Whether segment `l` passes through rectangle `r` (Liang-Barsky).
+bool Atraviesa(const QLineF& l, const QRectF& r) {
+    const double dx = l.dx(), dy = l.dy();
+    double t0 = 0, t1 = 1;
+    const double p[] = {-dx, dx, -dy, dy};
+    const double q[] = {l.x1() - r.left(), r.right() - l.x1(), l.y1() - r.top(), r.bottom() - l.y1()};
+    for (int k = 0; k < 4; ++k) {
+        if (p[k] == 0) {
+            if (q[k] < 0) return false;
+            continue;
+        }
+        const double t = q[k] / p[k];
+        if (p[k] < 0) t0 = std::max(t0, t);
+        else t1 = std::min(t1, t);
+        if (t0 > t1) return false;
+    }
+    return true;
+}
+
+// Rectangles and segments on the page, kept by square cells so that a new
+// label is checked against its neighbours alone.
+class Rejilla {
+public:
+    Rejilla(const QRectF& zona, double celda)
+        : zona_(zona), celda_(celda), nx_(std::max(1, int(std::ceil(zona.width() / celda)))),
+          ny_(std::max(1, int(std::ceil(zona.height() / celda)))), celdas_(size_t(nx_) * size_t(ny_)) {}
+
+    void Agregar(const QRectF& r) { Guardar({r, QLineF(), false}); }
+    void Agregar(const QLineF& l) { Guardar({QRectF(l.p1(), l.p2()).normalized(), l, true}); }
+    // How many of those kept `r` meets, but the one numbered `salvo` in the
+    // order they came, and the area it shares with the rectangles.
+    int Cruces(const QRectF& r, double* area = nullptr, int salvo = -1) const {
+        ++marca_;
+        int n = 0;
+        double a = 0;
+        Recorrer(r, [&](const std::vector<int>& c) {
+            for (int i : c) {
+                const Objeto& o = objetos_[size_t(i)];
+                if (visto_[size_t(i)] == marca_ || i == salvo) continue;
+                visto_[size_t(i)] = marca_;
+                if (o.esLinea ? !Atraviesa(o.linea, r) : !o.caja.intersects(r)) continue;
+                ++n;
+                const QRectF comun = o.esLinea ? QRectF() : o.caja & r;
+                a += comun.width() * comun.height();
+            }
+        });
+        if (area) *area = a;
+        return n;
+    }
+
+private:
+    struct Objeto {
+        QRectF caja;
+        QLineF linea;
+        bool esLinea;
+    };
+    void Guardar(const Objeto& o) {
+        objetos_.push_back(o);
+        visto_.push_back(0);
+        Recorrer(o.caja, [&](std::vector<int>& c) { c.push_back(int(objetos_.size()) - 1); });
+    }
+    template <typename F>
+    void Recorrer(const QRectF& r, F f) const {
+        auto indice = [&](double v, double origen, int n) {
+            return int(std::clamp(std::floor((v - origen) / celda_), 0.0, double(n - 1)));
+        };
+        const int x0 = indice(r.left(), zona_.left(), nx_), x1 = indice(r.right(), zona_.left(), nx_);
+        const int y0 = indice(r.top(), zona_.top(), ny_), y1 = indice(r.bottom(), zona_.top(), ny_);
+        for (int y = y0; y <= y1; ++y)
+            for (int x = x0; x <= x1; ++x) f(celdas_[size_t(y) * size_t(nx_) + size_t(x)]);
+    }
+
+    QRectF zona_;
+    double celda_;
+    int nx_, ny_;
+    mutable std::vector<std::vector<int>> celdas_;
+    std::vector<Objeto> objetos_;
+    mutable std::vector<int> visto_;
+    mutable int marca_ = 0;
+};
+
+// `r` moved the least to lie inside `z`.
+QRectF Dentro(QRectF r, const QRectF& z) {
+    r.moveLeft(std::clamp(r.left(), z.left(), std::max(z.left(), z.right() - r.width())));
+    r.moveTop(std::clamp(r.top(), z.top(), std::max(z.top(), z.bottom() - r.height())));
+    return r;
+}
+
+}  // namespace
+
+std::vector<EtiquetaPlano> PlanoAcueducto::Etiquetas(const QTransform& mundo, const QRectF& destino,
+                                                     bool todasLasEtiquetas) const {
+    std::vector<EtiquetaPlano> puestas;
+    const Detalle d = DetalleDe(mundo, destino, todasLasEtiquetas);
+    if (!d.etiquetas || destino.isEmpty()) return puestas;
+    const QFontMetricsF m(fuenteNegrita_), mNormal(fuente_);
+    // Cells of a few labels each, never more than some thousands of them.
+    const double celda = std::max(48.0, std::sqrt(destino.width() * destino.height() / 4096.0));
+    Rejilla etiquetas(destino, celda), marcas(destino, celda), tubos(destino, celda);
+    etiquetas.Agregar(CajaLeyenda(destino));
+    etiquetas.Agregar(CajaEscala(EscalaDe(mundo, destino)));
+    // A marker counts a few pixels wider: a label hard by another node's
+    // marker would read as that node's.
+    std::vector<QPointF> centros(d.nodos.size());
+    for (size_t i = 0; i < d.nodos.size(); ++i) {
+        const int k = d.nodos[i];
+        const NodoPlano& x = datos_.nodos[size_t(k)];
+        centros[i] = mundo.map(posiciones_[size_t(k)]);
+        const double r = d.marcas || x.fijo || x.minimo || x.maximo ? RadioMarca(k) + 4.0 : 0.0;
+        marcas.Agregar(QRectF(centros[i] - QPointF(r, r), centros[i] + QPointF(r, r)));
+    }
+    const QRectF visible = mundo.inverted().mapRect(destino);
+    for (size_t t = 0; t < lineas_.size(); ++t)
+        if (datos_.tramos[t].nodoI >= 0 && datos_.tramos[t].nodoJ >= 0 &&
+            QRectF(lineas_[t].p1(), lineas_[t].p2()).normalized().adjusted(-1e-6, -1e-6, 1e-6, 1e-6).intersects(visible))
+            tubos.Agregar(mundo.map(lineas_[t]));
+    // The marked nodes choose first.
+    std::vector<size_t> orden(d.nodos.size());
+    std::iota(orden.begin(), orden.end(), size_t(0));
+    std::stable_partition(orden.begin(), orden.end(), [&](size_t i) {
+        const NodoPlano& x = datos_.nodos[size_t(d.nodos[i])];
+        return x.minimo || x.maximo || x.fijo;
+    });
+    for (size_t i : orden) {
+        const int k = d.nodos[i];
+        const NodoPlano& x = datos_.nodos[size_t(k)];
+        const QSizeF t(std::max(m.horizontalAdvance(x.nombre), mNormal.horizontalAdvance(x.textoPresion)) + 2.0,
+                       m.height() + mNormal.height());
+        const QPointF c = centros[i];
+        const double g = RadioMarca(k) + 2.0, h = g * 0.7;
+        // Right, upper right, lower right, left, upper left, lower left, above, below.
+        const QPointF esquinas[] = {{c.x() + g, c.y() - t.height() / 2},
+                                    {c.x() + h, c.y() - h - t.height()},
+                                    {c.x() + h, c.y() + h},
+                                    {c.x() - g - t.width(), c.y() - t.height() / 2},
+                                    {c.x() - h - t.width(), c.y() - h - t.height()},
+                                    {c.x() - h - t.width(), c.y() + h},
+                                    {c.x() - t.width() / 2, c.y() - g - t.height()},
+                                    {c.x() - t.width() / 2, c.y() + g}};
+        // Free of labels, then covering the fewest markers, then the fewest pipes.
+        QRectF libre, menosMala;
+        int menosTapado = std::numeric_limits<int>::max();
+        double menosArea = std::numeric_limits<double>::infinity();
+        for (const QPointF& e : esquinas) {
+            const QRectF caja = Dentro(QRectF(e, t), destino);
+            double area = 0;
+            if (etiquetas.Cruces(caja, &area) == 0) {
+                const int tapado = 1000 * marcas.Cruces(caja, nullptr, int(i)) + tubos.Cruces(caja);
+                if (tapado < menosTapado) {
+                    menosTapado = tapado;
+                    libre = caja;
+                    if (tapado == 0) break;
+                }
+            } else if (area < menosArea) {
+                menosArea = area;
+                menosMala = caja;
+            }
+        }
+        if (libre.isNull() && !todasLasEtiquetas) continue;
+        const QRectF caja = libre.isNull() ? menosMala : libre;
+        etiquetas.Agregar(caja);
+        puestas.push_back({k, caja});
+    }
+    return puestas;
+}
+
 void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& destino, bool todasLasEtiquetas) const {
     p.save();
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
     p.setClipRect(destino);
     const QRectF visible = mundo.inverted().mapRect(destino);
-    const double escala = std::sqrt(std::abs(mundo.determinant()));
 
     // Sections, one pen per class.
     std::vector<std::vector<QLineF>> porClase(clases_.colores.size());
@@ -139,11 +381,12 @@ void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& 
     }
     for (size_t c = 0; c < porClase.size(); ++c) {
         if (porClase[c].empty()) continue;
-        p.setPen(QPen(clases_.colores[c], 3.0, Qt::SolidLine, Qt::RoundCap));
+        p.setPen(PlumaClase(int(c)));
         p.drawLines(porClase[c].data(), int(porClase[c].size()));
     }
-    // Arrows where the section is long enough on the page, at its middle.
-    p.setPen(Qt::NoPen);
+    // Arrows where the section is long enough on the page, at its middle;
+    // without colour a white edge parts them from the darkest lines.
+    p.setPen(blancoNegro_ ? QPen(Qt::white, 1.0) : QPen(Qt::NoPen));
     p.setBrush(QColor(50, 50, 50));
     for (int t : visibles) {
         const QLineF l = mundo.map(lineas_[size_t(t)]);
@@ -157,73 +400,69 @@ void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& 
     }
 
     // Nodes: only the marked ones when too many show.
-    std::vector<int> nodos;
-    for (size_t k = 0; k < posiciones_.size(); ++k)
-        if (visible.contains(posiciones_[k])) nodos.push_back(int(k));
-    // Level of detail by how long a typical section is on the page: node
-    // markers from a few pixels, labels once they fit between the nodes.
-    const double pixelesTramo = longitudTipica_ * escala;
-    const bool todos = pixelesTramo >= 9.0 || int(nodos.size()) <= 60;
-    for (int k : nodos) {
-        const NodoPlano& x = datos_.nodos[size_t(k)];
-        const QPointF c = mundo.map(posiciones_[size_t(k)]);
-        if (x.minimo || x.maximo) {
-            p.setPen(QPen(QColor(80, 80, 80), 1.0));
-            p.setBrush(ColorNivo(x.minimo ? ColorPresionMinima : ColorPresionMaxima));
-            p.drawEllipse(c, RadioNodo + 5, RadioNodo + 5);
-        }
-        if (x.fijo) {
-            p.setPen(QPen(Qt::black, 1.2));
-            p.setBrush(presiones_.colores[size_t(claseNodo_[size_t(k)])]);
-            p.drawRect(QRectF(c - QPointF(6, 6), QSizeF(12, 12)));
-        } else if (todos || x.minimo || x.maximo) {
-            MarcaNodo(p, c, RadioNodo, presiones_.colores[size_t(claseNodo_[size_t(k)])], false);
-        }
-    }
-    const bool etiquetas = (pixelesTramo >= 45.0 || int(nodos.size()) <= 12) &&
-                           int(nodos.size()) <= (todasLasEtiquetas ? 3000 : MaximoEtiquetasVisibles);
-    if (etiquetas) {
-        const QFontMetricsF m(fuenteNegrita_), mNormal(fuente_);
-        for (int k : nodos) {
-            const NodoPlano& x = datos_.nodos[size_t(k)];
-            const QPointF c = mundo.map(posiciones_[size_t(k)]) + QPointF(8, -3);
+    const Detalle detalle = DetalleDe(mundo, destino, todasLasEtiquetas);
+    for (int k : detalle.nodos) PintarMarcaNodo(p, k, mundo.map(posiciones_[size_t(k)]), detalle.marcas);
+    if (detalle.etiquetas) {
+        const QFontMetricsF m(fuenteNegrita_);
+        for (const EtiquetaPlano& e : Etiquetas(mundo, destino, todasLasEtiquetas)) {
+            const NodoPlano& x = datos_.nodos[size_t(e.nodo)];
             // A light ground keeps the label readable over the pipes.
-            const double w = std::max(m.horizontalAdvance(x.nombre), mNormal.horizontalAdvance(x.textoPresion));
-            p.fillRect(QRectF(c.x() - 1, c.y() - m.ascent(), w + 2, m.height() + mNormal.height()),
-                       QColor(255, 255, 255, 190));
+            p.fillRect(e.caja, QColor(255, 255, 255, 190));
+            const QPointF base(e.caja.left() + 1, e.caja.top() + m.ascent());
             p.setPen(Qt::black);
             p.setFont(fuenteNegrita_);
-            p.drawText(c, x.nombre);
+            p.drawText(base, x.nombre);
             p.setPen(QColor(60, 60, 60));
             p.setFont(fuente_);
-            p.drawText(c + QPointF(0, m.height()), x.textoPresion);
+            p.drawText(base + QPointF(0, m.height()), x.textoPresion);
         }
     }
-    PintarEscala(p, mundo, destino);
+    PintarEscala(p, EscalaDe(mundo, destino));
     PintarLeyenda(p, destino);
     p.restore();
 }
 
-void PlanoAcueducto::PintarEscala(QPainter& p, const QTransform& mundo, const QRectF& destino) const {
+PlanoAcueducto::Escala PlanoAcueducto::EscalaDe(const QTransform& mundo, const QRectF& destino) const {
+    Escala e;
+    e.origen = QPointF(destino.left() + 16, destino.bottom() - 18);
     const double escala = std::sqrt(std::abs(mundo.determinant()));  // pixels per metre
-    if (escala <= 0) return;
+    if (escala <= 0) return e;
     // A round length near 120 pixels.
     const double objetivo = 120.0 / escala;
     const double potencia = std::pow(10.0, std::floor(std::log10(objetivo)));
     double largo = potencia;
     for (double f : {1.0, 2.0, 5.0, 10.0})
         if (f * potencia <= objetivo) largo = f * potencia;
-    const double px = largo * escala;
-    const QPointF o(destino.left() + 16, destino.bottom() - 18);
+    e.pixeles = largo * escala;
+    e.texto = largo >= 1000 ? Numero(largo / 1000.0, "#,##0") + QStringLiteral(" km")
+                            : Numero(largo, largo >= 1 ? "#,##0" : "0.00") + QStringLiteral(" m");
+    return e;
+}
+
+QRectF PlanoAcueducto::CajaEscala(const Escala& e) const {
+    if (e.pixeles <= 0) return QRectF();
+    const QFontMetricsF m(fuente_);
+    return QRectF(e.origen.x() - 2, e.origen.y() - std::max(6.0, m.ascent() - 4) - 1,
+                  e.pixeles + 8 + m.horizontalAdvance(e.texto), std::max(6.0, m.ascent() - 4) + 7 + m.descent());
+}
+
+void PlanoAcueducto::PintarEscala(QPainter& p, const Escala& e) const {
+    if (e.pixeles <= 0) return;
+    const QPointF o = e.origen;
     p.setPen(QPen(Qt::black, 1.5));
     p.setBrush(Qt::NoBrush);
-    p.drawLine(o, o + QPointF(px, 0));
+    p.drawLine(o, o + QPointF(e.pixeles, 0));
     p.drawLine(o + QPointF(0, -5), o + QPointF(0, 5));
-    p.drawLine(o + QPointF(px, -5), o + QPointF(px, 5));
+    p.drawLine(o + QPointF(e.pixeles, -5), o + QPointF(e.pixeles, 5));
     p.setFont(fuente_);
-    const QString texto = largo >= 1000 ? Numero(largo / 1000.0, "#,##0") + QStringLiteral(" km")
-                                        : Numero(largo, largo >= 1 ? "#,##0" : "0.00") + QStringLiteral(" m");
-    p.drawText(o + QPointF(px + 6, 4), texto);
+    p.drawText(o + QPointF(e.pixeles + 6, 4), e.texto);
+}
+
+QRectF PlanoAcueducto::CajaLeyenda(const QRectF& destino) const {
+    const double linea = QFontMetricsF(fuente_).height() + 3;
+    const int filas = 3 + int(clases_.colores.size()) + 1 + int(presiones_.colores.size()) + 4 + (dispuesto_ ? 2 : 0);
+    const double ancho = AnchoLeyenda - 16;
+    return QRectF(destino.right() - ancho - 8, destino.top() + 8, ancho, filas * linea + 10);
 }
 
 void PlanoAcueducto::PintarLeyenda(QPainter& p, const QRectF& destino) const {
@@ -234,9 +473,8 @@ void PlanoAcueducto::PintarLeyenda(QPainter& p, const QRectF& destino) const {
         if (i == int(c.limites.size())) return Numero(c.limites.back(), mascara) + QStringLiteral(" o más");
         return Numero(c.limites[size_t(i) - 1], mascara) + QStringLiteral(" a ") + Numero(c.limites[size_t(i)], mascara);
     };
-    const int filas = 3 + int(clases_.colores.size()) + 1 + int(presiones_.colores.size()) + 4 + (dispuesto_ ? 2 : 0);
-    const double ancho = AnchoLeyenda - 16;
-    const QRectF caja(destino.right() - ancho - 8, destino.top() + 8, ancho, filas * linea + 10);
+    const QRectF caja = CajaLeyenda(destino);
+    const double ancho = caja.width();
     p.setPen(QPen(QColor(120, 120, 120), 1));
     p.setBrush(QColor(255, 255, 255, 235));
     p.drawRect(caja);
@@ -254,7 +492,7 @@ void PlanoAcueducto::PintarLeyenda(QPainter& p, const QRectF& destino) const {
     texto(clases_.titulo, true);
     const char* mascara = modo_ == ColorPlano::Velocidad ? "0.0" : "0";
     for (int i = 0; i < int(clases_.colores.size()); ++i) {
-        p.setPen(QPen(clases_.colores[size_t(i)], 4));
+        p.setPen(blancoNegro_ ? PlumaClase(i) : QPen(clases_.colores[size_t(i)], 4));
         p.drawLine(QPointF(x, y - m.ascent() / 2), QPointF(x + 22, y - m.ascent() / 2));
         p.setPen(Qt::black);
         p.setFont(fuente_);
@@ -263,19 +501,27 @@ void PlanoAcueducto::PintarLeyenda(QPainter& p, const QRectF& destino) const {
     }
     texto(presiones_.titulo, true);
     for (int i = 0; i < int(presiones_.colores.size()); ++i) {
-        MarcaNodo(p, QPointF(x + 11, y - m.ascent() / 2), RadioNodo, presiones_.colores[size_t(i)], false);
+        MarcaNodo(p, QPointF(x + 11, y - m.ascent() / 2), RadioNodo, RellenoPresion(i), false);
         p.setPen(Qt::black);
         p.setFont(fuente_);
         p.drawText(QPointF(x + 30, y), rango(presiones_, i, "0"));
         y += linea;
     }
-    for (const auto& [color, texto] : {std::pair{ColorPresionMinima, "Presión mínima del caso"},
-                                       std::pair{ColorPresionMaxima, "Presión máxima del caso"}}) {
-        p.setPen(QPen(QColor(80, 80, 80), 1.0));
-        p.setBrush(ColorNivo(color));
-        p.drawEllipse(QPointF(x + 11, y - m.ascent() / 2), RadioNodo + 4, RadioNodo + 4);
+    for (const bool minimo : {true, false}) {
+        const QPointF c(x + 11, y - m.ascent() / 2);
+        if (blancoNegro_) {
+            p.setPen(QPen(Qt::black, 1.2));
+            p.setBrush(Qt::white);
+            if (minimo) DibujarForma(p, c, RadioNodo + 3, FormaMarca::DobleAnillo);
+            else DibujarForma(p, c, RadioNodo + 4, FormaMarca::Rombo);
+        } else {
+            p.setPen(QPen(QColor(80, 80, 80), 1.0));
+            p.setBrush(ColorNivo(minimo ? ColorPresionMinima : ColorPresionMaxima));
+            p.drawEllipse(c, RadioNodo + 4, RadioNodo + 4);
+        }
         p.setPen(Qt::black);
-        p.drawText(QPointF(x + 30, y), QString::fromUtf8(texto));
+        p.drawText(QPointF(x + 30, y), minimo ? QStringLiteral("Presión mínima del caso")
+                                              : QStringLiteral("Presión máxima del caso"));
         y += linea;
     }
     p.setPen(QPen(Qt::black, 1.2));

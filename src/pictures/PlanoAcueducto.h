@@ -6,6 +6,10 @@
 // without coordinates are laid out from the section lengths.  World units
 // are metres, y to the south (the north is up on the page); lines are
 // mapped, while markers, arrows and texts keep their size in pixels.
+//
+// In black and white the classes of the sections go from light, thin and
+// dotted to black and wide, those of the nodes from black to white, and the
+// lowest and highest pressure take a double ring and a diamond.
 
 #include "aqueduct/DatosPlano.h"
 #include "pictures/Dibujo.h"
@@ -13,6 +17,7 @@
 #include <QColor>
 #include <QFont>
 #include <QLineF>
+#include <QPen>
 #include <QStringList>
 #include <vector>
 
@@ -29,6 +34,13 @@ struct ClasesPlano {
 ClasesPlano ClasesVelocidad();  // m/s: 0.3 0.6 1.0 1.5 2.0
 ClasesPlano ClasesPerdida();    // m/km: 1 3 5 10 20
 ClasesPlano ClasesPresion();    // m: 0 10 20 40 60
+
+// A node's label as one paint places it: its name and pressure in `caja`,
+// device units.
+struct EtiquetaPlano {
+    int nodo = -1;
+    QRectF caja;
+};
 
 class PlanoAcueducto : public Dibujo {
 public:
@@ -56,9 +68,37 @@ public:
     // Some node was placed by the layout rather than by its coordinates.
     bool Dispuesto() const { return dispuesto_; }
 
+    // The labels a paint through `mundo` into `destino` draws: each beside
+    // its node, where it meets no other label, nor the legend or the scale,
+    // and when it can no marker, then no pipe.  One that finds no room is left out, or
+    // with `todasLasEtiquetas` takes the place that overlaps least.  Labels
+    // keep their size in pixels, so where they go depends on the scale.
+    std::vector<EtiquetaPlano> Etiquetas(const QTransform& mundo, const QRectF& destino, bool todasLasEtiquetas) const;
+
 private:
+    // What a paint shows: the nodes inside the device, and whether all
+    // their markers and their labels are drawn at this scale.
+    struct Detalle {
+        std::vector<int> nodos;
+        bool marcas = false, etiquetas = false;
+    };
+    Detalle DetalleDe(const QTransform& mundo, const QRectF& destino, bool todasLasEtiquetas) const;
+    // Half the size of node k's marker on the page, its ring included.
+    double RadioMarca(int k) const;
+    QPen PlumaClase(int clase) const;
+    QColor RellenoPresion(int clase) const;
+    void PintarMarcaNodo(QPainter& p, int k, const QPointF& c, bool todos) const;
     void PintarLeyenda(QPainter& p, const QRectF& destino) const;
-    void PintarEscala(QPainter& p, const QTransform& mundo, const QRectF& destino) const;
+    QRectF CajaLeyenda(const QRectF& destino) const;
+    // The scale bar: a round length, its pixels and its text.
+    struct Escala {
+        double pixeles = 0.0;
+        QString texto;
+        QPointF origen;
+    };
+    Escala EscalaDe(const QTransform& mundo, const QRectF& destino) const;
+    QRectF CajaEscala(const Escala& e) const;
+    void PintarEscala(QPainter& p, const Escala& e) const;
     QString Numero(double v, const char* mascara) const;
 
     DatosPlano datos_;

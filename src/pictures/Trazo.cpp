@@ -25,3 +25,24 @@ double DistanciaTrazo(const QPolygonF& trazo, const QPointF& punto) {
     for (int i = 1; i < trazo.size(); ++i) d = std::min(d, DistanciaSegmento(trazo[i - 1], trazo[i], punto));
     return d;
 }
+
+QColor Gris(const QColor& c) {
+    const int g = qGray(c.rgb());
+    return QColor(g, g, g, c.alpha());
+}
+
+void DibujarForma(QPainter& p, const QPointF& centro, double radio, FormaMarca forma) {
+    switch (forma) {
+    case FormaMarca::DobleAnillo:
+        p.drawEllipse(centro, radio, radio);
+        p.drawEllipse(centro, radio - 3.0, radio - 3.0);
+        break;
+    case FormaMarca::Cuadrado:
+        p.drawRect(QRectF(centro - QPointF(radio, radio), centro + QPointF(radio, radio)));
+        break;
+    case FormaMarca::Rombo:
+        p.drawPolygon(QPolygonF{centro + QPointF(0, -radio), centro + QPointF(radio, 0), centro + QPointF(0, radio),
+                                centro + QPointF(-radio, 0)});
+        break;
+    }
+}

@@ -81,3 +81,14 @@ inline bool ColorCercano(const QColor& a, const QColor& b, int tolerancia = 6) {
     return std::abs(a.red() - b.red()) <= tolerancia && std::abs(a.green() - b.green()) <= tolerancia &&
            std::abs(a.blue() - b.blue()) <= tolerancia;
 }
+
+// No pixel of the image has a colour: red, green and blue within a step of
+// each other everywhere.
+inline bool SoloGrises(const QImage& im) {
+    for (int y = 0; y < im.height(); ++y)
+        for (int x = 0; x < im.width(); ++x) {
+            const QColor c = im.pixelColor(x, y);
+            if (std::abs(c.red() - c.green()) > 2 || std::abs(c.green() - c.blue()) > 2) return false;
+        }
+    return true;
+}

@@ -1,8 +1,9 @@
 // The schematic of every building sample, checked as a picture: each node
 // label is in the SVG's text, no two node labels meet, the unfavourable node
 // and those above the maximum pressure carry the pressure grid's colours at
-// their markers in the PNG, and the riser of the eight-floor sample stands
-// vertical with its floors in the order of their levels.
+// their markers in the PNG (in black and white, shapes of their own), and
+// the riser of the eight-floor sample stands vertical with its floors in the
+// order of their levels.
 
 #include "ApoyoDibujos.h"
 #include "pictures/EsquemaEdificio.h"
@@ -16,7 +17,7 @@ TEST(Esquema, CadaMuestraTieneTodasLasEtiquetasSinSolaparYLosColoresDelAnalisis)
         SCOPED_TRACE(nombre.toStdString());
         SesionPrueba sp;
         EdificioAnalizado e(sp, nombre);
-        const EsquemaEdificio dibujo(e.Esquema());
+        EsquemaEdificio dibujo(e.Esquema());
         const DatosEsquema& datos = dibujo.Datos();
         ASSERT_EQ(int(datos.nodos.size()), e.p.NumeroRamales + 1);
 
@@ -48,6 +49,20 @@ TEST(Esquema, CadaMuestraTieneTodasLasEtiquetasSinSolaparYLosColoresDelAnalisis)
                 << n.nombre.toStdString() << " " << pixel.name().toStdString();
         }
         EXPECT_EQ(desfavorables, 1);
+
+        // Without colour nothing is coloured, and the marks keep apart by
+        // their shape: the unfavourable node's target has a black centre, a
+        // node above PresionM is a grey square, any other a white ring.
+        dibujo.PonerBlancoNegro(true);
+        const QImage bn(Exportar(dibujo, sp.Datos(QString()), QStringLiteral("bn.png")));
+        EXPECT_TRUE(SoloGrises(bn));
+        for (int k = 1; k <= e.p.NumeroRamales; ++k) {
+            const NodoEsquema& n = datos.nodos[size_t(k)];
+            const int gris = bn.pixelColor(EnArchivo(dibujo, dibujo.PosicionNodo(k)).toPoint()).red();
+            if (n.desfavorable) EXPECT_LT(gris, 40) << n.nombre.toStdString();
+            else if (n.sobreMaxima) EXPECT_NEAR(gris, 150, 6) << n.nombre.toStdString();
+            else EXPECT_GT(gris, 249) << n.nombre.toStdString();
+        }
     }
 }
 

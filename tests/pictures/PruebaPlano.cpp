@@ -1,7 +1,8 @@
 // The plan of the aqueduct samples checked as a picture (every node label
-// in the SVG's text, the network inside the page), the colours of sections
-// against the velocity classes worked by hand, given coordinates kept with
-// north up, and the layout from lengths alone.
+// in the SVG's text, the network inside the page, no colour left in black
+// and white, labels apart from each other at any scale), the colours of
+// sections against the velocity classes worked by hand, given coordinates
+// kept with north up, and the layout from lengths alone.
 
 #include "ApoyoDibujos.h"
 #include "pictures/DisposicionTension.h"
@@ -29,8 +30,9 @@ TEST(Plano, CadaMuestraTieneSusEtiquetasYCabeEnLaPagina) {
         SesionPrueba sp;
         ProyectoAcueducto p;
         ResolverRed(sp, p, nombre);
-        const PlanoAcueducto plano(PlanoDeProyecto(p));
-        EXPECT_TRUE(plano.Dispuesto());
+        PlanoAcueducto plano(PlanoDeProyecto(p, CoordenadasNodos(p)));
+        // Sample A gives every node its place; B leaves them to the layout.
+        EXPECT_EQ(plano.Dispuesto(), nombre == QLatin1String("EjemploRedB"));
         const QString svg = QString::fromUtf8(LeerArchivo(Exportar(plano, sp.Datos(QString()), QStringLiteral("p.svg"))));
         for (const NodoPlano& n : plano.Datos().nodos)
             EXPECT_TRUE(svg.contains(QLatin1Char('>') + n.nombre.toHtmlEscaped() + QLatin1Char('<'))) << n.nombre.toStdString();
@@ -43,6 +45,38 @@ TEST(Plano, CadaMuestraTieneSusEtiquetasYCabeEnLaPagina) {
             EXPECT_TRUE(red.contains(EnArchivo(plano, plano.PosicionNodo(k)))) << k;
         const QByteArray pdf = LeerArchivo(Exportar(plano, sp.Datos(QString()), QStringLiteral("p.pdf")));
         EXPECT_TRUE(pdf.startsWith("%PDF"));
+        // Without colour no pixel keeps one.
+        plano.PonerBlancoNegro(true);
+        EXPECT_TRUE(SoloGrises(QImage(Exportar(plano, sp.Datos(QString()), QStringLiteral("bn.png")))));
+    }
+}
+
+TEST(Plano, LasEtiquetasNoSeTocanYQuedanEnLaPaginaJuntoASuNodo) {
+    for (const QString& nombre : RedesDeEjemplo()) {
+        SesionPrueba sp;
+        ProyectoAcueducto p;
+        ResolverRed(sp, p, nombre);
+        PlanoAcueducto plano(PlanoDeProyecto(p, CoordenadasNodos(p)));
+        // The picture file's own page, and a letter page less half-inch
+        // margins in points, as a report band paints it.
+        const QRectF archivo = QRectF(QPointF(0, 0), plano.TamanoNatural()).adjusted(12, 12, -12, -12);
+        for (const QRectF& destino : {archivo, QRectF(36, 36, 540, 720)})
+            for (const bool bn : {false, true}) {
+                SCOPED_TRACE(nombre.toStdString() + " " + std::to_string(destino.width()) + (bn ? " bn" : ""));
+                plano.PonerBlancoNegro(bn);
+                const QTransform t = EncuadreDibujo(plano, destino);
+                const std::vector<EtiquetaPlano> e = plano.Etiquetas(t, destino, true);
+                ASSERT_EQ(e.size(), plano.Datos().nodos.size());
+                for (size_t i = 0; i < e.size(); ++i) {
+                    EXPECT_TRUE(destino.contains(e[i].caja)) << e[i].nodo;
+                    for (size_t j = i + 1; j < e.size(); ++j) EXPECT_FALSE(e[i].caja.intersects(e[j].caja)) << e[i].nodo << " " << e[j].nodo;
+                    // Beside its node: within the largest ring (13 px) and a gap of 2.
+                    const QPointF c = t.map(plano.PosicionNodo(e[i].nodo));
+                    const QPointF cerca(std::clamp(c.x(), e[i].caja.left(), e[i].caja.right()),
+                                        std::clamp(c.y(), e[i].caja.top(), e[i].caja.bottom()));
+                    EXPECT_LE(std::hypot(cerca.x() - c.x(), cerca.y() - c.y()), 15.0 + 1e-9) << e[i].nodo;
+                }
+            }
     }
 }
 
