@@ -181,3 +181,16 @@ TEST(ReportesResultados, ElResumenTraeElEsquemaLegibleDentroDeSuMarcoYEnBlancoYN
         }
     EXPECT_EQ(coloreados, 0);
 }
+
+TEST(ReportesResultados, LaHojaDelEsquemaSeVuelveSegunLaFormaDelDibujo) {
+    // One floor of six branches left to right lies; eight floors stand.
+    for (const auto& [ejemplo, horizontal] : {std::pair{"Edificio_ApartamentoTipo", true}, std::pair{"Edificio_MontantePH", false}}) {
+        EjemploAnalizado e("C", QString::fromLatin1(ejemplo) + QStringLiteral(".nivo"));
+        QString error;
+        ASSERT_TRUE(LleneTablasResultados(*e.a, e.p, e.sp.s, OpcionesResultados{}, error)) << error.toStdString();
+        Reporte r;
+        ASSERT_TRUE(r.Abrir(RutaProgramaPruebas(), QStringLiteral("Esquema")));
+        ASSERT_TRUE(r.Vincular(e.Trabajo())) << r.Error().toStdString();
+        EXPECT_EQ(r.PlantillaActual().horizontal, horizontal) << ejemplo;
+    }
+}

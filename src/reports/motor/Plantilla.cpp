@@ -120,6 +120,7 @@ bool LeerPlantilla(const QString& ruta, Plantilla& p, QString& error) {
     p.nombre = nombre;
     p.titulo = o.value(QLatin1String("titulo")).toString();
     p.horizontal = o.value(QLatin1String("orientacion")).toString() == QLatin1String("horizontal");
+    p.orientacionDelDibujo = o.value(QLatin1String("orientacion")).toString() == QLatin1String("dibujo");
     p.encabezado = o.value(QLatin1String("encabezado")).toBool(true);
     p.pie = o.value(QLatin1String("pie")).toBool(true);
     for (const QJsonValue& v : o.value(QLatin1String("secciones")).toArray()) p.secciones.push_back(LeerSeccion(v.toObject()));

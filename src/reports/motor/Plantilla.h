@@ -71,6 +71,9 @@ struct Plantilla {
     QString nombre;  // base name, as the older .rpt
     QString titulo;
     bool horizontal = false;
+    // "orientacion": "dibujo": turned when the report is bound, landscape
+    // when its first picture is wider than tall.
+    bool orientacionDelDibujo = false;
     bool encabezado = true;  // the page header with the general data
     bool pie = true;         // "Página N de M"
     std::vector<SeccionPlantilla> secciones;

@@ -1,5 +1,6 @@
 #include "reports/motor/Reporte.h"
 
+#include "pictures/Dibujo.h"
 #include "reports/motor/ComposicionReporte.h"
 
 #include <QPdfWriter>
@@ -14,7 +15,16 @@ bool Reporte::Abrir(const QString& rutaPrograma, const QString& nombre, bool acu
 }
 
 bool Reporte::Vincular(const QString& rutaBase, const QString& rutaGenerales) {
-    return CargarDatosReporte(rutaBase, plantilla_, datos_, error_, rutaGenerales);
+    if (!CargarDatosReporte(rutaBase, plantilla_, datos_, error_, rutaGenerales)) return false;
+    // A page turned to the shape of its picture: a tall building stands, a
+    // wide town lies.
+    if (plantilla_.orientacionDelDibujo)
+        for (const SeccionPlantilla& s : plantilla_.secciones)
+            if (const auto d = datos_.dibujos.value(s.dibujo)) {
+                plantilla_.horizontal = d->TamanoNatural().width() > d->TamanoNatural().height();
+                break;
+            }
+    return true;
 }
 
 int Reporte::Imprimir(QPagedPaintDevice& d) {
