@@ -25,8 +25,10 @@ struct Termino {
     double d, w;
 };
 
-std::vector<double> Dijkstra(const Vecinos& g, int origen) {
+// Distances from `origen` along the network and the node each is reached from.
+std::vector<double> Dijkstra(const Vecinos& g, int origen, std::vector<int>& previo) {
     std::vector<double> d(g.size(), Infinito);
+    previo.assign(g.size(), -1);
     using Par = std::pair<double, int>;
     std::priority_queue<Par, std::vector<Par>, std::greater<Par>> cola;
     d[size_t(origen)] = 0;
@@ -38,10 +40,58 @@ std::vector<double> Dijkstra(const Vecinos& g, int origen) {
         for (const Vecino& v : g[size_t(u)])
             if (dist + v.largo < d[size_t(v.nodo)]) {
                 d[size_t(v.nodo)] = dist + v.largo;
+                previo[size_t(v.nodo)] = u;
                 cola.push({d[size_t(v.nodo)], v.nodo});
             }
     }
     return d;
+}
+
+std::vector<double> Dijkstra(const Vecinos& g, int origen) {
+    std::vector<int> previo;
+    return Dijkstra(g, origen, previo);
+}
+
+// A branched network laid out as a tree from its centre: each node at its
+// distance along the network from the centre, each branch in a wedge as
+// wide as its share of the dead ends, so that the branches keep apart.
+std::vector<QPointF> Radial(const Vecinos& g) {
+    const int m = int(g.size());
+    auto masLejano = [](const std::vector<double>& d) { return int(std::max_element(d.begin(), d.end()) - d.begin()); };
+    // The centre: the node midway along the longest path (two sweeps).
+    const int a = masLejano(Dijkstra(g, 0));
+    const std::vector<double> da = Dijkstra(g, a);
+    const std::vector<double> db = Dijkstra(g, masLejano(da));
+    int centro = 0;
+    for (int i = 1; i < m; ++i)
+        if (std::max(da[size_t(i)], db[size_t(i)]) < std::max(da[size_t(centro)], db[size_t(centro)])) centro = i;
+    std::vector<int> previo;
+    const std::vector<double> d = Dijkstra(g, centro, previo);
+    std::vector<int> orden(static_cast<size_t>(m));
+    std::iota(orden.begin(), orden.end(), 0);
+    std::stable_sort(orden.begin(), orden.end(), [&](int i, int j) { return d[size_t(i)] < d[size_t(j)]; });
+    std::vector<std::vector<int>> hijos(static_cast<size_t>(m));
+    for (int i : orden)
+        if (previo[size_t(i)] >= 0) hijos[size_t(previo[size_t(i)])].push_back(i);
+    std::vector<double> hojas(static_cast<size_t>(m), 0.0);
+    for (auto it = orden.rbegin(); it != orden.rend(); ++it) {
+        const size_t i = size_t(*it);
+        hojas[i] = std::max(hojas[i], 1.0);
+        if (previo[i] >= 0) hojas[size_t(previo[i])] += hojas[i];
+    }
+    std::vector<double> desde(static_cast<size_t>(m), 0.0), ancho(static_cast<size_t>(m), 2 * M_PI);
+    std::vector<QPointF> x(static_cast<size_t>(m));
+    for (int i : orden) {
+        const double angulo = desde[size_t(i)] + ancho[size_t(i)] / 2;
+        x[size_t(i)] = QPointF(d[size_t(i)] * std::cos(angulo), d[size_t(i)] * std::sin(angulo));
+        double inicio = desde[size_t(i)];
+        for (int h : hijos[size_t(i)]) {
+            desde[size_t(h)] = inicio;
+            ancho[size_t(h)] = ancho[size_t(i)] * hojas[size_t(h)] / hojas[size_t(i)];
+            inicio += ancho[size_t(h)];
+        }
+    }
+    return x;
 }
 
 // Pivot MDS: the two leading directions of the double-centred squared
@@ -204,7 +254,13 @@ std::vector<QPointF> DisponerComponente(const Vecinos& g, const std::vector<std:
     for (int i = 0; i < m; ++i)
         for (const Vecino& v : g[size_t(i)])
             if (v.nodo > i) terminos.push_back({i, v.nodo, v.largo, PesoTubo / (v.largo * v.largo)});
-    std::vector<QPointF> x = PivotMDS(dp, m);
+    // A large branched network (a loop or none per five hundred nodes)
+    // starts as a tree from its centre: a projection folds its long chains
+    // onto each other, and so does a descent that sees few of its pairs.
+    size_t tubos = 0;
+    for (const auto& v : g) tubos += v.size();
+    const bool ramificada = m > LimitePares && tubos / 2 + 1 <= size_t(m) + size_t(m) / 500;
+    std::vector<QPointF> x = ramificada ? Radial(g) : PivotMDS(dp, m);
     // The scale that fits the distances best, before the descent.
     double num = 0, den = 0;
     for (const Termino& t : terminos) {
@@ -232,7 +288,10 @@ std::vector<QPointF> DisponerComponente(const Vecinos& g, const std::vector<std:
         wMax = std::max(wMax, t.w);
     }
     const int iteraciones = m <= LimitePares ? 30 : 20;
-    const double etaMax = 1.0 / wMin, etaMin = 0.1 / wMax;
+    const double etaMin = 0.1 / wMax;
+    // From the tree the descent starts halfway down its steps, so that it
+    // straightens the sections and keeps the branches where the tree put them.
+    const double etaMax = ramificada ? std::sqrt(etaMin / wMin) : 1.0 / wMin;
     const double lambda = std::log(etaMax / etaMin) / (iteraciones - 1);
     std::mt19937 azar(11);
     for (int it = 0; it < iteraciones; ++it) {
