@@ -15,12 +15,12 @@ bool ExtensionDibujoValida(const QString& ruta, QString& error) {
     return false;
 }
 
-int Dibujar(const QJsonObject& datos, const QString& ruta, const QStringList& extra) {
+int Dibujar(const QJsonObject& datos, const QString& ruta) {
     QTemporaryFile temporal(QStringLiteral("%1/fontaria-dibujo-XXXXXX.json").arg(QDir::tempPath()));
     if (!temporal.open() || temporal.write(QJsonDocument(datos).toJson(QJsonDocument::Compact)) < 0 ||
         !temporal.flush())
         return Fallar(QStringLiteral("No se pudo preparar el dibujo en la carpeta temporal."));
     // The drawer says what went wrong on the shared stderr.
-    return EjecutarVecino("fontaria-dibujo", QStringList{temporal.fileName(), ruta} + extra) == 0 ? Salida::Bien
+    return EjecutarVecino("fontaria-dibujo", QStringList{temporal.fileName(), ruta}) == 0 ? Salida::Bien
                                                                                                   : Salida::Falla;
 }

@@ -12,6 +12,6 @@
 // extensions (.png, .svg, .pdf): checked before any work is done.
 bool ExtensionDibujoValida(const QString& ruta, QString& error);
 
-// Draws `datos` to `ruta`; `extra` goes to the drawer after the paths.
+// Draws `datos` to `ruta` ("color" and "blancoNegro" in it say how).
 // Returns an exit status of the command line, the message already shown.
-int Dibujar(const QJsonObject& datos, const QString& ruta, const QStringList& extra = {});
+int Dibujar(const QJsonObject& datos, const QString& ruta);

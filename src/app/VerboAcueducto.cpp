@@ -1,5 +1,5 @@
 // fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]
-//                          [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida]]
+//                          [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida] [--blanco-y-negro]]
 //                          [--limite-iteraciones N]  (for tests: a pass that does not converge)
 // fontaria acueducto exportar X.acu | importar datos.json X.acu
 // fontaria acueducto importar-inp red.inp X.acu [--bomba-como-carga] [--c-por-defecto]
@@ -44,7 +44,7 @@ private:
 
 const char* UsoAcueducto() {
     return "Uso: fontaria acueducto X.acu [--caso 1|2|3] [--json] [--corregir-direccion]\n"
-           "     [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida]]\n"
+           "     [--plano dibujo.svg|.png|.pdf [--color velocidad|perdida] [--blanco-y-negro]]\n"
            "     fontaria acueducto exportar X.acu | importar datos.json X.acu\n"
            "     fontaria acueducto importar-inp red.inp X.acu [--bomba-como-carga] [--c-por-defecto]\n"
            "     fontaria acueducto exportar-inp X.acu red.inp";
@@ -58,6 +58,7 @@ struct Opciones {
     int limite = 0;  // 0: the solver's own
     QString plano;   // the picture to draw, null when none
     bool colorPerdida = false;
+    bool blancoNegro = false;
 };
 
 bool LeerOpciones(const QStringList& args, Opciones& o, QString& error) {
@@ -88,6 +89,8 @@ bool LeerOpciones(const QStringList& args, Opciones& o, QString& error) {
                 return false;
             }
             o.colorPerdida = c == QLatin1String("perdida");
+        } else if (a == QLatin1String("--blanco-y-negro")) {
+            o.blancoNegro = true;
         } else if (a == QLatin1String("--limite-iteraciones")) {
             bool ok = false;
             o.limite = i + 1 < args.size() ? args[++i].toInt(&ok) : 0;
@@ -186,8 +189,10 @@ int Analizar(const Opciones& o) {
         fprintf(stderr, "%s\n", mensaje.toUtf8().constData());
     }
     if (!o.plano.isNull()) {
-        const int estado = Dibujar(PlanoComoJson(PlanoDeProyecto(p, CoordenadasNodos(p))), o.plano,
-                                   o.colorPerdida ? QStringList{QStringLiteral("perdida")} : QStringList{});
+        QJsonObject plano = PlanoComoJson(PlanoDeProyecto(p, CoordenadasNodos(p)));
+        if (o.colorPerdida) plano[QStringLiteral("color")] = QStringLiteral("perdida");
+        plano[QStringLiteral("blancoNegro")] = o.blancoNegro;
+        const int estado = Dibujar(plano, o.plano);
         if (estado != Salida::Bien) return estado;
     }
     if (o.json)

@@ -109,12 +109,14 @@ void ImprimirGrids(const AnalisisRed& a) {
 
 }  // namespace
 
-// fontaria analizar X.plm [--json|--grids] [--esquema dibujo.svg|.png|.pdf]
+// fontaria analizar X.plm [--json|--grids] [--esquema dibujo.svg|.png|.pdf [--blanco-y-negro]]
 int VerboAnalizar(const QStringList& args) {
     const ArgumentosVerbo a =
-        LeerArgumentos(args, {QStringLiteral("esquema")}, {QStringLiteral("json"), QStringLiteral("grids")});
+        LeerArgumentos(args, {QStringLiteral("esquema")},
+                       {QStringLiteral("json"), QStringLiteral("grids"), QStringLiteral("blanco-y-negro")});
     if (!a.error.isEmpty() || a.archivo.isEmpty())
-        return FallaDeUso(a, "Uso: fontaria analizar X.plm [--json|--grids] [--esquema dibujo.svg|.png|.pdf]");
+        return FallaDeUso(
+            a, "Uso: fontaria analizar X.plm [--json|--grids] [--esquema dibujo.svg|.png|.pdf [--blanco-y-negro]]");
     const QString esquema = a.Valor(QStringLiteral("esquema"));
     QString error;
     if (!esquema.isNull() && !ExtensionDibujoValida(esquema, error)) return Fallar(error);
@@ -140,7 +142,9 @@ int VerboAnalizar(const QStringList& args) {
             return Salida::DatosInvalidos;
         }
         if (!esquema.isNull()) {
-            const int estado = Dibujar(EsquemaComoJson(EsquemaDeProyecto(p, &analisis.Spread3)), esquema);
+            QJsonObject dibujo = EsquemaComoJson(EsquemaDeProyecto(p, &analisis.Spread3));
+            dibujo[QStringLiteral("blancoNegro")] = a.Tiene(QStringLiteral("blanco-y-negro"));
+            const int estado = Dibujar(dibujo, esquema);
             if (estado != Salida::Bien) return estado;
         }
         if (json) ImprimirJson(ResultadosComoJson(p, QString(), &analisis));

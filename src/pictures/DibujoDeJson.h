@@ -1,7 +1,8 @@
 #pragma once
 // A picture from the JSON form that the command line hands the drawer and
 // the report tables keep: a schematic ("tipo": "esquema") or a plan
-// ("tipo": "plano"), coloured by unit loss when "color" is "perdida".
+// ("tipo": "plano"), coloured by unit loss when "color" is "perdida"; in
+// black and white when "blancoNegro" is true.
 
 #include <QJsonObject>
 #include <QString>

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileInfo>
+#include <QImage>
 #include <QPushButton>
 #include <QTabWidget>
 
@@ -106,6 +107,19 @@ TEST(LineaDibujos, AnalizarYAcueductoDibujanYRechazanOtraExtension) {
                                 QStringLiteral("--plano"), sp.Datos(QStringLiteral("p.pdf"))}, nullptr, &errores), 0)
         << errores.toStdString();
     EXPECT_TRUE(LeerArchivo(sp.Datos(QStringLiteral("p.pdf"))).startsWith("%PDF"));
+    // Asked in black and white, the PNG holds greys only.
+    EXPECT_EQ(EjecutarPrograma({QStringLiteral("acueducto"), acu, QStringLiteral("--plano"), sp.Datos(QStringLiteral("p.png")),
+                                QStringLiteral("--blanco-y-negro")}, nullptr, &errores), 0)
+        << errores.toStdString();
+    const QImage gris(sp.Datos(QStringLiteral("p.png")));
+    ASSERT_FALSE(gris.isNull());
+    bool soloGris = true;
+    for (int y = 0; y < gris.height(); ++y)
+        for (int x = 0; x < gris.width(); ++x) {
+            const QColor c = gris.pixelColor(x, y);
+            soloGris = soloGris && std::abs(c.red() - c.green()) <= 2 && std::abs(c.green() - c.blue()) <= 2;
+        }
+    EXPECT_TRUE(soloGris);
 
     for (const QStringList& args : {QStringList{QStringLiteral("analizar"), plm, QStringLiteral("--esquema"), sp.Datos(QStringLiteral("e.jpg"))},
                                     QStringList{QStringLiteral("acueducto"), acu, QStringLiteral("--plano"), sp.Datos(QStringLiteral("e.jpg"))}}) {

@@ -35,8 +35,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(Mensajes);
     QGuiApplication app(argc, argv);
     const QStringList args = app.arguments();
-    if (args.size() != 3 && args.size() != 4)
-        return Fallar(QStringLiteral("Uso: fontaria-dibujo datos.json dibujo.png|.svg|.pdf [perdida]"));
+    if (args.size() != 3) return Fallar(QStringLiteral("Uso: fontaria-dibujo datos.json dibujo.png|.svg|.pdf"));
     QFile f(args[1]);
     if (!f.open(QIODevice::ReadOnly))
         return Fallar(QStringLiteral("No se puede leer el archivo \"%1\".").arg(args[1]));
@@ -45,10 +44,8 @@ int main(int argc, char** argv) {
     if (e.error != QJsonParseError::NoError)
         return Fallar(QStringLiteral("El archivo \"%1\" no es un JSON válido: %2").arg(args[1], e.errorString()));
 
-    QJsonObject datos = o;
-    if (args.size() == 4 && args[3] == QLatin1String("perdida")) datos[QStringLiteral("color")] = QStringLiteral("perdida");
     QString error;
-    const std::unique_ptr<Dibujo> dibujo = DibujoDeJson(datos, error);
+    const std::unique_ptr<Dibujo> dibujo = DibujoDeJson(o, error);
     if (!dibujo) return Fallar(error);
     if (!ExportarDibujo(*dibujo, args[2], error)) return Fallar(error);
     return 0;
