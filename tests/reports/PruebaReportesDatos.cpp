@@ -269,6 +269,8 @@ TEST(ReportesDatos, CadaOrigenImprimeSuPlantillaEnPdf) {
         const QString texto = TextoPdf(pdf);
         EXPECT_TRUE(texto.contains(TituloOrigen(k.origen))) << k.plantilla;
         EXPECT_TRUE(texto.contains(QString::fromUtf8(k.texto))) << k.plantilla << ": " << k.texto;
+        // Every foot names the program's version, a project's copy too.
+        EXPECT_TRUE(texto.contains(QStringLiteral("Nivo-Fontaria 2024"))) << k.plantilla;
     }
     EXPECT_FALSE(ImpreGeneral(5, a.sp.s, a.d, a.salida).Check3Visible());
     EXPECT_TRUE(ImpreGeneral(7, a.sp.s, a.d, a.salida).Check3Visible());

@@ -3,6 +3,7 @@
 #include "pictures/Dibujo.h"
 #include "pictures/DibujoDeJson.h"
 #include "pictures/ExportarDibujo.h"
+#include "shell/Titulos.h"
 #include "store/Conexion.h"
 
 #include <QBuffer>
@@ -106,7 +107,11 @@ Valor TablaReporte::Celda(int fila, const ColumnaPlantilla& c) const {
 
 QString DatosReporte::General(const QString& campo) const {
     if (const auto t = textosGenerales.constFind(campo); t != textosGenerales.cend()) return *t;
-    return ComoTexto(generales.Dato(0, camposGenerales.value(campo, campo)));
+    const QString fuente = camposGenerales.value(campo, campo);
+    // A copy of a project keeps no version: the program that prints it is
+    // the one the foot names.
+    if (campo == QLatin1String("Version") && generales.Indice(fuente) < 0) return EtiquetaVersion();
+    return ComoTexto(generales.Dato(0, fuente));
 }
 
 QByteArray DatosReporte::PngDibujo(const QString& nombre) const {
