@@ -293,26 +293,42 @@ std::vector<QPointF> DisponerComponente(const Vecinos& g, const std::vector<std:
     // straightens the sections and keeps the branches where the tree put them.
     const double etaMax = ramificada ? std::sqrt(etaMin / wMin) : 1.0 / wMin;
     const double lambda = std::log(etaMax / etaMin) / (iteraciones - 1);
+    // Terms between two placed nodes move nothing.
+    std::vector<char> fijo(static_cast<size_t>(m));
+    for (int i = 0; i < m; ++i) fijo[size_t(i)] = fijos[size_t(i)].has_value();
+    terminos.erase(std::remove_if(terminos.begin(), terminos.end(),
+                                  [&](const Termino& t) { return fijo[size_t(t.i)] && fijo[size_t(t.j)]; }),
+                   terminos.end());
+    // The terms shuffled once, then each pass takes their blocks in an
+    // order of its own: as good a descent as shuffling them all anew, which
+    // cost more than the descent itself on a large town.
     std::mt19937 azar(11);
+    std::shuffle(terminos.begin(), terminos.end(), azar);
+    const size_t bloque = std::max<size_t>(64, terminos.size() / 4096 + 1);
+    std::vector<size_t> bloques((terminos.size() + bloque - 1) / bloque);
+    std::iota(bloques.begin(), bloques.end(), size_t(0));
     for (int it = 0; it < iteraciones; ++it) {
         const double eta = etaMax * std::exp(-lambda * it);
-        std::shuffle(terminos.begin(), terminos.end(), azar);
-        for (const Termino& t : terminos) {
-            const bool fi = bool(fijos[size_t(t.i)]), fj = bool(fijos[size_t(t.j)]);
-            if (fi && fj) continue;
-            QPointF e = x[size_t(t.i)] - x[size_t(t.j)];
-            double l = std::hypot(e.x(), e.y());
-            if (l < 1e-9) {
+        std::shuffle(bloques.begin(), bloques.end(), azar);
+        for (size_t b : bloques)
+        for (size_t k = b * bloque, fin = std::min(k + bloque, terminos.size()); k < fin; ++k) {
+            const Termino& t = terminos[k];
+            QPointF& xi = x[size_t(t.i)];
+            QPointF& xj = x[size_t(t.j)];
+            QPointF e = xi - xj;
+            double l2 = e.x() * e.x() + e.y() * e.y();
+            if (l2 < 1e-18) {
                 e = QPointF(1e-6 * (t.i - t.j), 1e-6);
-                l = std::hypot(e.x(), e.y());
+                l2 = e.x() * e.x() + e.y() * e.y();
             }
+            const double l = std::sqrt(l2);
             const double mu = std::min(t.w * eta, 1.0);
             const QPointF r = e * ((l - t.d) / l * mu);
-            if (fi) x[size_t(t.j)] += r;
-            else if (fj) x[size_t(t.i)] -= r;
+            if (fijo[size_t(t.i)]) xj += r;
+            else if (fijo[size_t(t.j)]) xi -= r;
             else {
-                x[size_t(t.i)] -= r / 2.0;
-                x[size_t(t.j)] += r / 2.0;
+                xi -= r / 2.0;
+                xj += r / 2.0;
             }
         }
     }
