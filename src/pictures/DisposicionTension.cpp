@@ -307,29 +307,31 @@ std::vector<QPointF> DisponerComponente(const Vecinos& g, const std::vector<std:
     const size_t bloque = std::max<size_t>(64, terminos.size() / 4096 + 1);
     std::vector<size_t> bloques((terminos.size() + bloque - 1) / bloque);
     std::iota(bloques.begin(), bloques.end(), size_t(0));
+    // One step of the descent: the two ends of a term moved toward its distance.
+    const auto acercar = [&](const Termino& t, double eta) {
+        QPointF& xi = x[size_t(t.i)];
+        QPointF& xj = x[size_t(t.j)];
+        QPointF e = xi - xj;
+        double l2 = e.x() * e.x() + e.y() * e.y();
+        if (l2 < 1e-18) {
+            e = QPointF(1e-6 * (t.i - t.j), 1e-6);
+            l2 = e.x() * e.x() + e.y() * e.y();
+        }
+        const double l = std::sqrt(l2);
+        const QPointF r = e * ((l - t.d) / l * std::min(t.w * eta, 1.0));
+        if (fijo[size_t(t.i)]) xj += r;
+        else if (fijo[size_t(t.j)]) xi -= r;
+        else {
+            xi -= r / 2.0;
+            xj += r / 2.0;
+        }
+    };
     for (int it = 0; it < iteraciones; ++it) {
         const double eta = etaMax * std::exp(-lambda * it);
         std::shuffle(bloques.begin(), bloques.end(), azar);
-        for (size_t b : bloques)
-        for (size_t k = b * bloque, fin = std::min(k + bloque, terminos.size()); k < fin; ++k) {
-            const Termino& t = terminos[k];
-            QPointF& xi = x[size_t(t.i)];
-            QPointF& xj = x[size_t(t.j)];
-            QPointF e = xi - xj;
-            double l2 = e.x() * e.x() + e.y() * e.y();
-            if (l2 < 1e-18) {
-                e = QPointF(1e-6 * (t.i - t.j), 1e-6);
-                l2 = e.x() * e.x() + e.y() * e.y();
-            }
-            const double l = std::sqrt(l2);
-            const double mu = std::min(t.w * eta, 1.0);
-            const QPointF r = e * ((l - t.d) / l * mu);
-            if (fijo[size_t(t.i)]) xj += r;
-            else if (fijo[size_t(t.j)]) xi -= r;
-            else {
-                xi -= r / 2.0;
-                xj += r / 2.0;
-            }
+        for (size_t b : bloques) {
+            const size_t fin = std::min((b + 1) * bloque, terminos.size());
+            for (size_t k = b * bloque; k < fin; ++k) acercar(terminos[k], eta);
         }
     }
     return x;
