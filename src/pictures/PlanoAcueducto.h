@@ -70,9 +70,10 @@ public:
 
     // The labels a paint through `mundo` into `destino` draws: each beside
     // its node, where it meets no other label, nor the legend or the scale,
-    // and when it can no marker, then no pipe.  One that finds no room is left out, or
-    // with `todasLasEtiquetas` takes the place that overlaps least.  Labels
-    // keep their size in pixels, so where they go depends on the scale.
+    // and where it can, no marker and then no pipe.  One that finds no room
+    // is left out, or with `todasLasEtiquetas` takes the place that
+    // overlaps least.  Labels keep their size in pixels, so where they go
+    // depends on the scale.
     std::vector<EtiquetaPlano> Etiquetas(const QTransform& mundo, const QRectF& destino, bool todasLasEtiquetas) const;
 
 private:
