@@ -458,9 +458,26 @@ void PlanoAcueducto::PintarEscala(QPainter& p, const Escala& e) const {
     p.drawText(o + QPointF(e.pixeles + 6, 4), e.texto);
 }
 
+// The network's name in the legend: on two lines when one is too short,
+// broken between words, the rest elided.
+QStringList PlanoAcueducto::TituloLeyenda() const {
+    const QFontMetricsF m(fuenteNegrita_);
+    const double ancho = AnchoLeyenda - 30;
+    const QString t = datos_.titulo.simplified();
+    if (m.horizontalAdvance(t) <= ancho) return {t};
+    const QStringList palabras = t.split(QLatin1Char(' '));
+    QString primera;
+    int k = 0;
+    while (k < palabras.size() && m.horizontalAdvance(primera + QLatin1Char(' ') + palabras[k]) <= ancho)
+        primera += (primera.isEmpty() ? QString() : QStringLiteral(" ")) + palabras[k++];
+    if (primera.isEmpty()) return {m.elidedText(t, Qt::ElideRight, ancho)};
+    return {primera, m.elidedText(palabras.mid(k).join(QLatin1Char(' ')), Qt::ElideRight, ancho)};
+}
+
 QRectF PlanoAcueducto::CajaLeyenda(const QRectF& destino) const {
     const double linea = QFontMetricsF(fuente_).height() + 3;
-    const int filas = 3 + int(clases_.colores.size()) + 1 + int(presiones_.colores.size()) + 4 + (dispuesto_ ? 2 : 0);
+    const int filas = 2 + int(TituloLeyenda().size()) + int(clases_.colores.size()) + 1 + int(presiones_.colores.size()) +
+                      4 + (dispuesto_ ? 2 : 0);
     const double ancho = AnchoLeyenda - 16;
     return QRectF(destino.right() - ancho - 8, destino.top() + 8, ancho, filas * linea + 10);
 }
@@ -487,7 +504,7 @@ void PlanoAcueducto::PintarLeyenda(QPainter& p, const QRectF& destino) const {
                    QFontMetricsF(p.font()).elidedText(t, Qt::ElideRight, ancho - 14));
         y += linea;
     };
-    texto(datos_.titulo, true);
+    for (const QString& t : TituloLeyenda()) texto(t, true);
     texto(datos_.caso, false);
     texto(clases_.titulo, true);
     const char* mascara = modo_ == ColorPlano::Velocidad ? "0.0" : "0";

@@ -91,6 +91,7 @@ private:
     void PintarMarcaNodo(QPainter& p, int k, const QPointF& c, bool todos) const;
     void PintarLeyenda(QPainter& p, const QRectF& destino) const;
     QRectF CajaLeyenda(const QRectF& destino) const;
+    QStringList TituloLeyenda() const;
     // The scale bar: a round length, its pixels and its text.
     struct Escala {
         double pixeles = 0.0;
