@@ -225,6 +225,7 @@ TEST(ReportesAcueducto, ElPlanoSaleEnSuPlantillaEnTodasLasTablasYEnCadaFormato) 
         for (const QString& palabra : r.p.Nodos[k].simplified().split(QLatin1Char(' ')))
             EXPECT_TRUE(plano.contains(palabra)) << palabra.toStdString();
     EXPECT_TRUE(plano.contains(QStringLiteral("Velocidad (m/s)")));
+    EXPECT_TRUE(plano.contains(QStringLiteral("0,3 a 0,6")));  // the second class, with es_AR's comma
     EXPECT_TRUE(plano.contains(QStringLiteral("Caso: ConsumoMedio")));
     for (const char* todas : {"ResultadosTodo", "ResultadosTodoD"})
         EXPECT_TRUE(r.Pdf(QString::fromLatin1(todas)).contains(QStringLiteral("Plano de la red"))) << todas;
