@@ -287,8 +287,12 @@ QRectF Dentro(QRectF r, const QRectF& z) {
 
 std::vector<EtiquetaPlano> PlanoAcueducto::Etiquetas(const QTransform& mundo, const QRectF& destino,
                                                      bool todasLasEtiquetas) const {
+    return EtiquetasDe(DetalleDe(mundo, destino, todasLasEtiquetas), mundo, destino, todasLasEtiquetas);
+}
+
+std::vector<EtiquetaPlano> PlanoAcueducto::EtiquetasDe(const Detalle& d, const QTransform& mundo,
+                                                       const QRectF& destino, bool todasLasEtiquetas) const {
     std::vector<EtiquetaPlano> puestas;
-    const Detalle d = DetalleDe(mundo, destino, todasLasEtiquetas);
     if (!d.etiquetas || destino.isEmpty()) return puestas;
     const QFontMetricsF m(fuenteNegrita_), mNormal(fuente_);
     // Cells of a few labels each, never more than some thousands of them.
@@ -404,7 +408,7 @@ void PlanoAcueducto::Pintar(QPainter& p, const QTransform& mundo, const QRectF& 
     for (int k : detalle.nodos) PintarMarcaNodo(p, k, mundo.map(posiciones_[size_t(k)]), detalle.marcas);
     if (detalle.etiquetas) {
         const QFontMetricsF m(fuenteNegrita_);
-        for (const EtiquetaPlano& e : Etiquetas(mundo, destino, todasLasEtiquetas)) {
+        for (const EtiquetaPlano& e : EtiquetasDe(detalle, mundo, destino, todasLasEtiquetas)) {
             const NodoPlano& x = datos_.nodos[size_t(e.nodo)];
             // A light ground keeps the label readable over the pipes.
             p.fillRect(e.caja, QColor(255, 255, 255, 190));
@@ -468,8 +472,8 @@ QStringList PlanoAcueducto::TituloLeyenda() const {
     const QStringList palabras = t.split(QLatin1Char(' '));
     QString primera;
     int k = 0;
-    while (k < palabras.size() && m.horizontalAdvance(primera + QLatin1Char(' ') + palabras[k]) <= ancho)
-        primera += (primera.isEmpty() ? QString() : QStringLiteral(" ")) + palabras[k++];
+    const auto con = [&](int i) { return primera.isEmpty() ? palabras[i] : primera + QLatin1Char(' ') + palabras[i]; };
+    while (k < palabras.size() && m.horizontalAdvance(con(k)) <= ancho) primera = con(k++);
     if (primera.isEmpty()) return {m.elidedText(t, Qt::ElideRight, ancho)};
     return {primera, m.elidedText(palabras.mid(k).join(QLatin1Char(' ')), Qt::ElideRight, ancho)};
 }

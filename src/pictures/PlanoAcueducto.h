@@ -84,6 +84,8 @@ private:
         bool marcas = false, etiquetas = false;
     };
     Detalle DetalleDe(const QTransform& mundo, const QRectF& destino, bool todasLasEtiquetas) const;
+    std::vector<EtiquetaPlano> EtiquetasDe(const Detalle& d, const QTransform& mundo, const QRectF& destino,
+                                           bool todasLasEtiquetas) const;
     // Half the size of node k's marker on the page, its ring included.
     double RadioMarca(int k) const;
     QPen PlumaClase(int clase) const;

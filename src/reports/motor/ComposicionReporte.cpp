@@ -364,13 +364,14 @@ private:
         Linea(Margen, y_, Margen + Ancho(), y_, estilo_.linea);
     }
 
-    // The picture fills the rest of the page, or a page of its own when less
-    // than half a page is left; framed, under its title.
+    // The picture fills the rest of the page (or its `alto`), starting a
+    // page of its own when less than half a page (or its `alto`) is left;
+    // framed, under its title.
     void Dibujo(const SeccionPlantilla& s) {
         const double altoTitulo = s.titulo.isEmpty() ? 0.0 : 15.0;
         const auto cuerpo = [&] { return Fondo() - y_ - altoTitulo; };
-        const double pedido = s.alto > 0.0 ? s.alto : (Fondo() - Margen) / 2;
-        if (cuerpo() < std::min(pedido, (Fondo() - Margen) / 2)) NuevaPagina();
+        const double pagina = Fondo() - Margen - altoTitulo;
+        if (cuerpo() < (s.alto > 0.0 ? std::min(s.alto, pagina) : pagina / 2)) NuevaPagina();
         SeccionTitulo(s);
         const double alto = s.alto > 0.0 ? std::min(s.alto, cuerpo()) : cuerpo();
         const QRectF r(Margen, y_, Ancho(), alto);
